@@ -1,0 +1,44 @@
+#include "platform/Clock.h"
+
+#include <QRandomGenerator>
+
+#include <thread>
+
+namespace vidora {
+
+Instant SystemClock::now() const
+{
+    return std::chrono::time_point_cast<Milliseconds>(std::chrono::system_clock::now());
+}
+
+FixedClock::FixedClock(Instant instant)
+    : m_milliseconds(unixMilliseconds(instant))
+{
+}
+
+Instant FixedClock::now() const
+{
+    return instantFromUnixMilliseconds(m_milliseconds);
+}
+
+void FixedClock::set(Instant instant)
+{
+    m_milliseconds = unixMilliseconds(instant);
+}
+
+void FixedClock::advance(Milliseconds step)
+{
+    m_milliseconds += step.count();
+}
+
+std::uint32_t SystemRandom::uniform(std::uint32_t bound)
+{
+    return QRandomGenerator::global()->bounded(bound);
+}
+
+void SystemSleeper::sleep(Milliseconds duration)
+{
+    std::this_thread::sleep_for(duration);
+}
+
+} // namespace vidora
