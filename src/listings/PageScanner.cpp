@@ -1,0 +1,135 @@
+#include "listings/PageScanner.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace vidora {
+
+namespace {
+
+bool isAscii(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
+}
+
+bool isLineEnd(QChar unit)
+{
+    const char16_t code = unit.unicode();
+    return (code >= 0x0a && code <= 0x0d) || code == 0x85 || code == 0x2028 || code == 0x2029;
+}
+
+bool combines(QStringView text, qsizetype at)
+{
+    if (at >= text.size() || text[at].unicode() < 0x300)
+        return false;
+    if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate())
+        return QChar::isMark(QChar::surrogateToUcs4(text[at], text[at + 1]));
+    return text[at].isMark();
+}
+
+std::optional<PageScanner::Match> findWhole(const PageScanner& page, QStringView marker, qsizetype from, qsizetype to)
+{
+    while (const auto match = page.find(marker, from, to)) {
+        if (!combines(page.text(), match->end))
+            return match;
+        from = match->at + 1;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void PageScanner::check(qsizetype from, qsizetype to) const
+{
+    if (from < 0 || to > m_text.size() || from > to)
+        throw RangeException("range past the end of the page");
+}
+
+std::optional<PageScanner::Match> PageScanner::find(QStringView marker, qsizetype from, qsizetype to) const
+{
+    check(from, to);
+    if (marker.isEmpty())
+        return std::nullopt;
+    const qsizetype at = m_text.sliced(0, to).indexOf(marker, from);
+    if (at < 0)
+        return std::nullopt;
+    return Match{at, at + marker.size()};
+}
+
+std::optional<PageScanner::Match> PageScanner::findBackward(QStringView marker, qsizetype from, qsizetype to) const
+{
+    check(from, to);
+    if (marker.isEmpty())
+        return std::nullopt;
+    const qsizetype at = m_text.sliced(from, to - from).lastIndexOf(marker);
+    if (at < 0)
+        return std::nullopt;
+    return Match{from + at, from + at + marker.size()};
+}
+
+std::optional<PageScanner::Match> PageScanner::findPlain(QStringView marker, qsizetype from, qsizetype to) const
+{
+    if (isAscii(marker))
+        return findWhole(*this, marker, from, to);
+    const QString text = marker.toString();
+    const QString composed = text.normalized(QString::NormalizationForm_C);
+    const QString decomposed = text.normalized(QString::NormalizationForm_D);
+    const auto one = findWhole(*this, composed, from, to);
+    const auto other = composed == decomposed ? std::nullopt : findWhole(*this, decomposed, from, to);
+    if (!one || !other)
+        return one ? one : other;
+    return one->at < other->at ? one : other;
+}
+
+std::optional<PageScanner::Match> PageScanner::findExpression(QStringView head, qsizetype least, QStringView tail,
+                                                              qsizetype from, qsizetype to) const
+{
+    while (const auto start = find(head, from, to)) {
+        const auto lineEnd = std::find_if(m_text.begin() + start->end, m_text.begin() + to, isLineEnd);
+        const qsizetype end = lineEnd - m_text.begin();
+        if (start->end + least <= end) {
+            if (const auto match = find(tail, start->end + least, end))
+                return Match{start->at, match->end};
+        }
+        // A later head on this line would meet the same missing tail.
+        from = std::max(end, start->at + 1);
+    }
+    return std::nullopt;
+}
+
+std::optional<PageScanner::Cut> PageScanner::cut(QStringView open, QStringView close, qsizetype from,
+                                                 qsizetype to) const
+{
+    const auto opening = find(open, from, to);
+    if (!opening)
+        return std::nullopt;
+    const auto closing = find(close, opening->end, to);
+    if (!closing)
+        return std::nullopt;
+    return Cut{m_text.sliced(opening->end, closing->at - opening->end), *opening, *closing};
+}
+
+QStringView PageScanner::slice(qsizetype from, qsizetype to) const
+{
+    check(from, to);
+    return m_text.sliced(from, to - from);
+}
+
+QStringView PageScanner::units(qsizetype from, qsizetype count) const
+{
+    if (count < 0 || count > m_text.size())
+        throw RangeException("more units than the page has");
+    return slice(from, from + count);
+}
+
+std::optional<PageScanner::Match> RememberedFind::find(qsizetype from)
+{
+    if (!m_searched || (m_match && m_match->at < from)) {
+        m_match = m_page.find(m_marker, from);
+        m_searched = true;
+    }
+    return m_match;
+}
+
+} // namespace vidora
