@@ -13,6 +13,8 @@ class DeviceSettings
 public:
     static QTimeZone timeZone();
     static QLocale locale();
+    /// Bytes of memory that the machine has.
+    static qint64 physicalMemory();
 };
 
 } // namespace vidora

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/URLSession.h"
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace vidora {
+
+/// The real session: HTTP and HTTPS, with certificates verified. Connections are kept and used again, cookies are
+/// accepted from everyone and kept for the life of the session, a transfer encoding (gzip, deflate) is undone,
+/// redirects are not followed. It doesn't wait for a connection to come up: without one a request fails at once, since
+/// whoever fetches has other sources to try and repeats the whole pass later.
+///
+/// "file:" addresses are read where the request allows it: a regular file on this machine, delivered with status 200,
+/// the content type that its first bytes tell, and "no-store", so that it is read again from where it lies at each
+/// update.
+class NetworkURLSession final : public URLSession
+{
+public:
+    /// A body, decoded, of more bytes than `maximumBodySize` is an error.
+    explicit NetworkURLSession(qint64 maximumBodySize = 512LL * 1024 * 1024);
+    /// No request may be running.
+    ~NetworkURLSession() override;
+
+    URLResult perform(const URLRequest& request) override;
+
+    /// Ends the running requests with an error, and all later ones. For the end of the process; any thread.
+    void invalidateAndCancel();
+
+private:
+    class Transfer;
+    struct Shared;
+
+    std::unique_ptr<Transfer> take();
+    void giveBack(std::unique_ptr<Transfer> transfer);
+    URLResult readFile(const URL& url) const;
+
+    const qint64 m_maximumBodySize;
+    std::atomic<bool> m_cancelled = false;
+    std::unique_ptr<Shared> m_shared;
+    std::mutex m_mutex;
+    std::vector<std::unique_ptr<Transfer>> m_idle;
+    std::vector<Transfer*> m_running;
+};
+
+} // namespace vidora

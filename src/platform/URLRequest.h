@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/HeaderFields.h"
+#include "platform/Instant.h"
+#include "platform/URL.h"
+
+namespace vidora {
+
+enum class CachePolicy
+{
+    ReturnCacheDataElseLoad = 2, ///< what is in the cache, whatever its age, else the network
+    ReturnCacheDataDontLoad = 3  ///< what is in the cache or nothing
+};
+
+/// One GET request. A value; the caller may change and repeat it.
+struct URLRequest
+{
+    explicit URLRequest(URL address)
+        : url(std::move(address))
+    {
+    }
+
+    URL url;
+    CachePolicy cachePolicy = CachePolicy::ReturnCacheDataElseLoad;
+    /// The longest time without a byte from the other side, the connecting included.
+    Milliseconds timeoutIntervalForRequest{20'000};
+    /// The longest time for all of it.
+    Milliseconds timeoutIntervalForResource{60'000};
+    HeaderFields headerFields;
+    /// Whether a "file:" address may be read: for the user's own guide alone, never for an address that came out of a
+    /// document, a catalogue or a redirect.
+    bool allowsFile = false;
+};
+
+} // namespace vidora

@@ -1,0 +1,124 @@
+#include "platform/AtomicFile.h"
+#include "platform/StandardFolders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <gtest/gtest.h>
+
+using namespace vidora;
+
+namespace {
+
+/// Does what the system does, but one step fails, and a failing write leaves half of its bytes behind.
+class FailingLayer final : public FileLayer
+{
+public:
+    explicit FailingLayer(int failingStep)
+        : m_left(failingStep)
+    {
+    }
+    bool failed() const { return m_left < 0; }
+
+    int create(const QString& path, unsigned mode, int& descriptor) override
+    {
+        return step() ? system().create(path, mode, descriptor) : ENOSPC;
+    }
+    int write(int descriptor, QByteArrayView bytes) override
+    {
+        if (step())
+            return system().write(descriptor, bytes);
+        system().write(descriptor, bytes.first(bytes.size() / 2));
+        return ENOSPC;
+    }
+    int sync(int descriptor) override { return step() ? system().sync(descriptor) : EIO; }
+    int close(int descriptor) override
+    {
+        const int result = system().close(descriptor);
+        return step() ? result : EIO;
+    }
+    int rename(const QString& from, const QString& to) override { return step() ? system().rename(from, to) : EIO; }
+    int syncFolder(const QString& folder) override { return step() ? system().syncFolder(folder) : EIO; }
+    int remove(const QString& path) override { return system().remove(path); }
+
+private:
+    bool step() { return m_left-- != 0; }
+    int m_left;
+};
+
+TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
+{
+    const QByteArray old("what was there"), fresh("what is to come, and is longer");
+    bool completed = false;
+    for (int failingStep = 0; !completed; ++failingStep) {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list"));
+        ASSERT_FALSE(AtomicFile::write(path, old, AtomicFile::Access::OwnerOnly));
+        FailingLayer layer(failingStep);
+        const auto error =
+            AtomicFile::write(path, fresh, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
+        completed = !layer.failed();
+        EXPECT_EQ(completed, !error.has_value()) << failingStep;
+        const auto found = AtomicFile::read(path, 1000);
+        ASSERT_TRUE(found) << failingStep;
+        const bool renamed = completed || failingStep == 5;
+        EXPECT_EQ(*found, renamed ? fresh : old) << failingStep;
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << failingStep;
+    }
+}
+
+TEST(AtomicFile, IsReadableByItsOwnerAloneWhereAskedTo)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("new/folder/list"));
+    ASSERT_FALSE(AtomicFile::write(path, "a", AtomicFile::Access::OwnerOnly));
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    EXPECT_EQ(QFile::permissions(folder.filePath(QStringLiteral("new"))) & QFile::ExeOther, QFile::Permissions());
+    ASSERT_FALSE(AtomicFile::write(path, "b", AtomicFile::Access::Everyone, AtomicFile::Durability::Unsynced));
+    EXPECT_TRUE(QFile::permissions(path) & QFile::ReadOther);
+    EXPECT_TRUE(AtomicFile::write(QStringLiteral("/proc/nowhere/list"), "a", AtomicFile::Access::Everyone));
+}
+
+TEST(AtomicFile, ReadsRegularFilesUpToTheLimitOnly)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("list"));
+    ASSERT_FALSE(AtomicFile::write(path, "12345", AtomicFile::Access::OwnerOnly));
+    EXPECT_EQ(AtomicFile::read(path, 5), QByteArray("12345"));
+    EXPECT_FALSE(AtomicFile::read(path, 4));
+    EXPECT_FALSE(AtomicFile::read(folder.path(), 100));
+    EXPECT_FALSE(AtomicFile::read(QStringLiteral("/dev/zero"), 100));
+    EXPECT_FALSE(AtomicFile::read(folder.filePath(QStringLiteral("missing")), 100));
+}
+
+TEST(AtomicFile, RemovesOnlyLeftovers)
+{
+    QTemporaryDir folder;
+    for (const char* name : {"list", "list.partial-1f", ".synchronized"})
+        ASSERT_FALSE(AtomicFile::write(folder.filePath(QLatin1String(name)), "a", AtomicFile::Access::OwnerOnly));
+    AtomicFile::removeLeftovers(folder.path());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+              QStringList({QStringLiteral(".synchronized"), QStringLiteral("list")}));
+}
+
+TEST(StandardFolders, FollowTheEnvironmentOrOneHome)
+{
+    QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
+    qputenv("XDG_CACHE_HOME", "relative");
+    const StandardFolders user = StandardFolders::ofUser();
+    EXPECT_EQ(user.documents, home.filePath(QStringLiteral("data/vidora")));
+    EXPECT_EQ(user.caches, QDir::homePath() + QStringLiteral("/.cache/vidora"));
+    qunsetenv("XDG_DATA_HOME");
+    qunsetenv("XDG_CACHE_HOME");
+
+    const StandardFolders own = StandardFolders::under(home.filePath(QStringLiteral("device/")));
+    EXPECT_EQ(own.settings, home.filePath(QStringLiteral("device/settings")));
+    EXPECT_TRUE(own.make());
+    EXPECT_TRUE(QDir(own.caches).exists());
+    EXPECT_EQ(QFile::permissions(own.documents) & (QFile::ExeGroup | QFile::ExeOther), QFile::Permissions());
+}
+
+} // namespace
