@@ -1,0 +1,186 @@
+#include "store/ShowArchive.h"
+
+#include "platform/Log.h"
+#include "store/ShowArchiveReader.h"
+
+#include <QCborStreamReader>
+#include <QCborStreamWriter>
+
+#include <zlib.h>
+
+namespace vidora {
+
+namespace {
+
+using Writer = QCborStreamWriter;
+
+void write(Writer& writer, const char* key, const std::optional<QString>& text)
+{
+    if (!text)
+        return;
+    writer.append(QLatin1String(key));
+    writer.append(QStringView(*text));
+}
+
+void write(Writer& writer, const char* key, const std::optional<URL>& url)
+{
+    if (!url)
+        return;
+    writer.append(QLatin1String(key));
+    writer.append(QStringView(url->text()));
+}
+
+void write(Writer& writer, const char* key, std::optional<Instant> instant)
+{
+    if (!instant)
+        return;
+    writer.append(QLatin1String(key));
+    writer.append(static_cast<qint64>(unixMilliseconds(*instant)));
+}
+
+void write(Writer& writer, const AttributedText::Run& run)
+{
+    writer.startMap();
+    write(writer, "text", std::optional(run.text));
+    writer.append(QLatin1String("pointSize"));
+    writer.append(run.attributes.pointSize);
+    writer.append(QLatin1String("weight"));
+    writer.append(static_cast<int>(run.attributes.weight));
+    writer.append(QLatin1String("monospacedDigits"));
+    writer.append(run.attributes.monospacedDigits);
+    writer.append(QLatin1String("colour"));
+    writer.append(static_cast<int>(run.attributes.colour));
+    write(writer, "givenColour", std::optional(run.attributes.givenColour));
+    writer.append(QLatin1String("baselineOffset"));
+    writer.append(run.attributes.baselineOffset);
+    writer.endMap();
+}
+
+void write(Writer& writer, const char* key, const std::optional<AttributedText>& text)
+{
+    if (!text)
+        return;
+    writer.append(QLatin1String(key));
+    if (text->isPlain()) {
+        writer.append(QStringView(text->string()));
+        return;
+    }
+    writer.startArray(text->runs().size());
+    for (const AttributedText::Run& run : text->runs())
+        write(writer, run);
+    writer.endArray();
+}
+
+void write(Writer& writer, const TVEntry& entry)
+{
+    writer.startMap();
+    writer.append(QLatin1String("channel"));
+    writer.append(entry.channel().data());
+    write(writer, "realChannelId", entry.sourceId());
+    write(writer, "lang", entry.language());
+    write(writer, "dateTime", entry.dateTime());
+    write(writer, "endDateTime", entry.endDateTime());
+    write(writer, "title", entry.identificator());
+    write(writer, "instantDetails", entry.instantDetails1());
+    write(writer, "subtitle", entry.subtitle1());
+    write(writer, "instantDescription", entry.instantDescription1());
+    write(writer, "url", entry.url());
+    writer.append(QLatin1String("previouslyShown"));
+    writer.append(entry.previouslyShown());
+    writer.endMap();
+}
+
+void write(Writer& writer, const TVEntrySupplementalData& extra)
+{
+    writer.startMap();
+    write(writer, "description", extra.description);
+    write(writer, "episodeDescription", extra.episodeDescription);
+    write(writer, "details", extra.details);
+    write(writer, "directedBy", extra.directedBy);
+    write(writer, "roles", extra.roles);
+    write(writer, "imdbURL", extra.imdbURL);
+    write(writer, "trailerURL", extra.trailerURL);
+    write(writer, "lang", extra.language);
+    writer.endMap();
+}
+
+void write(Writer& writer, const ShowElement& element)
+{
+    const int count = element.count();
+    writer.startArray(static_cast<quint64>(count));
+    write(writer, *element.entry);
+    if (count > 1)
+        writer.append(static_cast<quint64>(element.categories.value_or(0)));
+    if (count > 2)
+        write(writer, element.extra ? *element.extra : TVEntrySupplementalData());
+    if (count > 3) {
+        writer.startArray(element.pictures->size());
+        for (const URL& picture : *element.pictures)
+            writer.append(QStringView(picture.text()));
+        writer.endArray();
+    }
+    writer.endArray();
+}
+
+QByteArray checksum(const QByteArray& bytes, qsizetype size)
+{
+    const auto sum = static_cast<quint32>(
+        adler32_z(1, reinterpret_cast<const Bytef*>(bytes.constData()), static_cast<z_size_t>(size)));
+    QByteArray big(4, Qt::Uninitialized);
+    for (int i = 0; i < 4; ++i)
+        big[i] = static_cast<char>(sum >> (24 - 8 * i));
+    return big;
+}
+
+// Files of older versions end with the list.
+bool checksumFits(const QByteArray& bytes, qsizetype endOfList)
+{
+    return endOfList == bytes.size() || bytes.mid(endOfList) == '\x44' + checksum(bytes, endOfList);
+}
+
+} // namespace
+
+QByteArray ShowArchive::archivedData(const ShowList& list)
+{
+    QByteArray bytes;
+    Writer writer(&bytes);
+    writer.startArray(list.size());
+    for (const Show& show : list)
+        write(writer, *show);
+    writer.endArray();
+    writer.append(checksum(bytes, bytes.size()));
+    return bytes;
+}
+
+ShowList ShowArchive::unarchivedList(const QByteArray& bytes)
+{
+    if (bytes.isEmpty() || bytes.size() > maximumFileSize)
+        return {};
+    try {
+        ShowArchiveReader reader(bytes);
+        ShowList list = reader.readList();
+        return checksumFits(bytes, reader.endOfList()) ? list : ShowList();
+    } catch (const ShowArchiveReader::Malformed&) {
+        return {};
+    }
+}
+
+bool ShowArchive::archiveRootObject(const ShowList& list, const QString& toFile, FileLayer& files)
+{
+    // A list lost with the power is fetched again, so nobody waits for the disk here.
+    return !AtomicFile::write(toFile, archivedData(list), AtomicFile::Access::OwnerOnly,
+                              AtomicFile::Durability::Unsynced, files);
+}
+
+ShowList ShowArchive::unarchiveObjectWithFile(const QString& file)
+{
+    const std::optional<QByteArray> bytes = AtomicFile::read(file, maximumFileSize);
+    if (!bytes)
+        return {};
+    ShowList list = unarchivedList(*bytes);
+    if (list.empty())
+        Log::line(QStringLiteral("ShowArchive: ") + file + QStringLiteral(": no readable list"));
+    return list;
+}
+
+} // namespace vidora

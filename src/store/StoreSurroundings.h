@@ -1,0 +1,76 @@
+#pragma once
+
+#include "content/ObjectId.h"
+#include "platform/Instant.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace vidora {
+
+// What the store asks of the folders behind it, in its own terms. They implement it; all operations may be called on
+// any thread unless they say otherwise, and none may wait for the store's queues or for the main queue.
+
+/// The user's channels and their load state.
+class ChannelSelection
+{
+public:
+    virtual ~ChannelSelection() = default;
+    /// The selected channels in the user's order.
+    virtual std::vector<ObjectId> selected() const = 0;
+    /// Forgets that the channel was loaded and deletes its list file, so that it is fetched again.
+    virtual void unload(const ObjectId& channel) = 0;
+    /// Notes when the channel's list was loaded; nothing happens for a channel that is not selected.
+    virtual void setTimeLoaded(const ObjectId& channel, Instant time) = 0;
+};
+
+/// The catalogue, as far as lists of several channels show it.
+class ChannelRecords
+{
+public:
+    virtual ~ChannelRecords() = default;
+    /// The "Icon" value of a channel; nothing for a channel that is unknown or has none.
+    virtual std::optional<QString> iconValue(const ObjectId& channel) const = 0;
+};
+
+class StoreSettings
+{
+public:
+    virtual ~StoreSettings() = default;
+    /// How many shows a row of the home screen holds, 1 to 255.
+    virtual int showCount() const = 0;
+    /// Scheme of the application's own addresses.
+    virtual QString scheme() const = 0;
+};
+
+/// The alarms, which follow the lists.
+class AlarmSynchronisation
+{
+public:
+    virtual ~AlarmSynchronisation() = default;
+    /// False: the lists have changed since the last synchronisation.
+    virtual void setSynchronized(bool isSynchronized) = 0;
+    /// Queues a synchronisation and returns.
+    virtual void syncAlarms() = 0;
+};
+
+/// The life of the process.
+class ApplicationLife
+{
+public:
+    using Task = std::uint64_t;
+    virtual ~ApplicationLife() = default;
+    /// Main thread.
+    virtual bool isInBackground() const = 0;
+    /// Brings the settings to the disk.
+    virtual void synchronizeSettings() = 0;
+    /// Keeps the process alive until `endBackgroundTask`, or until time is up: then `expired` is called, on any thread.
+    virtual Task beginBackgroundTask(std::function<void()> expired) = 0;
+    virtual void endBackgroundTask(Task task) = 0;
+};
+
+} // namespace vidora
