@@ -1,5 +1,7 @@
 #include "platform/Clock.h"
 
+#include "platform/WorkerPool.h"
+
 #include <QRandomGenerator>
 
 #include <thread>
@@ -38,6 +40,7 @@ std::uint32_t SystemRandom::uniform(std::uint32_t bound)
 
 void SystemSleeper::sleep(Milliseconds duration)
 {
+    const BlockingScope blocking;
     std::this_thread::sleep_for(duration);
 }
 

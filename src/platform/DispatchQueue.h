@@ -30,8 +30,11 @@ enum class QualityOfService
 /// onto the queue that is running the caller would never return: a debug build asserts against it, and against waiting
 /// in another order than pass queue, `loadQueue`, the store's queues.
 ///
+/// The block of a `sync` runs on the calling thread when its turn has come. Of a queue of class Background or Utility
+/// it runs on a thread of that class while the caller waits, so that heavy work stays below the rest of the machine.
+///
 /// A queue is destroyed when its last owner lets go of it and its last block has run; the destructor waits for that,
-/// unless it runs on the queue itself.
+/// unless it runs on the queue itself. It ends a suspension. A block whose delay is not over by then never runs.
 class DispatchQueue
 {
 public:
@@ -40,8 +43,14 @@ public:
     static std::shared_ptr<DispatchQueue> serial(QString label, QualityOfService quality = QualityOfService::Default);
     static std::shared_ptr<DispatchQueue> concurrent(QString label,
                                                      QualityOfService quality = QualityOfService::Default);
-    /// The queue of Qt's event loop. Its blocks run while the loop of the main thread does.
+    /// The queue of Qt's event loop. Its blocks run, one for each turn of the loop, while the loop of the main thread
+    /// does; those given before there is an application object wait for it, those left at the end never run.
+    /// `sync` onto it from the main thread is an error.
     static DispatchQueue& main();
+    /// Runs the event loop of the main thread until the condition holds: how a command or a test waits for work on the
+    /// queues. The condition is asked on the main thread, at the start and after each turn of the loop, so what fulfils
+    /// it must be a block of the main queue or another event of the loop. On the main thread only.
+    static void runMain(const std::function<bool()>& until);
     /// The shared concurrent queue of a class of service.
     static DispatchQueue& global(QualityOfService quality);
 
@@ -52,23 +61,28 @@ public:
     /// On a serial queue, the main queue and a global queue the same as async and sync.
     virtual void barrierAsync(Block block) = 0;
     virtual void barrierSync(const Block& block) = 0;
-    /// Queues the block once the delay is over.
-    virtual void after(Milliseconds delay, Block block) = 0;
+    /// Queues the block once the delay is over, by the present Timer.
+    void after(Milliseconds delay, Block block);
     /// No further block starts until as many `resume` have come. Not for the main and the global queues.
     virtual void suspend() = 0;
     virtual void resume() = 0;
     /// True on a thread that is running a block of this queue.
     virtual bool isCurrent() const = 0;
     virtual const QString& label() const = 0;
+
+private:
+    friend class DispatchGroup;
+    /// `async` for those who do not own the queue: what is put in after its destruction is dropped.
+    virtual std::function<void(Block)> inlet() = 0;
 };
 
-/// Counts blocks that belong together.
+/// Counts blocks that belong together. May be used on any thread and destroyed while blocks of it wait.
 class DispatchGroup
 {
 public:
     DispatchGroup();
-    ~DispatchGroup();
     void async(DispatchQueue& queue, DispatchQueue::Block block);
+    /// By hand: work that is not one block. As many `leave` as `enter`.
     void enter();
     void leave();
     /// Blocks until every block of the group has run. Not on a queue that one of them needs.
