@@ -50,6 +50,7 @@ public:
     AttributedText() = default;
     AttributedText(QString plain); // implicit on purpose: a plain text is the usual case
 
+    /// An empty text adds nothing; a text with the attributes of the one ahead of it lengthens that run.
     void append(QString text, TextAttributes attributes);
     /// The text without its attributes.
     QString string() const;

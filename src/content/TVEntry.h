@@ -68,8 +68,9 @@ public:
     void setUrl(std::optional<URL> url) { m_url = std::move(url); }
     void setPreviouslyShown(bool previouslyShown) { m_previouslyShown = previouslyShown; }
 
-    /// Details, subtitle and description in one line, joined by ", "; nothing when all are absent or empty. Kept after
-    /// the first call, also when a raw field changes later.
+    /// Details, subtitle and description in one line, joined by ", ", without those that are empty. Nothing when there
+    /// is none of them; empty details alone give an empty line. Kept after the first call, also when a raw field
+    /// changes later.
     Text fullInstantDetails() const;
 
     /// Start time, end time as a small raised figure, title, with no separators. `color` names the role of the start
@@ -95,6 +96,18 @@ public:
                                                         const Text& language);
 
 private:
+    /// What is computed at first use; a copy of the record computes its own.
+    struct Caches
+    {
+        Caches() = default;
+        Caches(const Caches&) {}
+        SetOnce<URL> urlDigest;
+        SetOnce<QString> fullInstantDetails;
+    };
+
+    /// The start time in the user's format, as the large figure that opens a row.
+    void appendStartTime(AttributedText& text, const QString& color) const;
+
     Text m_title, m_instantDetails, m_subtitle, m_instantDescription;
     Text m_identificator, m_lowercasedIdentificator, m_instantDetails1, m_subtitle1, m_instantDescription1;
     Text m_language, m_sourceId;
@@ -102,8 +115,7 @@ private:
     std::optional<Instant> m_dateTime, m_endDateTime;
     ObjectId m_channel;
     bool m_previouslyShown = false;
-    SetOnce<URL> m_urlDigest;
-    SetOnce<QString> m_cachedFID;
+    Caches m_caches;
 };
 
 } // namespace vidora
