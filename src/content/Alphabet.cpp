@@ -110,6 +110,8 @@ bool extendsLetter(QStringView text, qsizetype at)
     if (at >= text.size())
         return false;
     const char16_t unit = text[at].unicode();
+    if (unit == 0x0e33) // a spacing mark, which the boundary finder parts from its letter
+        return true;
     if (unit < 0x300 || (unit >= 0x370 && unit < 0x483) || (unit >= 0x48a && unit < 0x590) ||
         (unit >= 0x200e && unit < 0x20d0))
         return false;

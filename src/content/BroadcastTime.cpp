@@ -8,6 +8,15 @@ namespace vidora {
 
 namespace {
 
+/// The device's short time format. That of the C locale has seconds, which no list shows, and some locales name a day
+/// period ("B", in Unicode's terms) that QLocale can only write as the half of the day.
+QString shortTimeFormat(const QLocale& locale)
+{
+    if (locale.language() == QLocale::C)
+        return QStringLiteral("HH:mm");
+    return locale.timeFormat(QLocale::ShortFormat).replace(QLatin1Char('B'), QLatin1String("AP"));
+}
+
 /// QLocale writes the marker in the case of its letters in the format: "ap" asks for small ones.
 QString withSmallMarker(QString format)
 {
@@ -23,7 +32,7 @@ QString withSmallMarker(QString format)
 
 QString broadcastTimeFormat(const QLocale& locale)
 {
-    QString format = locale.timeFormat(QLocale::ShortFormat);
+    QString format = shortTimeFormat(locale);
     const bool hourLeads = format.startsWith(QLatin1Char('h'), Qt::CaseInsensitive);
     const bool singleDigitHour = format.size() >= 4 && hourLeads && format[1] != format[0];
     const qsizetype blank = format.indexOf(QLatin1Char(' '));
