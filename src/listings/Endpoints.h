@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <memory>
 #include <optional>
 
 namespace vidora {

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <limits>
 
 namespace vidora {
 
@@ -126,10 +127,32 @@ QStringView PageScanner::units(qsizetype from, qsizetype count) const
 std::optional<PageScanner::Match> RememberedFind::find(qsizetype from)
 {
     if (!m_searched || (m_match && m_match->at < from)) {
-        m_match = m_page.find(m_marker, from);
+        m_match = m_page.find(m_marker, from, m_to);
         m_searched = true;
     }
     return m_match;
+}
+
+std::optional<PageScanner::Match> RememberedFind::find(qsizetype from, qsizetype to)
+{
+    const auto match = find(from);
+    return match && match->end <= to ? match : std::nullopt;
+}
+
+std::int64_t leadingNumber(QStringView text)
+{
+    constexpr std::int64_t limit = std::numeric_limits<std::int64_t>::max();
+    const auto blank = [](QChar unit) { return unit.isSpace(); };
+    auto unit = std::find_if_not(text.begin(), text.end(), blank);
+    bool negative = false;
+    if (unit != text.end() && (*unit == QLatin1Char('-') || *unit == QLatin1Char('+')))
+        negative = *unit++ == QLatin1Char('-');
+    std::int64_t value = 0;
+    for (; unit != text.end() && *unit >= QLatin1Char('0') && *unit <= QLatin1Char('9'); ++unit) {
+        const int digit = unit->unicode() - u'0';
+        value = value > (limit - digit) / 10 ? limit : value * 10 + digit;
+    }
+    return negative ? -value : value;
 }
 
 } // namespace vidora

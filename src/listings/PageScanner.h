@@ -2,6 +2,7 @@
 
 #include <QStringView>
 
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 
@@ -74,25 +75,33 @@ private:
     QStringView m_text;
 };
 
-/// A literal search to a fixed end that is repeated from positions which only grow: each stretch of the text is walked
-/// once, however often the search is made.
+/// A literal search that is repeated from positions which only grow: each stretch of the text is walked once, however
+/// often the search is made, also when the marker is missing.
 class RememberedFind
 {
 public:
-    /// `marker` outlives the object.
-    RememberedFind(const PageScanner& page, QStringView marker)
+    /// Searches up to `to`, or to the end of the page. `page` and `marker` outlive the object.
+    RememberedFind(const PageScanner& page, QStringView marker, std::optional<qsizetype> to = std::nullopt)
         : m_page(page)
         , m_marker(marker)
+        , m_to(to.value_or(page.size()))
     {
     }
     /// `from` is never below that of the call before.
     std::optional<PageScanner::Match> find(qsizetype from);
+    /// The same, but for a match that ends behind `to`, which is not above the end given at first.
+    std::optional<PageScanner::Match> find(qsizetype from, qsizetype to);
 
 private:
     const PageScanner& m_page;
     QStringView m_marker;
+    qsizetype m_to;
     std::optional<PageScanner::Match> m_match;
     bool m_searched = false;
 };
+
+/// The whole number at the front of a text, behind blanks and a sign; 0 where there is none. Numbers out of range stay
+/// at the end of the range.
+std::int64_t leadingNumber(QStringView text);
 
 } // namespace vidora
