@@ -66,7 +66,8 @@ public:
     /// No further block starts until as many `resume` have come. Not for the main and the global queues.
     virtual void suspend() = 0;
     virtual void resume() = 0;
-    /// True on a thread that is running a block of this queue.
+    /// True on a thread that is running a block of this queue, or one that such a block waits for in `sync`; for the
+    /// main queue, on the main thread.
     virtual bool isCurrent() const = 0;
     virtual const QString& label() const = 0;
 

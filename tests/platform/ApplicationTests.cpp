@@ -19,13 +19,13 @@ TEST(ApplicationTest, QuitWaitsForTasksThatEndOnOtherThreads)
     Application application;
     EXPECT_TRUE(application.finishBackgroundTasks());
 
-    const auto queue = DispatchQueue::serial(QStringLiteral("work"));
     const auto forbid = [] { ADD_FAILURE() << "expired"; };
     const auto first = application.beginBackgroundTask(QStringLiteral("first"), forbid);
     const auto second = application.beginBackgroundTask(QStringLiteral("second"), {});
     EXPECT_NE(first, Application::backgroundTaskInvalid);
     EXPECT_NE(first, second);
     std::atomic<bool> worked = false;
+    const auto queue = DispatchQueue::serial(QStringLiteral("work"));
     queue->async([&] {
         application.endBackgroundTask(second);
         // While the process waits for the tasks, their blocks on the main queue still run.

@@ -81,8 +81,8 @@ TEST(DispatchQueueTest, BarriersRunAloneAndInOrderUnderLoad)
 
 TEST(DispatchQueueTest, ConcurrentBlocksRunAtOnce)
 {
-    const Queue queue = DispatchQueue::concurrent(QStringLiteral("together"));
     std::latch all(3);
+    const Queue queue = DispatchQueue::concurrent(QStringLiteral("together"));
     queue->async([&] { all.arrive_and_wait(); });
     queue->async([&] { all.arrive_and_wait(); });
     queue->sync([&] { all.arrive_and_wait(); });
@@ -192,16 +192,16 @@ TEST(DispatchQueueTest, DestructionRunsWhatIsLeft)
     }
     // The last owner is a block of the queue itself; the block behind it runs all the same.
     std::latch released(1);
-    std::latch behind(1);
+    bool ranBehind = false;
     Queue queue = DispatchQueue::serial(QStringLiteral("own end"));
     queue->async([owner = queue, &released] {
         released.wait();
         EXPECT_TRUE(owner->isCurrent());
     });
-    queue->async([&behind] { behind.count_down(); });
+    queue->async([&ranBehind] { DispatchQueue::main().async([&ranBehind] { ranBehind = true; }); });
     queue.reset();
     released.count_down();
-    behind.wait();
+    DispatchQueue::runMain([&] { return ranBehind; });
 }
 
 TEST(DispatchGroupTest, WaitsForItsBlocksAndNotifiesOnceEmpty)
@@ -255,11 +255,10 @@ TEST(TimerTest, AfterQueuesInOrderOfTimeAndForgetsQueuesThatAreGone)
 
 TEST(TimerTest, SystemTimerServesAnEarlierCallWhileItWaitsForALaterOne)
 {
-    std::latch called(1);
-    DispatchQueue& queue = DispatchQueue::global(QualityOfService::Default);
-    queue.after(24h, [] { ADD_FAILURE(); });
-    queue.after(1ms, [&] { called.count_down(); });
-    called.wait();
+    bool called = false;
+    DispatchQueue::main().after(24h, [] { ADD_FAILURE(); });
+    DispatchQueue::main().after(1ms, [&] { called = true; });
+    DispatchQueue::runMain([&] { return called; });
 }
 
 TEST(MainQueueTest, RunsBlocksOfAllThreadsInOrderOnTheMainThread)
