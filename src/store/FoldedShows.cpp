@@ -1,0 +1,228 @@
+#include "store/FoldedShows.h"
+
+#include "content/TextFolding.h"
+#include "platform/DispatchQueue.h"
+#include "store/ByteSearch.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace vidora {
+
+namespace {
+
+constexpr std::uint8_t separator = 0;
+constexpr std::uint8_t noByte = 0; ///< for a unit that is dropped
+
+/// Neighbouring units beyond ASCII get different bytes, so that the letters of one alphabet are told apart.
+std::uint8_t byteOfFolded(char16_t unit)
+{
+    constexpr char16_t firstBeyondAscii = 0x80;
+    if (unit < firstBeyondAscii)
+        return std::uint8_t(std::max<char16_t>(unit, 1));
+    return std::uint8_t(firstBeyondAscii | (unit % firstBeyondAscii));
+}
+
+using ByteTable = std::array<std::uint8_t, 0x10000>;
+
+const ByteTable& byteTable()
+{
+    static const auto table = [] {
+        auto bytes = std::make_unique<ByteTable>();
+        const FoldingTable& folded = foldingTable(Folding::CaseAndDiacritics);
+        for (std::size_t unit = 0; unit < bytes->size(); ++unit)
+            (*bytes)[unit] = folded[unit] == droppedUnit ? noByte : byteOfFolded(folded[unit]);
+        return bytes;
+    }();
+    return *table;
+}
+
+/// Calls `visit(piece, endsText)` for all searched texts of a show, in pieces where a text has runs.
+template<typename Visit>
+void forEachPiece(const ShowElement& show, Visit&& visit)
+{
+    const auto plain = [&](const std::optional<QString>& text) {
+        if (text && !text->isEmpty())
+            visit(QStringView(*text), true);
+    };
+    const auto attributed = [&](const std::optional<AttributedText>& text) {
+        if (!text)
+            return;
+        for (const AttributedText::Run& run : text->runs())
+            visit(QStringView(run.text), &run == &text->runs().back());
+    };
+    const TVEntry& entry = *show.entry;
+    plain(entry.title());
+    plain(entry.instantDescription());
+    plain(entry.instantDetails());
+    plain(entry.subtitle());
+    if (!show.extra)
+        return;
+    attributed(show.extra->description);
+    plain(show.extra->episodeDescription);
+    plain(show.extra->details);
+    plain(show.extra->directedBy);
+    attributed(show.extra->roles);
+}
+
+/// The most bytes that the show's texts can take.
+std::size_t roomFor(const ShowElement& show)
+{
+    std::size_t room = 0;
+    forEachPiece(show, [&](QStringView piece, bool) { room += std::size_t(piece.size()) + 1; });
+    return room;
+}
+
+std::uint8_t* fold(QStringView text, std::uint8_t* out)
+{
+    const ByteTable& table = byteTable();
+    const char16_t* units = text.utf16();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const std::uint8_t byte = table[units[i]];
+        *out = byte;
+        out += byte != noByte;
+    }
+    return out;
+}
+
+std::uint8_t* fold(const ShowElement& show, std::uint8_t* out)
+{
+    forEachPiece(show, [&](QStringView piece, bool endsText) {
+        out = fold(piece, out);
+        if (endsText)
+            *out++ = separator;
+    });
+    return out;
+}
+
+} // namespace
+
+SearchPattern::SearchPattern(QStringView pattern)
+    : m_units(FoldedText(pattern).units().toString())
+    , m_exact(true)
+{
+    constexpr char16_t firstExact = 2; // 0 and 1 share a byte
+    for (const QChar unit : m_units) {
+        m_bytes.push_back(byteOfFolded(unit.unicode()));
+        m_exact = m_exact && unit.unicode() >= firstExact && unit.unicode() < 0x80;
+    }
+}
+
+bool SearchPattern::isIn(const ShowElement& show) const
+{
+    QString text;
+    bool found = false;
+    forEachPiece(show, [&](QStringView piece, bool endsText) {
+        text += piece;
+        if (!endsText)
+            return;
+        found = found || FoldedText(text).units().contains(m_units);
+        text.clear();
+    });
+    return found;
+}
+
+FoldedShows::FoldedShows(std::shared_ptr<const ShowList> shows, const FoldedShows* previous)
+    : m_shows(std::move(shows))
+    , m_blocks((m_shows->size() + showsPerBlock - 1) / showsPerBlock)
+{
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&] {
+        for (std::size_t block = next++; block < m_blocks.size(); block = next++)
+            fill(block, previous);
+    };
+    DispatchGroup helper;
+    if (m_blocks.size() > 1)
+        helper.async(DispatchQueue::global(QualityOfService::UserInitiated), work);
+    work();
+    helper.wait();
+}
+
+void FoldedShows::fill(std::size_t index, const FoldedShows* previous)
+{
+    const std::size_t first = index * showsPerBlock;
+    const std::size_t last = std::min(first + showsPerBlock, m_shows->size());
+    std::vector<std::optional<std::size_t>> earlier(last - first);
+    if (previous)
+        earlier = previous->placesOf(m_shows->begin() + std::ptrdiff_t(first), m_shows->begin() + std::ptrdiff_t(last));
+    std::size_t room = 0;
+    for (std::size_t i = first; i < last; ++i)
+        room += earlier[i - first] ? previous->textsOf(*earlier[i - first]).size() : roomFor(*(*m_shows)[i]);
+
+    Block& block = m_blocks[index];
+    block.bytes = std::make_unique_for_overwrite<std::uint8_t[]>(room + 1);
+    block.begins.reserve(last - first + 1);
+    std::uint8_t* out = block.bytes.get();
+    for (std::size_t i = first; i < last; ++i) {
+        block.begins.push_back(std::uint32_t(out - block.bytes.get()));
+        const auto& place = earlier[i - first];
+        out = place ? std::ranges::copy(previous->textsOf(*place), out).out : fold(*(*m_shows)[i], out);
+    }
+    block.begins.push_back(std::uint32_t(out - block.bytes.get()));
+}
+
+std::vector<std::optional<std::size_t>> FoldedShows::placesOf(ShowList::const_iterator first,
+                                                              ShowList::const_iterator last) const
+{
+    constexpr std::ptrdiff_t mostAtOnce = 500; // shows that start together are looked through one by one
+    const auto startsEarlier = [](const Show& a, const Show& b) { return a->entry->dateTime() < b->entry->dateTime(); };
+    std::vector<std::optional<std::size_t>> places;
+    auto next =
+        first == last ? m_shows->end() : std::lower_bound(m_shows->begin(), m_shows->end(), *first, startsEarlier);
+    for (; first != last; ++first) {
+        // What stayed mostly follows what stayed, so that no times need to be looked at.
+        auto place = next;
+        if (place == m_shows->end() || *place != *first) {
+            while (next != m_shows->end() && startsEarlier(*next, *first))
+                ++next;
+            const auto end = next + std::min(mostAtOnce, m_shows->end() - next);
+            place = std::find(next, end, *first);
+            if (place == end)
+                place = m_shows->end();
+        }
+        if (place == m_shows->end()) {
+            places.push_back(std::nullopt);
+            continue;
+        }
+        places.push_back(std::size_t(place - m_shows->begin()));
+        next = place + 1;
+    }
+    return places;
+}
+
+std::span<const std::uint8_t> FoldedShows::textsOf(std::size_t show) const
+{
+    const Block& block = m_blocks[show / showsPerBlock];
+    const std::size_t at = show % showsPerBlock;
+    return {block.bytes.get() + block.begins[at], block.bytes.get() + block.begins[at + 1]};
+}
+
+std::size_t FoldedShows::find(const SearchPattern& pattern, std::size_t from) const
+{
+    while (from < m_shows->size()) {
+        const std::size_t index = from / showsPerBlock;
+        const Block& block = m_blocks[index];
+        const std::uint8_t* const begin = block.bytes.get();
+        const std::uint8_t* const end = begin + block.begins.back();
+        const std::uint8_t* const found = findBytes(textsOf(from).data(), end, pattern.m_bytes);
+        if (found == end) {
+            from = (index + 1) * showsPerBlock;
+            continue;
+        }
+        const auto behind = std::upper_bound(block.begins.begin(), block.begins.end(), std::uint32_t(found - begin));
+        from = index * showsPerBlock + std::size_t(behind - block.begins.begin()) - 1;
+        if (pattern.m_exact || pattern.isIn(*(*m_shows)[from]))
+            return from;
+        ++from;
+    }
+    return m_shows->size();
+}
+
+bool FoldedShows::holds(std::size_t show, const SearchPattern& pattern) const
+{
+    const auto texts = textsOf(show);
+    const std::uint8_t* const end = texts.data() + texts.size();
+    return findBytes(texts.data(), end, pattern.m_bytes) != end && (pattern.m_exact || pattern.isIn(*(*m_shows)[show]));
+}
+
+} // namespace vidora
