@@ -35,11 +35,13 @@ public:
     static Page fromText(QString text);
     /// `charset` is the IANA name, in capitals; an unknown one gives a page that is always faulty.
     static Page fromBytes(QByteArray body, Container container, QByteArray charset);
+    /// Whether bytes in this character set can be read.
+    static bool isKnownCharset(const QByteArray& charset);
 
     /// The whole text; nothing for a faulty page.
     std::optional<QString> text() const;
-    /// Hands the text over as UTF-8, decoded piece by piece as it is read. What was handed over ahead of a fault must
-    /// be dropped by the receiver.
+    /// Hands the text over as UTF-8, decoded piece by piece as it is read, on the calling thread. A character may be
+    /// cut by the end of a piece. What was handed over ahead of a fault must be dropped by the receiver.
     Outcome readUtf8(const Sink& sink) const;
     /// Size on the wire.
     qsizetype wireSize() const;
