@@ -24,7 +24,6 @@ void checkTitle(const QString& text)
     require(!description || text.endsWith(*description));
     const TextRange remark = firstBracketRemark(text);
     require(remark.length == 0 || text[remark.start + remark.length - 1] == QLatin1Char(']'));
-    require(firstBracketRemark(text.mid(remark.start + remark.length)).start >= 0);
 }
 
 void checkDescription(const QString& text)
@@ -52,7 +51,8 @@ void checkEntry(const QString& text)
     entry.setLanguage(QStringLiteral("mk"));
     entry.setIdentificator(text);
     entry.setSubtitle1(text);
-    require(entry.title().has_value() && entry.fullInstantDetails().has_value());
+    require(entry.title().has_value());
+    require(entry.fullInstantDetails().has_value() == !text.isEmpty());
     require(entry.urlDigestWithScheme(QStringLiteral("vidora")).has_value());
     ObjectId::initWithHex(text);
 }
