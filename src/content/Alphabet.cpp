@@ -1,10 +1,11 @@
 // Serbian, Bosnian, Montenegrin and Macedonian in Latin letters to Cyrillic, letter by letter, without a dictionary.
-#include "content/LiteralReplace.h"
+#include "content/LiteralSearch.h"
 #include "content/TVEntry.h"
 #include "platform/DeviceSettings.h"
 
 #include <QTextBoundaryFinder>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <string_view>
@@ -80,19 +81,23 @@ const Spelling* spellingAt(QStringView text, qsizetype at)
     return nullptr;
 }
 
+// Each unit becomes two at most.
+constexpr qsizetype growth = 2;
+
 QString withSpellingsJoined(QStringView text)
 {
-    QString result;
-    result.reserve(text.size());
+    QString result(growth * text.size(), Qt::Uninitialized);
+    QChar* end = result.data();
     for (qsizetype at = 0; at < text.size();) {
         const Spelling* spelling = spellingAt(text, at);
         if (spelling) {
-            result += spelling->cyrillic;
+            end = std::copy(spelling->cyrillic.begin(), spelling->cyrillic.end(), end);
             at += static_cast<qsizetype>(spelling->latin.size());
         } else {
-            result += text[at++];
+            *end++ = text[at++];
         }
     }
+    result.truncate(end - result.constData());
     return result;
 }
 
@@ -144,23 +149,26 @@ bool isLetterD(QChar character)
 
 QString withLettersReplaced(QStringView text)
 {
-    QString result;
-    result.reserve(text.size() + 8);
+    QString result(growth * text.size(), Qt::Uninitialized);
+    QChar* end = result.data();
     for (qsizetype at = 0; at < text.size(); ++at) {
         const QChar letter = text[at];
         const char16_t other = counterpart(letter.unicode());
         if ((other == 0 && letter != QLatin1Char('X')) || !isWholeCharacter(text, at)) {
-            result += letter;
-        } else if (letter == QLatin1Char('X')) {
-            result += QLatin1String("Kc"); // Latin letters, which are not converted again
+            *end++ = letter;
+        } else if (letter == QLatin1Char('X')) { // Latin letters, which are not converted again
+            *end++ = QLatin1Char('K');
+            *end++ = QLatin1Char('c');
         } else if (isLetterD(letter) && text.mid(at + 1).startsWith(QLatin1Char('z')) &&
                    isWholeCharacter(text, at + 1)) {
-            result += QLatin1Char('s'); // a Latin one, too
+            *end++ = QLatin1Char('s'); // a Latin one, too
             ++at;
         } else {
-            result += QChar(other);
+            *end++ = QChar(other);
         }
     }
+    result.truncate(end - result.constData());
+    result.squeeze();
     return result;
 }
 

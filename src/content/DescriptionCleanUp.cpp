@@ -1,5 +1,5 @@
 #include "content/ListingText.h"
-#include "content/LiteralReplace.h"
+#include "content/LiteralSearch.h"
 #include "content/RemarkPatterns.h"
 
 #include <QStringList>
@@ -23,7 +23,7 @@ struct Marker
 Marker firstPresent(QStringView text, std::initializer_list<QStringView> markers)
 {
     for (const QStringView marker : markers) {
-        const qsizetype start = text.indexOf(marker);
+        const qsizetype start = indexOfLiteral(text, marker);
         if (start >= 0)
             return {start, start + marker.size()};
     }
@@ -53,6 +53,8 @@ QString withoutCarriageReturnsAround(const QString& text)
 
 QString withoutCreditLines(const QString& text, const QString& host)
 {
+    if (!text.contains(QLatin1Char('(')))
+        return text;
     const QString croatian = QStringLiteral("(više na http://") + host + QLatin1Char(')');
     const QString english = QStringLiteral("(more at http://") + host + QLatin1Char(')');
     return replacingLiterally(replacingLiterally(text, croatian, {}), english, {});
@@ -94,9 +96,11 @@ constexpr QStringView directedByLabel = u"Regia - ";
 qsizetype startOfCreditRun(const QString& text)
 {
     qsizetype cut = -1;
+    if (indexOfLiteral(text, directedByLabel) < 0)
+        return cut;
     for (const QStringView opening :
          {QStringView(u"\nRegia - "), QStringView(u", Regia - "), QStringView(u" Regia - ")}) {
-        const qsizetype start = text.indexOf(opening);
+        const qsizetype start = indexOfLiteral(text, opening);
         if (start >= 0 && (cut < 0 || start < cut))
             cut = start;
     }
@@ -121,12 +125,12 @@ void takeCreditRun(Description& extra, const QString& text)
     QStringList directors;
     QStringList actors;
     qsizetype end = 0;
-    for (qsizetype at = text.indexOf(directedByLabel);; at = end + 1) {
+    for (qsizetype at = indexOfLiteral(text, directedByLabel);; at = end + 1) {
         end = endOfItem(text, at);
         if (at < end && text[at] == QLatin1Char(' '))
             ++at;
         const QString item = text.mid(at, end - at);
-        const qsizetype label = item.indexOf(directedByLabel);
+        const qsizetype label = indexOfLiteral(item, directedByLabel);
         if (label >= 0)
             directors += item.mid(label + directedByLabel.size());
         else
@@ -146,8 +150,10 @@ void takeCreditRun(Description& extra, const QString& text)
 /// A line end stays where it ends a paragraph or a sentence; lines that were merely wrapped are joined.
 QString inParagraphs(QString text)
 {
-    text = replacingLiterally(text, u"\n\n", u"\r");
-    text = replacingLiterally(text, u".\n", u".\r");
+    if (text.contains(QLatin1Char('\n'))) {
+        text = replacingLiterally(text, u"\n\n", u"\r");
+        text = replacingLiterally(text, u".\n", u".\r");
+    }
     text.replace(QLatin1Char('\n'), QLatin1Char(' '));
     text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     if (text.startsWith(QLatin1String("; ")))

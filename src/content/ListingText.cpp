@@ -1,6 +1,6 @@
 #include "content/ListingText.h"
 
-#include "content/LiteralReplace.h"
+#include "content/LiteralSearch.h"
 #include "content/RemarkPatterns.h"
 #include "content/TitleCase.h"
 #include "platform/DeviceSettings.h"

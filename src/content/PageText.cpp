@@ -1,6 +1,6 @@
 // Clean-up of texts that were cut out of a provider's page.
 #include "content/ListingText.h"
-#include "content/LiteralReplace.h"
+#include "content/LiteralSearch.h"
 
 namespace vidora {
 
@@ -40,7 +40,7 @@ QString withNumericReferences(const QString& text, QStringView opening, int base
 {
     QString result;
     qsizetype kept = 0;
-    for (qsizetype found = text.indexOf(opening); found >= 0; found = text.indexOf(opening, found)) {
+    for (qsizetype found = indexOfLiteral(text, opening); found >= 0; found = indexOfLiteral(text, opening, found)) {
         const qsizetype firstDigit = found + opening.size();
         quint64 number = 0;
         qsizetype at = firstDigit;
@@ -85,7 +85,7 @@ QString htmlCleanUp(const QString& text)
 {
     constexpr QStringView open = u"<![CDATA[";
     constexpr QStringView close = u"]]>";
-    const qsizetype start = text.indexOf(open);
+    const qsizetype start = indexOfLiteral(text, open);
     if (start < 0)
         return withReferencesReplaced(text);
     const qsizetype characterData = start + open.size();

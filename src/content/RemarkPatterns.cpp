@@ -34,8 +34,8 @@ public:
     /// The next remark, with the blank ahead of it where the pattern wants one.
     TextRange next()
     {
-        for (; m_at < m_text.size(); ++m_at) {
-            if (m_text[m_at] != QChar(m_open) || !blankStandsAhead())
+        for (m_at = m_text.indexOf(QChar(m_open), m_at); m_at >= 0; m_at = m_text.indexOf(QChar(m_open), m_at + 1)) {
+            if (!blankStandsAhead())
                 continue;
             enterLine();
             if (m_lastClose < m_at)
@@ -45,6 +45,7 @@ public:
             m_taken = m_at;
             return {start, m_at - start};
         }
+        m_at = m_text.size();
         return {};
     }
 

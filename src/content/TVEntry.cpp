@@ -1,7 +1,7 @@
 #include "content/TVEntry.h"
 
 #include "content/BroadcastTime.h"
-#include "content/LiteralReplace.h"
+#include "content/LiteralSearch.h"
 
 #include <QCryptographicHash>
 #include <QtEndian>
