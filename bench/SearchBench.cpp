@@ -97,11 +97,11 @@ void keystroke(benchmark::State& state, const char16_t* typed)
     measure(state, QString::fromUtf16(typed), false, 1.5);
 }
 
-BENCHMARK_CAPTURE(firstQuery, nowhere, u"kxq")->Iterations(7)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(firstQuery, often, u"ljubav")->Iterations(7)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(keystroke, nowhere, u"sezonax")->Iterations(7)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(keystroke, seldom, u"sezona sezo")->Iterations(7)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(keystroke, diacritics, u"između đak")->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(firstQuery, nowhere, u"kxq")->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(firstQuery, often, u"ljubav")->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(keystroke, nowhere, u"sezonax")->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(keystroke, seldom, u"sezona sezo")->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(keystroke, diacritics, u"između đak")->Iterations(15)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vidora::bench

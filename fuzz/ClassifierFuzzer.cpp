@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <cstdlib>
+#include <map>
 
 using namespace vidora;
 
@@ -12,13 +13,20 @@ namespace {
 
 struct Unit
 {
-    QString folded;
+    QChar folded;
     qsizetype begin, end; ///< in the original text, with the marks behind it
 };
 
-std::vector<Unit> foldedUnits(const QString& text)
+struct Text
 {
+    Text(const QString& given);
+    QString original;
     std::vector<Unit> units;
+};
+
+Text::Text(const QString& text)
+    : original(text)
+{
     for (qsizetype i = 0; i < text.size(); ++i) {
         QString folded = text[i].isSurrogate() || (text[i] >= QChar(0xac00) && text[i] <= QChar(0xd7a3))
                              ? QString(text[i])
@@ -32,24 +40,24 @@ std::vector<Unit> foldedUnits(const QString& text)
         if (folded.size() > 1)
             folded = text[i];
         const QString lower = folded == QString(QChar(0x1e9e)) ? QString(QChar(0xdf)) : folded.toCaseFolded();
-        units.push_back({lower.size() == 1 ? lower : folded, i, i + 1}); // no letter becomes two
+        units.push_back({lower.size() == 1 ? lower[0] : folded[0], i, i + 1}); // no letter becomes two
     }
-    return units;
+}
+
+const Text& keyword(const char16_t* word)
+{
+    static std::map<const char16_t*, Text> known;
+    return known.try_emplace(word, QString::fromUtf16(word)).first->second;
 }
 
 /// The first occurrence as positions in the original text; nothing found: -1 and -1.
-std::pair<qsizetype, qsizetype> firstOccurrence(const QString& text, const QString& word)
+std::pair<qsizetype, qsizetype> firstOccurrence(const Text& text, const Text& word)
 {
-    const std::vector<Unit> in = foldedUnits(text);
-    const std::vector<Unit> what = foldedUnits(word);
-    for (std::size_t at = 0; !what.empty() && at + what.size() <= in.size(); ++at) {
-        std::size_t same = 0;
-        while (same < what.size() && in[at + same].folded == what[same].folded)
-            ++same;
-        if (same == what.size())
-            return {in[at].begin, in[at + same - 1].end};
-    }
-    return {-1, -1};
+    const auto same = [](const Unit& a, const Unit& b) { return a.folded == b.folded; };
+    const auto at = std::search(text.units.begin(), text.units.end(), word.units.begin(), word.units.end(), same);
+    if (word.units.empty() || at == text.units.end())
+        return {-1, -1};
+    return {at->begin, at[std::ptrdiff_t(word.units.size()) - 1].end};
 }
 
 bool isAsciiLetter(QChar c)
@@ -57,9 +65,10 @@ bool isAsciiLetter(QChar c)
     return c.unicode() < 0x80 && c.isLetter();
 }
 
-bool hasWord(const QString& text, const QString& word)
+bool hasWord(const Text& given, const Text& word)
 {
-    const auto [begin, end] = firstOccurrence(text, word);
+    const QString& text = given.original;
+    const auto [begin, end] = firstOccurrence(given, word);
     if (begin < 0)
         return false;
     if (begin > 0 && text[begin - 1].isLetter())
@@ -69,23 +78,23 @@ bool hasWord(const QString& text, const QString& word)
     return text[end].unicode() < 0x80 && !isAsciiLetter(text[end]);
 }
 
-bool hasAny(const QString& text, const CategoryKeywords& row)
+bool hasAny(const Text& text, const CategoryKeywords& row)
 {
     return std::any_of(row.words.begin(), row.words.end(),
-                       [&](const char16_t* word) { return hasWord(text, QString::fromUtf16(word)); });
+                       [&](const char16_t* word) { return hasWord(text, keyword(word)); });
 }
 
-void runGroups(TVListingsCategory& mask, const QString& text)
+void runGroups(TVListingsCategory& mask, const Text& text)
 {
     for (const CategoryKeywords& row : categoryKeywords) {
         if (row.findings == Finding::sport) {
-            mask |= firstOccurrence(text, QStringLiteral("sport")).first >= 0 ? category::sports : 0;
+            mask |= firstOccurrence(text, keyword(u"sport")).first >= 0 ? category::sports : 0;
         } else if (!hasAny(text, row)) {
             continue;
         } else if (row.findings == Finding::opera) {
-            mask |= hasWord(text, QStringLiteral("soap opera")) ? 0 : category::music;
+            mask |= hasWord(text, keyword(u"soap opera")) ? 0 : category::music;
         } else if (row.findings == Finding::marathon) {
-            mask |= hasWord(text, QStringLiteral("filmski maraton")) ? 0 : category::sports;
+            mask |= hasWord(text, keyword(u"filmski maraton")) ? 0 : category::sports;
         } else if (row.findings == Finding::seriesFilm) {
             mask = (mask & ~category::filmOrSeries) | category::series;
         } else {
@@ -94,30 +103,30 @@ void runGroups(TVListingsCategory& mask, const QString& text)
     }
 }
 
-TVListingsCategory maskWithoutResolution(const QStringList& texts)
+TVListingsCategory maskWithoutResolution(const std::vector<Text>& texts)
 {
-    const QString& title = texts[1];
+    const Text& title = texts[1];
     TVListingsCategory mask = 0;
-    for (const QString& text : texts)
+    for (const Text& text : texts)
         runGroups(mask, text);
-    if (hasWord(title, QStringLiteral("kad lišće pada")))
+    if (hasWord(title, keyword(u"kad lišće pada")))
         mask = (mask & ~0x1ff03u) | 0x2;
-    if (hasWord(title, QStringLiteral("kućni ljubimci")))
+    if (hasWord(title, keyword(u"kućni ljubimci")))
         mask &= ~0x1ff01u;
     if (mask & 0x1ff09) {
-        for (const QString& text : texts) {
-            mask &= hasWord(text, QStringLiteral("south park")) ? ~0x8u : ~0u;
-            mask &= hasWord(text, QStringLiteral("reportaža")) ? ~0x1ff01u : ~0u;
+        for (const Text& text : texts) {
+            mask &= hasWord(text, keyword(u"south park")) ? ~0x8u : ~0u;
+            mask &= hasWord(text, keyword(u"reportaža")) ? ~0x1ff01u : ~0u;
         }
     }
     if (mask & 0x1ff03)
         return mask;
-    for (const QString& text : texts)
-        mask |= hasWord(text, QStringLiteral("priča")) ? 0x8u : 0u;
-    for (qsizetype i = 0; i < texts.size(); ++i) {
-        if (i != 1 && hasWord(texts[i], QStringLiteral("f.")))
+    for (const Text& text : texts)
+        mask |= hasWord(text, keyword(u"priča")) ? 0x8u : 0u;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i != 1 && hasWord(texts[i], keyword(u"f.")))
             return mask | 0x1;
-        if (hasWord(texts[i], QStringLiteral("s.")) || hasWord(texts[i], QStringLiteral("s,")))
+        if (hasWord(texts[i], keyword(u"s.")) || hasWord(texts[i], keyword(u"s,")))
             return mask | 0x2;
     }
     return mask;
@@ -157,7 +166,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n'));
     lines.resize(4);
     const QString word = lines.takeLast();
-    if (categoryMaskForTexts(std::nullopt, lines[0], lines[1], lines[2]) != resolved(maskWithoutResolution(lines)))
+    if (categoryMaskForTexts(std::nullopt, lines[0], lines[1], lines[2]) !=
+        resolved(maskWithoutResolution({lines[0], lines[1], lines[2]})))
         std::abort();
     for (const QString& text : lines) {
         if (entryTextHasWord(text, word) != hasWord(text, word))

@@ -65,11 +65,17 @@ void forEachPiece(const ShowElement& show, Visit&& visit)
     attributed(show.extra->roles);
 }
 
-/// The most bytes that the show's texts can take.
+/// The most bytes that the show's texts can take. Fetches the texts' beginnings meanwhile: they lie scattered over the
+/// memory, and folding one after the other would wait for each.
 std::size_t roomFor(const ShowElement& show)
 {
     std::size_t room = 0;
-    forEachPiece(show, [&](QStringView piece, bool) { room += std::size_t(piece.size()) + 1; });
+    forEachPiece(show, [&](QStringView piece, bool) {
+        constexpr qsizetype unitsInLine = 32;
+        for (qsizetype i = 0; i < std::min(piece.size(), 6 * unitsInLine); i += unitsInLine)
+            __builtin_prefetch(piece.utf16() + i);
+        room += std::size_t(piece.size()) + 1;
+    });
     return room;
 }
 
@@ -127,18 +133,18 @@ FoldedShows::FoldedShows(std::shared_ptr<const ShowList> shows, const FoldedShow
     , m_blocks((m_shows->size() + showsPerBlock - 1) / showsPerBlock)
 {
     std::atomic<std::size_t> next = 0;
-    const auto work = [&] {
+    const auto work = [&](TextArena& arena) {
         for (std::size_t block = next++; block < m_blocks.size(); block = next++)
-            fill(block, previous);
+            fill(block, previous, arena);
     };
     DispatchGroup helper;
     if (m_blocks.size() > 1)
-        helper.async(DispatchQueue::global(QualityOfService::UserInitiated), work);
-    work();
+        helper.async(DispatchQueue::global(QualityOfService::UserInitiated), [&] { work(m_arenas[1]); });
+    work(m_arenas[0]);
     helper.wait();
 }
 
-void FoldedShows::fill(std::size_t index, const FoldedShows* previous)
+void FoldedShows::fill(std::size_t index, const FoldedShows* previous, TextArena& arena)
 {
     const std::size_t first = index * showsPerBlock;
     const std::size_t last = std::min(first + showsPerBlock, m_shows->size());
@@ -150,15 +156,17 @@ void FoldedShows::fill(std::size_t index, const FoldedShows* previous)
         room += earlier[i - first] ? previous->textsOf(*earlier[i - first]).size() : roomFor(*(*m_shows)[i]);
 
     Block& block = m_blocks[index];
-    block.bytes = std::make_unique_for_overwrite<std::uint8_t[]>(room + 1);
     block.begins.reserve(last - first + 1);
-    std::uint8_t* out = block.bytes.get();
+    std::uint8_t* const begin = arena.take(room);
+    std::uint8_t* out = begin;
     for (std::size_t i = first; i < last; ++i) {
-        block.begins.push_back(std::uint32_t(out - block.bytes.get()));
+        block.begins.push_back(std::uint32_t(out - begin));
         const auto& place = earlier[i - first];
         out = place ? std::ranges::copy(previous->textsOf(*place), out).out : fold(*(*m_shows)[i], out);
     }
-    block.begins.push_back(std::uint32_t(out - block.bytes.get()));
+    block.begins.push_back(std::uint32_t(out - begin));
+    block.bytes = begin;
+    arena.giveBackFrom(out);
 }
 
 std::vector<std::optional<std::size_t>> FoldedShows::placesOf(ShowList::const_iterator first,
@@ -194,7 +202,7 @@ std::span<const std::uint8_t> FoldedShows::textsOf(std::size_t show) const
 {
     const Block& block = m_blocks[show / showsPerBlock];
     const std::size_t at = show % showsPerBlock;
-    return {block.bytes.get() + block.begins[at], block.bytes.get() + block.begins[at + 1]};
+    return {block.bytes + block.begins[at], block.bytes + block.begins[at + 1]};
 }
 
 std::size_t FoldedShows::find(const SearchPattern& pattern, std::size_t from) const
@@ -202,7 +210,7 @@ std::size_t FoldedShows::find(const SearchPattern& pattern, std::size_t from) co
     while (from < m_shows->size()) {
         const std::size_t index = from / showsPerBlock;
         const Block& block = m_blocks[index];
-        const std::uint8_t* const begin = block.bytes.get();
+        const std::uint8_t* const begin = block.bytes;
         const std::uint8_t* const end = begin + block.begins.back();
         const std::uint8_t* const found = findBytes(textsOf(from).data(), end, pattern.m_bytes);
         if (found == end) {

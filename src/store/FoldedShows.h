@@ -1,7 +1,9 @@
 #pragma once
 
 #include "content/ShowElement.h"
+#include "store/TextArena.h"
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <span>
@@ -49,15 +51,14 @@ public:
     bool holds(std::size_t show, const SearchPattern& pattern) const;
 
 private:
-    using Bytes = std::unique_ptr<std::uint8_t[]>;
     struct Block
     {
-        Bytes bytes;
+        const std::uint8_t* bytes = nullptr;
         std::vector<std::uint32_t> begins; ///< of the texts of each show, and the end of the last
     };
-    static constexpr std::size_t showsPerBlock = 2048;
+    static constexpr std::size_t showsPerBlock = 256; ///< whose texts fit into a core's cache
 
-    void fill(std::size_t block, const FoldedShows* previous);
+    void fill(std::size_t block, const FoldedShows* previous, TextArena& arena);
     /// Where shows of another list stand in this one, as far as they do: both are in the order of their start times.
     std::vector<std::optional<std::size_t>> placesOf(ShowList::const_iterator first,
                                                      ShowList::const_iterator last) const;
@@ -65,6 +66,7 @@ private:
 
     std::shared_ptr<const ShowList> m_shows;
     std::vector<Block> m_blocks;
+    std::array<TextArena, 2> m_arenas; ///< one for each thread that folds
 };
 
 } // namespace vidora
