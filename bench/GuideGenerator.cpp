@@ -1,14 +1,13 @@
-#include "GuideGenerator.h"
+#include "bench/GuideGenerator.h"
 
 #include <array>
 #include <charconv>
+#include <lzma.h>
 #include <span>
 #include <stdexcept>
 #include <string>
 
-#include <lzma.h>
-
-namespace vidora {
+namespace vidora::bench {
 namespace {
 
 using Words = std::span<const std::string_view>;
@@ -21,81 +20,160 @@ struct Language
     std::string_view roles, director;
 };
 
-constexpr std::string_view croatianTitles[] = {
-    "Dnevnik", "Vijesti", "Potjera", "Dobro jutro, Hrvatska", "Lud, zbunjen, normalan", "Zlatni dvori", "Tajne grada",
-    "RUŽA VJETROVA", "Kod kuće je najljepše", "Nogomet: Liga prvaka, sažetak", "Gem, set, meč", "Velo misto (R)",
-    "Regionalni dnevnik", "Crtani film", "More", "Plodovi zemlje", "Inspektor Brok, serija (4/12)", "Glazbena kutija"};
-constexpr std::string_view croatianSubtitles[] = {
-    "Noćna vožnja", "(dramska serija)", "Posljednji otok [igrani film, drama]", "dokumentarni", "12. epizoda",
-    "Povratak u selo", "show", "Kuća na kraju ulice [Krimi] [serija]", "(humoristična serija)", "Dječji kutak"};
-constexpr std::string_view croatianGenres[] = {"film", "serija", "sport", "glazba", "dokumentarni", "informativni",
-                                               "zabava", "kriminalistički film", "obrazovanje", "drama"};
+constexpr std::string_view croatianTitles[] = {"Dnevnik",
+                                               "Vijesti",
+                                               "Potjera",
+                                               "Dobro jutro, Hrvatska",
+                                               "Lud, zbunjen, normalan",
+                                               "Zlatni dvori",
+                                               "Tajne grada",
+                                               "RUŽA VJETROVA",
+                                               "Kod kuće je najljepše",
+                                               "Nogomet: Liga prvaka, sažetak",
+                                               "Gem, set, meč",
+                                               "Velo misto (R)",
+                                               "Regionalni dnevnik",
+                                               "Crtani film",
+                                               "More",
+                                               "Plodovi zemlje",
+                                               "Inspektor Brok, serija (4/12)",
+                                               "Glazbena kutija"};
+constexpr std::string_view croatianSubtitles[] = {"Noćna vožnja",
+                                                  "(dramska serija)",
+                                                  "Posljednji otok [igrani film, drama]",
+                                                  "dokumentarni",
+                                                  "12. epizoda",
+                                                  "Povratak u selo",
+                                                  "show",
+                                                  "Kuća na kraju ulice [Krimi] [serija]",
+                                                  "(humoristična serija)",
+                                                  "Dječji kutak"};
+constexpr std::string_view croatianGenres[] = {"film",         "serija",       "sport",  "glazba",
+                                               "dokumentarni", "informativni", "zabava", "kriminalistički film",
+                                               "obrazovanje",  "drama"};
 constexpr std::string_view croatianWords[] = {
-    "priča", "o", "obitelji", "koja", "živi", "na", "otoku", "i", "svaki", "dan", "susreće", "nove", "ljude", "iz",
-    "grada", "dok", "mladi", "novinar", "otkriva", "tajnu", "stare", "kuće", "u", "kojoj", "se", "nitko", "ne",
-    "usuđuje", "provesti", "noć", "jer", "su", "godinama", "prije", "nestali", "njezini", "vlasnici", "emisija",
-    "donosi", "razgovore", "s", "gostima", "te", "pregled", "najvažnijih", "događaja", "iz", "svijeta", "politike",
-    "kulture", "znanosti", "prijateljstvo", "ljubav", "izdaja", "put", "prema", "sjeveru", "željeznica", "rijeka"};
-constexpr std::string_view serbianTitles[] = {
-    "Vesti", "Slagalica", "Beogradska hronika", "Selo na brdu", "Porodica Marić", "Jutarnji program", "Kvadratura",
-    "Žikina porodica, epizoda 7", "Noćni gost", "Fudbal: Superliga", "Kuvar u kući", "SVE ZA LJUBAV", "Muzički spomenar",
-    "Put oko Balkana", "Istraga, serija (2/10)", "Dečija čarolija"};
-constexpr std::string_view serbianSubtitles[] = {"komedija", "Zaboravljeni most [film, avantura]", "(triler)",
-                                                 "Gosti iz daljine", "domaća serija", "3. deo", "sportski pregled",
-                                                 "Tišina [Dramski film]", "muzika", "vestern"};
-constexpr std::string_view serbianGenres[] = {"igrani film", "serija", "sport", "muzika", "dokumentarni program",
-                                              "vesti", "zabavni", "reportage", "kultura", "akcija"};
+    "priča",    "o",          "obitelji", "koja",          "živi",        "na",       "otoku",  "i",
+    "svaki",    "dan",        "susreće",  "nove",          "ljude",       "iz",       "grada",  "dok",
+    "mladi",    "novinar",    "otkriva",  "tajnu",         "stare",       "kuće",     "u",      "kojoj",
+    "se",       "nitko",      "ne",       "usuđuje",       "provesti",    "noć",      "jer",    "su",
+    "godinama", "prije",      "nestali",  "njezini",       "vlasnici",    "emisija",  "donosi", "razgovore",
+    "s",        "gostima",    "te",       "pregled",       "najvažnijih", "događaja", "iz",     "svijeta",
+    "politike", "kulture",    "znanosti", "prijateljstvo", "ljubav",      "izdaja",   "put",    "prema",
+    "sjeveru",  "željeznica", "rijeka"};
+constexpr std::string_view serbianTitles[] = {"Vesti",
+                                              "Slagalica",
+                                              "Beogradska hronika",
+                                              "Selo na brdu",
+                                              "Porodica Marić",
+                                              "Jutarnji program",
+                                              "Kvadratura",
+                                              "Žikina porodica, epizoda 7",
+                                              "Noćni gost",
+                                              "Fudbal: Superliga",
+                                              "Kuvar u kući",
+                                              "SVE ZA LJUBAV",
+                                              "Muzički spomenar",
+                                              "Put oko Balkana",
+                                              "Istraga, serija (2/10)",
+                                              "Dečija čarolija"};
+constexpr std::string_view serbianSubtitles[] = {"komedija",         "Zaboravljeni most [film, avantura]",
+                                                 "(triler)",         "Gosti iz daljine",
+                                                 "domaća serija",    "3. deo",
+                                                 "sportski pregled", "Tišina [Dramski film]",
+                                                 "muzika",           "vestern"};
+constexpr std::string_view serbianGenres[] = {"igrani film", "serija",  "sport",     "muzika",  "dokumentarni program",
+                                              "vesti",       "zabavni", "reportage", "kultura", "akcija"};
 constexpr std::string_view serbianWords[] = {
-    "priča", "prati", "sudbinu", "mladog", "lekara", "koji", "se", "posle", "rata", "vraća", "u", "rodno", "selo",
-    "gde", "ga", "čekaju", "otac", "i", "dve", "sestre", "u", "emisiji", "govorimo", "o", "pitanjima", "koja",
-    "zanimaju", "gledaoce", "od", "poljoprivrede", "do", "umetnosti", "voditelj", "poziva", "goste", "da", "ispričaju",
-    "šta", "ih", "je", "dovelo", "do", "uspeha", "a", "publika", "odlučuje", "ko", "ide", "dalje", "neočekivani",
-    "obrt", "menja", "sve", "zauvek", "prijatelji", "moraju", "zajedno", "reku", "preći", "pre", "zore"};
-constexpr std::string_view hungarianTitles[] = {
-    "Híradó", "Időjárás", "Tények", "Barátok közt", "A falu doktora", "Konyhafőnök", "Mesék szárnyán", "Éjjeli őrjárat",
-    "Sporthíradó", "Magyarország kincsei", "Kalandra fel", "ZENEI MOZAIK", "Nyomozók, 3. évad", "Riport"};
+    "priča",     "prati",       "sudbinu",  "mladog",   "lekara",    "koji",          "se",         "posle",
+    "rata",      "vraća",       "u",        "rodno",    "selo",      "gde",           "ga",         "čekaju",
+    "otac",      "i",           "dve",      "sestre",   "u",         "emisiji",       "govorimo",   "o",
+    "pitanjima", "koja",        "zanimaju", "gledaoce", "od",        "poljoprivrede", "do",         "umetnosti",
+    "voditelj",  "poziva",      "goste",    "da",       "ispričaju", "šta",           "ih",         "je",
+    "dovelo",    "do",          "uspeha",   "a",        "publika",   "odlučuje",      "ko",         "ide",
+    "dalje",     "neočekivani", "obrt",     "menja",    "sve",       "zauvek",        "prijatelji", "moraju",
+    "zajedno",   "reku",        "preći",    "pre",      "zore"};
+constexpr std::string_view hungarianTitles[] = {"Híradó",
+                                                "Időjárás",
+                                                "Tények",
+                                                "Barátok közt",
+                                                "A falu doktora",
+                                                "Konyhafőnök",
+                                                "Mesék szárnyán",
+                                                "Éjjeli őrjárat",
+                                                "Sporthíradó",
+                                                "Magyarország kincsei",
+                                                "Kalandra fel",
+                                                "ZENEI MOZAIK",
+                                                "Nyomozók, 3. évad",
+                                                "Riport"};
 constexpr std::string_view hungarianSubtitles[] = {"magyar filmdráma [filmdráma]", "Az elveszett levél", "ismétlés",
-                                                   "amerikai sorozat [sorozat]", "A tenger hangja", "(vígjáték)"};
+                                                   "amerikai sorozat [sorozat]",   "A tenger hangja",    "(vígjáték)"};
 constexpr std::string_view hungarianGenres[] = {"film", "sorozat", "sport", "zene", "dokumentumfilm", "hírműsor"};
 constexpr std::string_view hungarianWords[] = {
-    "a", "fiatal", "nyomozó", "egy", "régi", "ügy", "nyomába", "ered", "és", "közben", "rájön", "hogy", "barátai",
-    "sem", "mondanak", "igazat", "műsorunkban", "bemutatjuk", "az", "ország", "legszebb", "tájait", "ahol", "család",
-    "nemzedékek", "óta", "őrzi", "hagyományokat", "váratlan", "fordulat", "után", "minden", "megváltozik", "tengerparton",
-    "éjszaka", "vonat", "indul", "messzi", "városba", "senki", "nem", "várja", "őket"};
-constexpr std::string_view romanianTitles[] = {
-    "Ştiri", "Jurnalul de seară", "Vreau să fiu bucătar", "Episodul pierdut", "Sezonul doi", "Fotbal: Liga I",
-    "Poveşti de familie", "Ţara mea", "Călătorii în lume", "MUZICĂ ŞI DANS", "Anchetatorii", "Desene animate"};
-constexpr std::string_view romanianSubtitles[] = {"Secretul casei [Acţiune]", "dramă", "Noaptea cea lungă", "reluare",
-                                                  "(comedie)", "Drumul spre munte [Documentar]"};
+    "a",           "fiatal",       "nyomozó", "egy",           "régi",     "ügy",      "nyomába",  "ered",
+    "és",          "közben",       "rájön",   "hogy",          "barátai",  "sem",      "mondanak", "igazat",
+    "műsorunkban", "bemutatjuk",   "az",      "ország",        "legszebb", "tájait",   "ahol",     "család",
+    "nemzedékek",  "óta",          "őrzi",    "hagyományokat", "váratlan", "fordulat", "után",     "minden",
+    "megváltozik", "tengerparton", "éjszaka", "vonat",         "indul",    "messzi",   "városba",  "senki",
+    "nem",         "várja",        "őket"};
+constexpr std::string_view romanianTitles[] = {"Ştiri",
+                                               "Jurnalul de seară",
+                                               "Vreau să fiu bucătar",
+                                               "Episodul pierdut",
+                                               "Sezonul doi",
+                                               "Fotbal: Liga I",
+                                               "Poveşti de familie",
+                                               "Ţara mea",
+                                               "Călătorii în lume",
+                                               "MUZICĂ ŞI DANS",
+                                               "Anchetatorii",
+                                               "Desene animate"};
+constexpr std::string_view romanianSubtitles[] = {
+    "Secretul casei [Acţiune]", "dramă", "Noaptea cea lungă", "reluare", "(comedie)", "Drumul spre munte [Documentar]"};
 constexpr std::string_view romanianGenres[] = {"film", "serial", "sport", "muzică", "documentar", "ştiri"};
 constexpr std::string_view romanianWords[] = {
-    "un", "tânăr", "avocat", "se", "întoarce", "în", "oraşul", "natal", "pentru", "a", "apăra", "prietenul", "acuzat",
-    "pe", "nedrept", "emisiunea", "prezintă", "cele", "mai", "importante", "evenimente", "ale", "zilei", "invitaţi",
-    "şi", "reportaje", "din", "toată", "ţara", "familia", "descoperă", "că", "moştenirea", "ascunde", "o", "taină",
-    "veche", "drumul", "spre", "casă", "este", "lung", "dar", "nimeni", "nu", "renunţă"};
+    "un",         "tânăr",     "avocat", "se",         "întoarce",   "în",      "oraşul",    "natal",
+    "pentru",     "a",         "apăra",  "prietenul",  "acuzat",     "pe",      "nedrept",   "emisiunea",
+    "prezintă",   "cele",      "mai",    "importante", "evenimente", "ale",     "zilei",     "invitaţi",
+    "şi",         "reportaje", "din",    "toată",      "ţara",       "familia", "descoperă", "că",
+    "moştenirea", "ascunde",   "o",      "taină",      "veche",      "drumul",  "spre",      "casă",
+    "este",       "lung",      "dar",    "nimeni",     "nu",         "renunţă"};
 constexpr std::string_view czechTitles[] = {
-    "Zprávy", "Počasí", "Kriminálka Anděl", "Chalupáři", "Pohádka pro děti", "Vyprávěj", "Toulavá kamera",
-    "Sportovní noviny", "Kuchařská show", "SLÁVA NAŠIM", "Četnické příběhy (5/20)", "Objektiv"};
-constexpr std::string_view czechSubtitles[] = {"Ztracený klíč [Seriál]", "Dům u řeky", "repríza", "(komedie)",
-                                               "Cesta domů [Akční]", "pro děti [děti]"};
+    "Zprávy",         "Počasí",           "Kriminálka Anděl", "Chalupáři",   "Pohádka pro děti",        "Vyprávěj",
+    "Toulavá kamera", "Sportovní noviny", "Kuchařská show",   "SLÁVA NAŠIM", "Četnické příběhy (5/20)", "Objektiv"};
+constexpr std::string_view czechSubtitles[] = {"Ztracený klíč [Seriál]", "Dům u řeky",     "repríza", "(komedie)",
+                                               "Cesta domů [Akční]",     "pro děti [děti]"};
 constexpr std::string_view czechGenres[] = {"film", "seriál", "sport", "hudba", "dokument", "zpravodajství"};
 constexpr std::string_view czechWords[] = {
-    "mladá", "lékařka", "přijíždí", "do", "malé", "vesnice", "kde", "ji", "nikdo", "nečeká", "a", "postupně", "odhaluje",
-    "tajemství", "starého", "mlýna", "pořad", "přináší", "rozhovory", "reportáže", "z", "domova", "i", "ze", "světa",
-    "detektiv", "musí", "vyřešit", "případ", "dříve", "než", "pachatel", "znovu", "udeří", "přátelé", "vyrážejí",
-    "na", "výlet", "který", "změní", "jejich", "život", "navždy"};
-constexpr std::string_view englishTitles[] = {
-    "World News", "Discovery Hour", "Geo Adventures", "The Long Road", "Kitchen Heroes", "Late Night Show",
-    "Football Weekly", "Mysteries of the Deep", "Viasat History Special", "Space Rangers, Part 2 (2/6)",
-    "THE LAST HARBOUR", "Cartoon Time", "Antique Hunters", "Storm Watch (R)"};
-constexpr std::string_view englishSubtitles[] = {"The Hidden Valley [Adventure]", "Episode 4", "Fire and Ice [Sci-Fi]",
-                                                 "(drama)", "Beyond the Reef [Documentary]", "Live"};
+    "mladá",     "lékařka",   "přijíždí", "do",       "malé",      "vesnice", "kde",   "ji",       "nikdo",
+    "nečeká",    "a",         "postupně", "odhaluje", "tajemství", "starého", "mlýna", "pořad",    "přináší",
+    "rozhovory", "reportáže", "z",        "domova",   "i",         "ze",      "světa", "detektiv", "musí",
+    "vyřešit",   "případ",    "dříve",    "než",      "pachatel",  "znovu",   "udeří", "přátelé",  "vyrážejí",
+    "na",        "výlet",     "který",    "změní",    "jejich",    "život",   "navždy"};
+constexpr std::string_view englishTitles[] = {"World News",
+                                              "Discovery Hour",
+                                              "Geo Adventures",
+                                              "The Long Road",
+                                              "Kitchen Heroes",
+                                              "Late Night Show",
+                                              "Football Weekly",
+                                              "Mysteries of the Deep",
+                                              "Viasat History Special",
+                                              "Space Rangers, Part 2 (2/6)",
+                                              "THE LAST HARBOUR",
+                                              "Cartoon Time",
+                                              "Antique Hunters",
+                                              "Storm Watch (R)"};
+constexpr std::string_view englishSubtitles[] = {"The Hidden Valley [Adventure]", "Episode 4",
+                                                 "Fire and Ice [Sci-Fi]",         "(drama)",
+                                                 "Beyond the Reef [Documentary]", "Live"};
 constexpr std::string_view englishGenres[] = {"film", "series", "sports", "music", "documentary", "news"};
 constexpr std::string_view englishWords[] = {
-    "a", "retired", "captain", "returns", "to", "the", "island", "where", "his", "brother", "vanished", "and", "finds",
-    "that", "nobody", "remembers", "him", "in", "this", "programme", "experts", "explain", "how", "ancient", "cities",
-    "were", "built", "why", "they", "disappeared", "two", "friends", "cross", "desert", "with", "only", "one", "map",
-    "while", "rival", "team", "follows", "their", "every", "step", "before", "winter", "comes"};
+    "a",        "retired", "captain", "returns", "to",     "the",       "island", "where", "his",   "brother",
+    "vanished", "and",     "finds",   "that",    "nobody", "remembers", "him",    "in",    "this",  "programme",
+    "experts",  "explain", "how",     "ancient", "cities", "were",      "built",  "why",   "they",  "disappeared",
+    "two",      "friends", "cross",   "desert",  "with",   "only",      "one",    "map",   "while", "rival",
+    "team",     "follows", "their",   "every",   "step",   "before",    "winter", "comes"};
 
 constexpr Language languages[] = {
     {"hr", croatianTitles, croatianSubtitles, croatianGenres, croatianWords, "Uloge: ", "Redatelj: "},
@@ -105,11 +183,13 @@ constexpr Language languages[] = {
     {"cs", czechTitles, czechSubtitles, czechGenres, czechWords, "", "Režija: "},
     {"en", englishTitles, englishSubtitles, englishGenres, englishWords, "", ""},
 };
-constexpr std::string_view firstNames[] = {"Ana", "Marko", "Ivana", "Petar", "Zsófia", "István", "Ion", "Elena", "Jiří",
-                                           "Tereza", "John", "Mary", "Đorđe", "Šime", "Luka", "Milica"};
-constexpr std::string_view lastNames[] = {"Kovač", "Horvat", "Jovanović", "Nagy", "Tóth", "Popescu", "Ionescu", "Novák",
-                                          "Dvořák", "Smith", "Marić", "Perić", "Szabó", "Dumitru", "Brown", "Babić"};
-constexpr std::string_view descriptionMarks[] = {"Music", "Sports", "Drama", "News", "Documentary", "Children", "Comedy"};
+constexpr std::string_view firstNames[] = {"Ana",  "Marko",  "Ivana", "Petar", "Zsófia", "István", "Ion",  "Elena",
+                                           "Jiří", "Tereza", "John",  "Mary",  "Đorđe",  "Šime",   "Luka", "Milica"};
+constexpr std::string_view lastNames[] = {"Kovač",   "Horvat",  "Jovanović", "Nagy",  "Tóth",  "Popescu",
+                                          "Ionescu", "Novák",   "Dvořák",    "Smith", "Marić", "Perić",
+                                          "Szabó",   "Dumitru", "Brown",     "Babić"};
+constexpr std::string_view descriptionMarks[] = {"Music",       "Sports",   "Drama", "News",
+                                                 "Documentary", "Children", "Comedy"};
 
 constexpr int programmesOfDay = 30;
 constexpr int minutesOfProgramme = 24 * 60 / programmesOfDay;
@@ -231,7 +311,7 @@ private:
     void addDescription(const Language& language)
     {
         m_text.append("    <desc lang=\"").append(language.code).append("\">");
-        addSentences(language, 2 + m_sequence.below(4));
+        addSentences(language, 4 + m_sequence.below(6));
         if (!language.roles.empty() && m_sequence.oneIn(3)) {
             m_text.append("\n").append(language.roles);
             addName();
@@ -332,4 +412,4 @@ QByteArray guideAsXz(const GuideOptions& options)
     return result;
 }
 
-} // namespace vidora
+} // namespace vidora::bench

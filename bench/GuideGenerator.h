@@ -8,7 +8,7 @@
 #include <functional>
 #include <string_view>
 
-namespace vidora {
+namespace vidora::bench {
 
 /// A made-up XMLTV guide of any size, for measurements: titles, sub-titles, credits and genres look like those of real
 /// feeds in Croatian, Serbian, Hungarian, Romanian, Czech and English. The same options give the same bytes anywhere.
@@ -29,4 +29,4 @@ void writeGuide(const GuideOptions& options, const std::function<void(std::strin
 /// The document in an xz container, as a provider would publish it.
 QByteArray guideAsXz(const GuideOptions& options);
 
-} // namespace vidora
+} // namespace vidora::bench

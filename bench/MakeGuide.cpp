@@ -1,11 +1,11 @@
-#include "GuideGenerator.h"
+#include "bench/GuideGenerator.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
 #include <cstdio>
 
-using namespace vidora;
+using namespace vidora::bench;
 
 /// vidora-make-guide --channels N --days N --seed N --now TIME [--xz] > file
 int main(int argc, char** argv)
@@ -24,7 +24,7 @@ int main(int argc, char** argv)
         {QStringLiteral("xz"), QStringLiteral("Writes an xz file.")},
     });
     parser.process(application);
-    const auto now = instantFromIsoText(parser.value(QStringLiteral("now")));
+    const auto now = vidora::instantFromIsoText(parser.value(QStringLiteral("now")));
     if (!now) {
         std::fputs("vidora-make-guide: --now takes a moment such as 2026-11-22T00:00:00Z\n", stderr);
         return 2;

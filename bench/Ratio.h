@@ -23,6 +23,8 @@ public:
         m_work = std::min(m_work, seconds(work));
     }
 
+    double workSeconds() const { return m_work; }
+
     void report(benchmark::State& state, double atMost) const
     {
         state.counters["bare_ms"] = m_bare * 1e3;
