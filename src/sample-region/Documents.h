@@ -9,6 +9,9 @@
 
 namespace vidora::region {
 
+/// The host that some feeds name behind their descriptions.
+inline constexpr std::string_view creditsHost = "www.credits.example";
+
 /// What a document is made for.
 struct DocumentRequest
 {

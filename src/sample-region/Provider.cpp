@@ -92,7 +92,7 @@ std::string endpointsJson(const std::vector<std::string>& origins)
     json[QStringLiteral("cinestar")] =
         QJsonObject{{hostKey, origin("cinestar")},
                     {QStringLiteral("schedulePage"), QString(origin("cinestar") + QStringLiteral("/raspored/"))}};
-    json[QStringLiteral("credits")] = QJsonObject{{hostKey, QStringLiteral("vodic.example")}};
+    json[QStringLiteral("credits")] = QJsonObject{{hostKey, QLatin1String(creditsHost.data())}};
     return QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString();
 }
 

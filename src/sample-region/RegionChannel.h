@@ -42,7 +42,7 @@ struct RegionChannel
 /// changing ports whenever the port is free.
 inline constexpr int fixedPort = 26418;
 /// The source id of the one channel page that is addressed by its provider's host.
-inline constexpr std::string_view primaMaxSourceId = "max.lampion.example";
+inline constexpr std::string_view primaMaxSourceId = "max.prima.example";
 
 /// All channels of the region, in the order of the catalogue.
 const std::vector<RegionChannel>& regionChannels();

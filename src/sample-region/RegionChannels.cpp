@@ -204,7 +204,7 @@ const std::vector<RegionChannel>& regionChannels()
          "cs",
          Profile::Films,
          {"joj.kinematik", "r.CZ1.Kinematik.cz"}},
-        {"Lampion Max", "f9fb4887147b92f486c8b684", "", "Other", "cs", Profile::Films, {"max.lampion.example"}},
+        {"Lampion Max", "f9fb4887147b92f486c8b684", "", "Other", "cs", Profile::Films, {"max.prima.example"}},
         {"Kometa",
          "09ff5fd22d81425adce1ecf7",
          "",

@@ -79,6 +79,8 @@ std::string labelledTexts(const Broadcast& show, const Vocabulary& words)
         description += "\n" + std::string(words.cast) + joined(show.cast, ", ");
     if (!show.director.empty())
         description += "\n" + std::string(words.director) + show.director;
+    if (show.genre == Genre::Documentary)
+        description += " (više na http://" + std::string(creditsHost) + ")";
     return element("title", show.title + (show.repeat ? " (R)" : "")) + element("sub-title", subtitle) +
            element("desc", description);
 }
