@@ -38,6 +38,17 @@ void onThreads(int count, const std::function<void(int)>& work)
         thread.join();
 }
 
+// Blocks start in the order in which the pools get them: one that was started by mistake has run by then.
+void letStartedBlocksRun()
+{
+    DispatchGroup group;
+    for (const auto quality : {QualityOfService::Background, QualityOfService::Utility, QualityOfService::Default}) {
+        for (int i = 0; i < 8; ++i)
+            group.async(DispatchQueue::global(quality), [] {});
+    }
+    group.wait();
+}
+
 TEST(DispatchQueueTest, SerialQueueKeepsEachCallersOrderAndRunsOneAtATime)
 {
     for (const auto quality : {QualityOfService::Background, QualityOfService::UserInitiated}) {
@@ -77,6 +88,27 @@ TEST(DispatchQueueTest, BarriersRunAloneAndInOrderUnderLoad)
     });
     queue->barrierAsync(write);
     queue->sync([&] { EXPECT_EQ(first, 1201); });
+}
+
+TEST(DispatchQueueTest, BarrierWaitsForThoseAheadAndHoldsBackThoseBehind)
+{
+    std::latch released(1);
+    std::atomic<bool> wrote = false;
+    std::atomic<bool> readBehind = false;
+    const Queue queue = DispatchQueue::concurrent(QStringLiteral("barrier"));
+    queue->async([&] {
+        released.wait();
+        EXPECT_FALSE(wrote);
+    });
+    queue->barrierAsync([&] {
+        wrote = true;
+        letStartedBlocksRun();
+        EXPECT_FALSE(readBehind);
+    });
+    queue->async([&] { readBehind = wrote.load(); });
+    letStartedBlocksRun();
+    released.count_down();
+    queue->barrierSync([&] { EXPECT_TRUE(readBehind); });
 }
 
 TEST(DispatchQueueTest, ConcurrentBlocksRunAtOnce)
@@ -165,7 +197,7 @@ TEST(DispatchQueueTest, SuspendedQueueStartsNothingUntilAsManyResumes)
         queue->async([&] { ++ran; });
         queue->barrierAsync([&] { ++ran; });
         queue->resume();
-        onThreads(3, [](int) { DispatchQueue::global(QualityOfService::Background).sync([] {}); });
+        letStartedBlocksRun();
         EXPECT_EQ(ran, 0);
         queue->resume();
         queue->barrierSync([&] { EXPECT_EQ(ran, 2); });
