@@ -77,12 +77,7 @@ struct NetworkURLSession::Shared
 class NetworkURLSession::Transfer
 {
 public:
-    explicit Transfer(CURLSH* share)
-        : m_share(share)
-        , m_multi(curl_multi_init())
-        , m_easy(curl_easy_init())
-    {
-    }
+    explicit Transfer(CURLSH* share);
     Transfer(const Transfer&) = delete;
     Transfer& operator=(const Transfer&) = delete;
     ~Transfer()
@@ -95,13 +90,11 @@ public:
     void wakeUp() { curl_multi_wakeup(m_multi); }
 
 private:
-    void prepare(const URLRequest& request, const HeaderList& headers);
     QString wait(const URLRequest& request, const std::atomic<bool>& cancelled);
     static std::size_t bodyArrived(char* bytes, std::size_t, std::size_t size, void* self);
     static std::size_t headerArrived(char* bytes, std::size_t, std::size_t size, void* self);
     bool takeHeaderLine(const QByteArray& line);
 
-    CURLSH* const m_share;
     CURLM* const m_multi;
     CURL* const m_easy;
     qint64 m_maximumBodySize = 0;
@@ -112,12 +105,11 @@ private:
     QString m_refusal; ///< why a callback of ours broke the transfer off
 };
 
-void NetworkURLSession::Transfer::prepare(const URLRequest& request, const HeaderList& headers)
+NetworkURLSession::Transfer::Transfer(CURLSH* share)
+    : m_multi(curl_multi_init())
+    , m_easy(curl_easy_init())
 {
-    curl_easy_reset(m_easy);
-    curl_easy_setopt(m_easy, CURLOPT_SHARE, m_share);
-    curl_easy_setopt(m_easy, CURLOPT_URL, request.url.text().toUtf8().constData());
-    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers.list);
+    curl_easy_setopt(m_easy, CURLOPT_SHARE, share);
     curl_easy_setopt(m_easy, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(m_easy, CURLOPT_FOLLOWLOCATION, 0L);
     curl_easy_setopt(m_easy, CURLOPT_COOKIEFILE, "");
@@ -140,10 +132,12 @@ URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 max
     m_response = URLResponse();
     m_refusal.clear();
     const HeaderList headers(request.headerFields);
-    prepare(request, headers);
+    curl_easy_setopt(m_easy, CURLOPT_URL, request.url.text().toUtf8().constData());
+    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers.list);
     curl_multi_add_handle(m_multi, m_easy);
     const QString error = wait(request, cancelled);
     curl_multi_remove_handle(m_multi, m_easy);
+    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, nullptr);
 
     URLResult result;
     if (m_response.statusCode != 0)
