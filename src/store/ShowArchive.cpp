@@ -3,7 +3,6 @@
 #include "platform/Log.h"
 #include "store/ShowArchiveReader.h"
 
-#include <QCborStreamReader>
 #include <QCborStreamWriter>
 
 #include <zlib.h>
@@ -122,20 +121,17 @@ void write(Writer& writer, const ShowElement& element)
     writer.endArray();
 }
 
-QByteArray checksum(const QByteArray& bytes, qsizetype size)
+// The checksum as an item of the sequence: a byte string of four bytes, the most significant first.
+constexpr qsizetype checksumSize = 5;
+
+QByteArray checksum(QByteArrayView bytes)
 {
     const auto sum = static_cast<quint32>(
-        adler32_z(1, reinterpret_cast<const Bytef*>(bytes.constData()), static_cast<z_size_t>(size)));
-    QByteArray big(4, Qt::Uninitialized);
-    for (int i = 0; i < 4; ++i)
-        big[i] = static_cast<char>(sum >> (24 - 8 * i));
-    return big;
-}
-
-// Files of older versions end with the list.
-bool checksumFits(const QByteArray& bytes, qsizetype endOfList)
-{
-    return endOfList == bytes.size() || bytes.mid(endOfList) == '\x44' + checksum(bytes, endOfList);
+        adler32_z(1, reinterpret_cast<const Bytef*>(bytes.data()), static_cast<z_size_t>(bytes.size())));
+    QByteArray item(1, '\x44');
+    for (int shift = 24; shift >= 0; shift -= 8)
+        item += static_cast<char>(sum >> shift);
+    return item;
 }
 
 } // namespace
@@ -148,18 +144,16 @@ QByteArray ShowArchive::archivedData(const ShowList& list)
     for (const Show& show : list)
         write(writer, *show);
     writer.endArray();
-    writer.append(checksum(bytes, bytes.size()));
-    return bytes;
+    return bytes + checksum(bytes);
 }
 
 ShowList ShowArchive::unarchivedList(const QByteArray& bytes)
 {
-    if (bytes.isEmpty() || bytes.size() > maximumFileSize)
+    const qsizetype size = bytes.size() - checksumSize;
+    if (size <= 0 || size > maximumFileSize || bytes.last(checksumSize) != checksum(QByteArrayView(bytes).first(size)))
         return {};
     try {
-        ShowArchiveReader reader(bytes);
-        ShowList list = reader.readList();
-        return checksumFits(bytes, reader.endOfList()) ? list : ShowList();
+        return ShowArchiveReader(bytes.first(size)).readList();
     } catch (const ShowArchiveReader::Malformed&) {
         return {};
     }

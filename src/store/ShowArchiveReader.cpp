@@ -36,7 +36,7 @@ ShowList ShowArchiveReader::readList()
         if (Show show = readElement())
             list.push_back(std::move(show));
     });
-    require(isList);
+    require(isList && m_reader.currentOffset() == m_bytes.size());
     return list;
 }
 

@@ -11,7 +11,8 @@
 
 namespace vidora {
 
-/// One pass over an archived list. Throws `Malformed` for bytes that are no archive; nothing read until then is used.
+/// One pass over an archived list without its checksum. Throws `Malformed` for bytes that are no list; nothing read
+/// until then is used. Memory stays in proportion to the bytes, whatever they are.
 class ShowArchiveReader
 {
 public:
@@ -20,9 +21,8 @@ public:
     };
 
     explicit ShowArchiveReader(const QByteArray& bytes);
+    /// The list that the bytes are. Once.
     ShowList readList();
-    /// Where the list ends in the bytes; valid after readList.
-    qsizetype endOfList() const { return m_reader.currentOffset(); }
 
 private:
     /// Remembers the last text of a field that is mostly the same in a whole list, so that all records share it.

@@ -4,7 +4,42 @@
 namespace vidora {
 
 namespace {
+
 constexpr std::size_t maximumShows = 2000;
+
+/// The first shows of a list that fit, up to the maximum.
+template<typename Fits>
+ShowList firstShows(const ShowList& shows, Fits fits)
+{
+    ShowList result;
+    for (auto show = shows.begin(); show != shows.end() && result.size() < maximumShows; ++show) {
+        if (fits(**show))
+            result.push_back(*show);
+    }
+    return result;
+}
+
+} // namespace
+
+void TVListings::showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock)
+{
+    m_listingsDictionaryAccessQueue->async([this, pattern, highPriorityBlock = std::move(highPriorityBlock)] {
+        const SharedShowList all = dictionary()->merged().shows;
+        const auto isCurrent = [now = m_surroundings.clock.now()](const ShowElement& show) {
+            return endsNotBefore(*show.entry, now);
+        };
+        auto found = std::make_shared<const ShowList>(
+            pattern.isEmpty() ? firstShows(*all, isCurrent)
+                              : m_searchIndex.showsContainingPattern(all, pattern, maximumShows, isCurrent));
+        DispatchQueue::global(QualityOfService::UserInitiated).async([found = std::move(found), highPriorityBlock] {
+            highPriorityBlock(found);
+        });
+    });
+}
+
+void TVListings::dropSearchIndex()
+{
+    m_searchIndex.clear();
 }
 
 void TVListings::showWithURL(const URL& url, std::function<void(Show)> mainBlock)
@@ -24,14 +59,9 @@ void TVListings::showWithURL(const URL& url, std::function<void(Show)> mainBlock
 void TVListings::showScheduleForTitle(const QString& title, QualityOfService priority, CompoundBlock mainBlock)
 {
     const auto query = [title](const ListingsDictionary& lists, Instant now) {
-        ShowList result;
-        for (const Show& show : *lists.merged().shows) {
-            if (endsNotBefore(*show->entry, now) && show->entry->title() == title)
-                result.push_back(show);
-            if (result.size() == maximumShows)
-                break;
-        }
-        return result;
+        return firstShows(*lists.merged().shows, [&](const ShowElement& show) {
+            return endsNotBefore(*show.entry, now) && show.entry->title() == title;
+        });
     };
     compoundQuery(query, priority, std::move(mainBlock));
 }

@@ -7,6 +7,7 @@
 #include "platform/DispatchQueue.h"
 #include "store/CompoundListing.h"
 #include "store/ListingsDictionary.h"
+#include "store/SearchIndex.h"
 #include "store/StoreSurroundings.h"
 
 #include <set>
@@ -100,6 +101,12 @@ public:
     void showsWithCategory(TVListingsCategory mask, QualityOfService priority, CompoundBlock mainBlock);
     /// The lists behind special categories: the popular list, shows that start from 19:00 to midnight, or all.
     void allShowsWithCategory(TVListingsCategory category, QualityOfService priority, CompoundBlock mainBlock);
+    /// Shows with the pattern in one of their texts, whatever its case and diacritics; an empty pattern is in all. The
+    /// block is called on the global queue of the class UserInitiated. What makes the next search faster is kept until
+    /// `dropSearchIndex`.
+    void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
+    /// Drops what searches keep. To be called when search ends and when memory runs short.
+    void dropSearchIndex();
     /// The broadcast with this address in the application's scheme; without one the block is not called.
     void showWithURL(const URL& url, std::function<void(Show)> mainBlock);
     /// Broadcasts of exactly this shown title.
@@ -137,6 +144,7 @@ private:
     mutable std::mutex m_dictionaryMutex; ///< held for a copy or a swap only
     std::shared_ptr<const ListingsDictionary> m_listingsDictionary = std::make_shared<const ListingsDictionary>();
     std::set<ObjectId> m_scheduledForSaving; ///< belongs to m_fileIOQueue
+    SearchIndex m_searchIndex;
 
     const std::shared_ptr<DispatchQueue> m_listingsDictionaryAccessQueue;
     const std::shared_ptr<DispatchQueue> m_fileIOQueue;

@@ -1,9 +1,9 @@
 #include "store/ShowArchive.h"
+#include "store/ShowArchiveReader.h"
 #include "store/StoreFixture.h"
 
+#include <QCborArray>
 #include <QCborMap>
-#include <QCborStreamReader>
-#include <QCborStreamWriter>
 
 namespace vidora {
 namespace {
@@ -44,11 +44,6 @@ auto fields(const ShowElement& show)
                       e.instantDetails1(), e.subtitle1(), e.instantDescription1(), e.url(), e.previouslyShown(),
                       e.title(), x.description, x.episodeDescription, x.details, x.directedBy, x.roles, x.imdbURL,
                       x.trailerURL, x.language, x.alphabetUpdated, show.count(), show.categories, show.pictures);
-}
-
-QByteArray cbor(const QCborValue& value)
-{
-    return value.toCbor();
 }
 
 TEST(ShowArchive, GivesBackWhatWasArchived)
@@ -100,7 +95,7 @@ TEST(ShowArchive, ReadsOtherVersions)
     const QCborArray root{QCborArray{older, 5, QCborMap{}, QCborArray{QStringLiteral("http://p"), 4}, unknown},
                           QCborArray{untitled, 5}, QStringLiteral("no element"), QCborArray{},
                           QCborArray{older, 2.5, unknown}};
-    const ShowList read = ShowArchive::unarchivedList(cbor(root));
+    const ShowList read = ShowArchiveReader(QCborValue(root).toCbor()).readList();
 
     ASSERT_EQ(titles(read), QStringList({QStringLiteral("Vesti"), QStringLiteral("Vesti")}));
     EXPECT_EQ(read[0]->count(), 4);
@@ -113,9 +108,19 @@ TEST(ShowArchive, ReadsOtherVersions)
     EXPECT_FALSE(entry.subtitle1() || entry.endDateTime() || entry.dateTime() || entry.url());
 
     const QByteArray chunked = QByteArray::fromHex("9f9fbf657469746c657f6141604142ffffffff");
-    EXPECT_EQ(titles(ShowArchive::unarchivedList(chunked)), QStringList()) << "bytes are no chunks of a text";
+    EXPECT_THROW(ShowArchiveReader(chunked).readList(), ShowArchiveReader::Malformed)
+        << "bytes are no chunks of a text";
     const QByteArray textChunks = QByteArray::fromHex("9f9fbf657469746c657f6141606142ffffffff");
-    EXPECT_EQ(titles(ShowArchive::unarchivedList(textChunks)), QStringList(QStringLiteral("AB")));
+    EXPECT_EQ(titles(ShowArchiveReader(textChunks).readList()), QStringList(QStringLiteral("AB")));
+}
+
+/// For the sanitizers: the reader itself, without the checksum that keeps damage away from it.
+void readWithoutChecksum(const QByteArray& bytes)
+{
+    try {
+        ShowArchiveReader(bytes).readList();
+    } catch (const ShowArchiveReader::Malformed&) {
+    }
 }
 
 // Whatever happens to a byte, the file gives the list as it was or none: the channel is fetched again then.
@@ -123,16 +128,17 @@ TEST(ShowArchive, DamagedFilesAreNoLists)
 {
     const ShowList list{TestShow{QStringLiteral("One"), 0, 60, 5}.show(channelId(1)), fullDraft().publish()};
     const QByteArray whole = ShowArchive::archivedData(list);
-    const qsizetype checksumSize = 5;
     for (qsizetype size = 0; size < whole.size(); ++size) {
-        const std::size_t shows = ShowArchive::unarchivedList(whole.left(size)).size();
-        EXPECT_EQ(shows, size == whole.size() - checksumSize ? 2u : 0u) << "cut off at " << size;
+        EXPECT_TRUE(ShowArchive::unarchivedList(whole.left(size)).empty()) << "cut off at " << size;
+        EXPECT_THROW(ShowArchiveReader(whole.left(std::min(size, whole.size() - 6))).readList(),
+                     ShowArchiveReader::Malformed);
     }
     for (qsizetype at = 0; at < whole.size(); ++at) {
         for (const int flip : {0x01, 0x20, 0x80, 0xff}) {
             QByteArray damaged = whole;
             damaged[at] = static_cast<char>(damaged[at] ^ flip);
             EXPECT_TRUE(ShowArchive::unarchivedList(damaged).empty()) << "byte " << at << " flipped by " << flip;
+            readWithoutChecksum(damaged.chopped(5));
         }
     }
     EXPECT_TRUE(ShowArchive::unarchivedList(whole + '\0').empty());
@@ -153,7 +159,7 @@ TEST(ShowArchive, HostileBytesCostLittle)
         "\x81\x84\xa1\x65title\x60\x00\xa0\x9f" + QByteArray("\x60").repeated(1'000'000) + "\xff\xff",
     };
     for (const QByteArray& bytes : hostile)
-        EXPECT_TRUE(ShowArchive::unarchivedList(bytes).empty());
+        EXPECT_THROW(ShowArchiveReader(bytes).readList(), ShowArchiveReader::Malformed);
 }
 
 // A disk that fails or tears a write at any step leaves the file that was there.

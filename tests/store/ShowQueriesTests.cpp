@@ -68,6 +68,7 @@ TEST_F(ShowQueriesTest, OnAirAnswersForEachSelectedChannel)
     std::vector<TestShow> many = series(10);
     many.insert(many.begin(), {{"over"_s, -20, -10}, {"ends now"_s, -10, 0}, {"no end"_s, -5, {}}});
     store(one, many);
+    EXPECT_TRUE(cached(three)->empty()); // behind the load
     ShowArchive::archiveRootObject(*listOf(three, {{"past"_s, -20, 0}, {"filed"_s, 10, 20}}), file(three));
     const auto onAir = answer<std::vector<ShowList>>(
         [&](auto block) { listings->onAirShowsWithQueue(DispatchQueue::main(), std::move(block)); });
@@ -160,7 +161,9 @@ TEST_F(ShowQueriesTest, SearchLooksIntoEveryText)
     draft.entry->setSubtitle1("podnaslov"_s);
     draft.extra = std::make_shared<TVEntrySupplementalData>();
     AttributedText roles("Ana "_s);
-    roles.append("Perić"_s, {12});
+    TextAttributes large;
+    large.pointSize = 20;
+    roles.append("Perić"_s, large);
     *draft.extra = {AttributedText("dugi opis"_s), "epizoda"_s, "1999"_s, "režija"_s, roles, {}, {}, {}, false};
     listings->storeList(one, std::make_shared<const ShowList>(ShowList{std::move(draft).publish()}));
     store(two, {{"other"_s, 0, 10}, {"over"_s, -10, -1}});
