@@ -182,6 +182,7 @@ TEST_F(ShowQueriesTest, SearchLooksIntoEveryText)
 TEST_F(ShowQueriesTest, FindsABroadcastByItsAddress)
 {
     store(one, {{"a"_s, 0, 10}, {"b"_s, 10, 20}});
+    EXPECT_EQ(cached(one)->size(), 2u);   // behind the merge
     clock.advance(std::chrono::hours(1)); // finished shows are found as long as they are in the list
     const auto url = TVEntry::urlDigestFromChannel(one, testNow + std::chrono::minutes(10), "b"_s, "vidora"_s);
     listings->showWithURL(*URL::fromText(u"vidora://unknown"), [](Show) { FAIL(); });
