@@ -4,6 +4,8 @@
 #include "listings/TextDecoder.h"
 #include "platform/DeviceSettings.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
 
 namespace vidora {
@@ -80,16 +82,20 @@ std::optional<QString> Page::text() const
 {
     if (m_data->text)
         return m_data->text;
-    const bool asItStands = m_data->container == Container::None && m_data->charset == "UTF-8";
+    const bool inOnePiece = m_data->container == Container::None && m_data->charset == "UTF-8";
     QByteArray collected;
+    QByteArrayView utf8;
     const Outcome outcome = readUtf8([&](std::string_view bytes) {
-        if (!asItStands)
+        if (!inOnePiece)
             collected.append(bytes.data(), static_cast<qsizetype>(bytes.size()));
+        utf8 = inOnePiece ? QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())) : collected;
         return true;
     });
     if (outcome != Outcome::Complete)
         return std::nullopt;
-    return QString::fromUtf8(asItStands ? m_data->body : collected);
+    // The byte order mark is gone already; a second one is a character of the text.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return QString(decoder(utf8));
 }
 
 qsizetype Page::wireSize() const

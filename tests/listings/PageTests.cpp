@@ -133,6 +133,7 @@ TEST(Page, ReadsCharacterSetsByTheirRegisteredNames)
         {"UTF-16LE", QByteArray("\x0D\x01\x3D\xD8", 4), nullptr},
         {"WINDOWS-1258", "\xD2", "\xCC\x89"}, // held back for a mark until the end
         {"UTF-8", "\xEF\xBB\xBF\xC4\x8D", "č"},
+        {"UTF-8", "\xEF\xBB\xBF\xEF\xBB\xBF!", "\uFEFF!"}, // the second one is a character
         {"UTF-8; X=1", "a", nullptr},
         {"\"UTF-8\"", "a", nullptr},
         {"UTF-8//IGNORE", "a\xFF", nullptr},
