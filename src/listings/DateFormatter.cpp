@@ -1,7 +1,5 @@
 #include "listings/DateFormatter.h"
 
-#include <QDateTime>
-
 #include <algorithm>
 #include <limits>
 
@@ -9,18 +7,11 @@ namespace vidora {
 
 namespace {
 
-constexpr std::int64_t daySeconds = 86'400;
-
 struct Fields
 {
     int year = 1970, month = 1, day = 1, hour = 0, minute = 0, second = 0;
     std::optional<int> offset;
 };
-
-std::int64_t floorDivide(std::int64_t value, std::int64_t divisor)
-{
-    return value / divisor - (value % divisor < 0 ? 1 : 0);
-}
 
 bool isField(QChar letter)
 {
@@ -274,7 +265,7 @@ int value(const Fields& fields, QChar letter)
 
 DateFormatter::DateFormatter(QString format, QTimeZone zone)
     : m_format(std::move(format))
-    , m_zone(std::move(zone))
+    , m_wallClock(std::move(zone))
 {
 }
 
@@ -286,13 +277,13 @@ std::optional<Instant> DateFormatter::date(QStringView text) const
     const auto local = secondsAsUtc(*fields);
     if (!local)
         return std::nullopt;
-    return Instant(Seconds(*local - (fields->offset ? *fields->offset : offsetAtLocal(*local))));
+    return Instant(Seconds(*local - (fields->offset ? *fields->offset : m_wallClock.offsetAtLocal(*local))));
 }
 
 QString DateFormatter::text(Instant instant) const
 {
     const std::int64_t utc = floorDivide(unixMilliseconds(instant), 1000);
-    const int offset = offsetAt(utc);
+    const int offset = m_wallClock.offsetAt(utc);
     const Fields fields = fieldsOf(utc + offset);
     QString text;
     Pieces pieces(m_format);
@@ -305,36 +296,6 @@ QString DateFormatter::text(Instant instant) const
             appendNumber(text, value(fields, piece->letter), piece->length);
     }
     return text;
-}
-
-int DateFormatter::offsetAt(std::int64_t utcSeconds) const
-{
-    const auto offset = [this](std::int64_t seconds) {
-        return m_zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC));
-    };
-    const std::int64_t day = floorDivide(utcSeconds, daySeconds);
-    if (day == m_utcDay.day)
-        return m_utcDay.seconds;
-    const int first = offset(day * daySeconds);
-    if (first != offset((day + 1) * daySeconds))
-        return offset(utcSeconds);
-    m_utcDay = {day, first};
-    return first;
-}
-
-int DateFormatter::offsetAtLocal(std::int64_t localSeconds) const
-{
-    const std::int64_t day = floorDivide(localSeconds, daySeconds);
-    if (day == m_localDay.day)
-        return m_localDay.seconds;
-    // No offset is as long as a day, so these two moments enclose every reading of the local day.
-    const int before = offsetAt((day - 1) * daySeconds);
-    const int after = offsetAt((day + 2) * daySeconds);
-    if (before == after) {
-        m_localDay = {day, before};
-        return before;
-    }
-    return offsetAt(localSeconds - after) == after ? after : before;
 }
 
 } // namespace vidora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "listings/WallClock.h"
 #include "platform/Instant.h"
 
 #include <QString>
@@ -29,18 +30,8 @@ public:
     QString text(Instant instant) const;
 
 private:
-    struct Offset
-    {
-        std::int64_t day = std::numeric_limits<std::int64_t>::min();
-        int seconds = 0;
-    };
-
-    int offsetAt(std::int64_t utcSeconds) const;
-    int offsetAtLocal(std::int64_t localSeconds) const;
-
     QString m_format;
-    QTimeZone m_zone;
-    mutable Offset m_utcDay, m_localDay;
+    WallClock m_wallClock;
 };
 
 } // namespace vidora

@@ -28,8 +28,10 @@ struct Format
 
 /// The listing types that are read from page texts. Type 1 is read from the bytes and has no row.
 constexpr Format formats[] = {
-    {0, scanPortNetwork, Guard::None}, {4, scanDsk, Guard::None},        {5, scanJoj, Guard::Silent},
-    {6, scanPrimaMax, Guard::Logged},  {9, scanDolceSport, Guard::None},
+    {0, scanPortNetwork, Guard::None}, {2, scanPalinsesto, Guard::None}, {3, scanBarrandov, Guard::None},
+    {4, scanDsk, Guard::None},         {5, scanJoj, Guard::Silent},      {6, scanPrimaMax, Guard::Logged},
+    {7, scanHbo, Guard::Logged},       {8, scanNova, Guard::Logged},     {9, scanDolceSport, Guard::None},
+    {10, scanCinestar, Guard::None},   {11, scanRomania, Guard::None},
 };
 
 const Format* formatFor(std::uint32_t type)

@@ -58,6 +58,16 @@ std::optional<PageScanner::Match> PageScanner::find(QStringView marker, qsizetyp
     return Match{at, at + marker.size()};
 }
 
+std::vector<PageScanner::Match> PageScanner::findAll(QStringView marker, qsizetype from, qsizetype to) const
+{
+    std::vector<Match> matches;
+    while (const auto match = find(marker, from, to)) {
+        matches.push_back(*match);
+        from = match->end;
+    }
+    return matches;
+}
+
 std::optional<PageScanner::Match> PageScanner::findBackward(QStringView marker, qsizetype from, qsizetype to) const
 {
     check(from, to);
@@ -73,6 +83,15 @@ std::optional<PageScanner::Match> PageScanner::findPlain(QStringView marker, qsi
 {
     if (isAscii(marker))
         return findWhole(*this, marker, from, to);
+    // Every form of the marker has its plain letters in front, but for one that a mark may belong to.
+    const auto accent = std::find_if(marker.begin(), marker.end(), [](QChar unit) { return unit.unicode() >= 0x80; });
+    const qsizetype plain = accent - marker.begin() - 1;
+    if (plain > 0) {
+        const auto head = find(marker.first(plain), from, to);
+        if (!head)
+            return std::nullopt;
+        from = head->at;
+    }
     const QString text = marker.toString();
     const QString composed = text.normalized(QString::NormalizationForm_C);
     const QString decomposed = text.normalized(QString::NormalizationForm_D);
@@ -86,15 +105,21 @@ std::optional<PageScanner::Match> PageScanner::findPlain(QStringView marker, qsi
 std::optional<PageScanner::Match> PageScanner::findExpression(QStringView head, qsizetype least, QStringView tail,
                                                               qsizetype from, qsizetype to) const
 {
+    std::optional<Match> end;
     while (const auto start = find(head, from, to)) {
-        const auto lineEnd = std::find_if(m_text.begin() + start->end, m_text.begin() + to, isLineEnd);
-        const qsizetype end = lineEnd - m_text.begin();
-        if (start->end + least <= end) {
-            if (const auto match = find(tail, start->end + least, end))
-                return Match{start->at, match->end};
-        }
+        const qsizetype earliest = start->end + least;
+        if (earliest > to)
+            return std::nullopt;
+        // The tail is sought ahead of the line end, since a page may be one line, and not again until it is passed.
+        if (!end || end->at < earliest)
+            end = find(tail, earliest, to);
+        if (!end)
+            return std::nullopt;
+        const auto lineEnd = std::find_if(m_text.begin() + start->end, m_text.begin() + end->at, isLineEnd);
+        if (lineEnd == m_text.begin() + end->at)
+            return Match{start->at, end->end};
         // A later head on this line would meet the same missing tail.
-        from = std::max(end, start->at + 1);
+        from = std::max<qsizetype>(lineEnd - m_text.begin(), start->at + 1);
     }
     return std::nullopt;
 }
@@ -137,6 +162,15 @@ std::optional<PageScanner::Match> RememberedFind::find(qsizetype from, qsizetype
 {
     const auto match = find(from);
     return match && match->end <= to ? match : std::nullopt;
+}
+
+std::optional<PageScanner::Match> RememberedExpression::find(qsizetype from)
+{
+    if (!m_searched || (m_match && m_match->at < from)) {
+        m_match = m_page.findExpression(m_head, m_least, m_tail, from, m_page.size());
+        m_searched = true;
+    }
+    return m_match;
 }
 
 std::int64_t leadingNumber(QStringView text)

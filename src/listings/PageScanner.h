@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
+#include <vector>
 
 namespace vidora {
 
@@ -20,8 +21,9 @@ public:
 /// that does not lie within the text throws RangeException; a marker that is missing gives nothing.
 ///
 /// Holds no text of its own: the text outlives the scanner and every view that it hands out. Nothing here allocates,
-/// but `findPlain` of a marker outside ASCII. Searches take time in proportion to the range, so a scanner that looks
-/// for one marker again and again to the end of a page must remember that it was missing (RememberedFind).
+/// but `findAll`, and `findPlain` of a marker outside ASCII. Searches take time in proportion to the range, so a
+/// scanner that looks for one marker again and again to the end of a page must remember that it was missing
+/// (RememberedFind).
 class PageScanner
 {
 public:
@@ -47,6 +49,9 @@ public:
     /// Literal search, unit by unit. An empty marker is never found.
     std::optional<Match> find(QStringView marker, qsizetype from, qsizetype to) const;
     std::optional<Match> find(QStringView marker, qsizetype from) const { return find(marker, from, size()); }
+
+    /// Every occurrence in the range, in order, none overlapping the one before.
+    std::vector<Match> findAll(QStringView marker, qsizetype from, qsizetype to) const;
 
     /// The last occurrence in the range.
     std::optional<Match> findBackward(QStringView marker, qsizetype from, qsizetype to) const;
@@ -96,6 +101,57 @@ private:
     const PageScanner& m_page;
     QStringView m_marker;
     qsizetype m_to;
+    std::optional<PageScanner::Match> m_match;
+    bool m_searched = false;
+};
+
+/// A cut whose two markers are sought again and again up to one end, from positions which only grow.
+class RememberedCut
+{
+public:
+    RememberedCut(const PageScanner& page, QStringView open, QStringView close,
+                  std::optional<qsizetype> to = std::nullopt)
+        : m_page(page)
+        , m_open(page, open, to)
+        , m_close(page, close, to)
+    {
+    }
+
+    std::optional<QStringView> find(qsizetype from) { return find(from, m_page.size()); }
+    std::optional<QStringView> find(qsizetype from, qsizetype to)
+    {
+        const auto open = m_open.find(from, to);
+        if (!open)
+            return std::nullopt;
+        const auto close = m_close.find(open->end, to);
+        return close ? std::optional(m_page.slice(open->end, close->at)) : std::nullopt;
+    }
+
+private:
+    const PageScanner& m_page;
+    RememberedFind m_open, m_close;
+};
+
+/// A remembered search for a regular expression HEAD.{LEAST,}TAIL, to the end of the page.
+class RememberedExpression
+{
+public:
+    /// `page`, `head` and `tail` outlive the object.
+    RememberedExpression(const PageScanner& page, QStringView head, qsizetype least, QStringView tail)
+        : m_page(page)
+        , m_head(head)
+        , m_least(least)
+        , m_tail(tail)
+    {
+    }
+    /// `from` is never below that of the call before.
+    std::optional<PageScanner::Match> find(qsizetype from);
+
+private:
+    const PageScanner& m_page;
+    QStringView m_head;
+    qsizetype m_least;
+    QStringView m_tail;
     std::optional<PageScanner::Match> m_match;
     bool m_searched = false;
 };

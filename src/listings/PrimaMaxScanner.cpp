@@ -20,31 +20,6 @@ constexpr QStringView titleClosing = u"</h3>";
 constexpr QStringView descriptionOpening = u"<p class=\"m-top broadcast-description\">";
 constexpr QStringView imageOpening = u"<img src=\"";
 
-/// A cut whose two markers are sought again and again up to one end.
-class RememberedCut
-{
-public:
-    RememberedCut(const PageScanner& page, QStringView opening, QStringView closing, qsizetype to)
-        : m_page(page)
-        , m_opening(page, opening, to)
-        , m_closing(page, closing, to)
-    {
-    }
-
-    std::optional<QStringView> find(qsizetype from, qsizetype to)
-    {
-        const auto opening = m_opening.find(from, to);
-        if (!opening)
-            return std::nullopt;
-        const auto closing = m_closing.find(opening->end, to);
-        return closing ? std::optional(m_page.slice(opening->end, closing->at)) : std::nullopt;
-    }
-
-private:
-    const PageScanner& m_page;
-    RememberedFind m_opening, m_closing;
-};
-
 /// Title without the anchor around it and without the number of the part in brackets, which goes into the details.
 void readTitle(QStringView text, TVEntry& entry)
 {

@@ -112,12 +112,12 @@ void XMLEventStream::parse(std::string_view bytes, bool last)
     m_fed += static_cast<std::int64_t>(bytes.size());
     if (XML_Parse(parser, bytes.data(), static_cast<int>(bytes.size()), last) != XML_STATUS_OK ||
         m_fed - XML_GetCurrentByteIndex(parser) > maximalToken)
-        m_ended = true;
+        m_ended = m_failed = true;
 }
 
 void XMLEventStream::stop()
 {
-    m_ended = true;
+    m_ended = m_failed = true;
     XML_StopParser(m_parser.get(), XML_FALSE);
 }
 

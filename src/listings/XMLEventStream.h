@@ -39,6 +39,8 @@ public:
     void feed(std::string_view bytes);
     /// Tells that no more bytes come.
     void finish();
+    /// After `finish`: whether the reading ended ahead of the document's end, or there was no document at all.
+    bool failed() const { return m_failed; }
     /// Whether text is reported from here on; it is at the start. Text that nobody wants costs nothing. To be called
     /// from `startElement` or `endElement`.
     void setTextWanted(bool wanted);
@@ -64,6 +66,7 @@ private:
     int m_entities = 0;
     bool m_insideCdata = false;
     bool m_ended = false;
+    bool m_failed = false;
 };
 
 } // namespace vidora
