@@ -61,7 +61,7 @@ void write(Writer& writer, const char* key, const std::optional<AttributedText>&
         return;
     writer.append(QLatin1String(key));
     if (text->isPlain()) {
-        writer.append(QStringView(text->string()));
+        writer.append(text->isEmpty() ? QStringView(u"") : QStringView(text->runs().front().text));
         return;
     }
     writer.startArray(text->runs().size());
@@ -123,6 +123,7 @@ void write(Writer& writer, const ShowElement& element)
 
 // The checksum as an item of the sequence: a byte string of four bytes, the most significant first.
 constexpr qsizetype checksumSize = 5;
+constexpr qsizetype usualShowSize = 1536;
 
 QByteArray checksum(QByteArrayView bytes)
 {
@@ -139,12 +140,14 @@ QByteArray checksum(QByteArrayView bytes)
 QByteArray ShowArchive::archivedData(const ShowList& list)
 {
     QByteArray bytes;
+    bytes.reserve(static_cast<qsizetype>(list.size()) * usualShowSize);
     Writer writer(&bytes);
     writer.startArray(list.size());
     for (const Show& show : list)
         write(writer, *show);
     writer.endArray();
-    return bytes + checksum(bytes);
+    bytes += checksum(bytes);
+    return bytes;
 }
 
 ShowList ShowArchive::unarchivedList(const QByteArray& bytes)
