@@ -12,6 +12,11 @@ struct Position
     const Show* show;
 };
 
+qint32 sizeOf(const TVEntry::Text& text)
+{
+    return text ? static_cast<qint32>(text->size()) : -1;
+}
+
 std::vector<Position> currentShows(const ListingsDictionary::Lists& lists, Instant now)
 {
     std::size_t count = 0;
@@ -57,7 +62,8 @@ std::shared_ptr<const MergedShows> ListingsDictionary::merge(Instant now) const
     for (const Position& position : positions) {
         const ShowElement& show = **position.show;
         merged->rows.push_back({position.start, show.entry->endDateTime().value_or(Instant::min()),
-                                show.categories.value_or(0), show.categories.has_value()});
+                                show.categories.value_or(0), show.categories.has_value(), sizeOf(show.entry->title()),
+                                sizeOf(show.entry->identificator())});
         shows->push_back(*position.show);
     }
     merged->shows = std::move(shows);

@@ -19,7 +19,9 @@ struct MergedShows
     {
         Instant start, end;
         std::uint32_t categories;
-        bool classified; ///< false: the show has no category mask at all
+        bool classified;          ///< false: the show has no category mask at all
+        qint32 titleSize;         ///< -1 without one; few shows have to be asked for their titles then
+        qint32 identificatorSize; ///< the same
     };
     SharedShowList shows = std::make_shared<const ShowList>();
     std::vector<Row> rows; ///< of the same length as `shows`

@@ -59,9 +59,14 @@ void TVListings::showWithURL(const URL& url, std::function<void(Show)> mainBlock
 void TVListings::showScheduleForTitle(const QString& title, QualityOfService priority, CompoundBlock mainBlock)
 {
     const auto query = [title](const ListingsDictionary& lists, Instant now) {
-        return firstShows(*lists.merged().shows, [&](const ShowElement& show) {
-            return endsNotBefore(*show.entry, now) && show.entry->title() == title;
-        });
+        const MergedShows& merged = lists.merged();
+        ShowList result;
+        for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
+            const Show& show = (*merged.shows)[i];
+            if (merged.rows[i].titleSize == title.size() && merged.rows[i].end >= now && show->entry->title() == title)
+                result.push_back(show);
+        }
+        return result;
     };
     compoundQuery(query, priority, std::move(mainBlock));
 }
@@ -70,13 +75,16 @@ void TVListings::broadcastForTitle(const QString& title, bool previouslyShown, s
 {
     m_listingsDictionaryAccessQueue->async([this, title, previouslyShown, mainBlock = std::move(mainBlock)] {
         const auto lists = dictionary();
+        const MergedShows& merged = lists->merged();
         const Instant now = m_surroundings.clock.now();
-        const ShowList& shows = *lists->merged().shows;
-        const bool isFound = std::any_of(shows.begin(), shows.end(), [&](const Show& show) {
-            const TVEntry& entry = *show->entry;
-            return entry.previouslyShown() == previouslyShown && endsNotBefore(entry, now) &&
-                   entry.identificator() == title;
-        });
+        bool isFound = false;
+        for (std::size_t i = 0; i < merged.rows.size() && !isFound; ++i) {
+            const MergedShows::Row& row = merged.rows[i];
+            if (row.identificatorSize != title.size() || row.end < now)
+                continue;
+            const TVEntry& entry = *(*merged.shows)[i]->entry;
+            isFound = entry.previouslyShown() == previouslyShown && entry.identificator() == title;
+        }
         DispatchQueue::main().async([isFound, mainBlock] { mainBlock(isFound); });
     });
 }
