@@ -1,0 +1,136 @@
+#include "core/GuideImport.h"
+
+#include "core/GuideIcons.h"
+#include "core/OwnGuideSession.h"
+#include "core/PropertyList.h"
+#include "core/SupportedChannelTypes.h"
+#include "listings/PageFetcher.h"
+#include "platform/AtomicFile.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <algorithm>
+#include <atomic>
+
+namespace vidora {
+
+namespace {
+
+constexpr qint64 maximumCatalogue = 16 * 1024 * 1024;
+const QString region = QStringLiteral("Other");
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("vidora", text);
+}
+
+std::optional<URL> addressOfSource(const QString& source)
+{
+    const QString scheme = URL::fromText(source) ? URL::fromText(source)->scheme() : QString();
+    if (scheme == QLatin1String("http") || scheme == QLatin1String("https") || scheme == QLatin1String("file"))
+        return URL::fromText(source);
+    if (source.contains(QLatin1String("://")))
+        return std::nullopt;
+    const QUrl file = QUrl::fromLocalFile(QFileInfo(source).absoluteFilePath());
+    return URL::fromText(QString::fromLatin1(file.toEncoded()));
+}
+
+// Only some languages are offered in the region of imported channels; any other one is left open.
+QString supportedLanguage(const QString& tag)
+{
+    const QString language = tag.section(QLatin1Char('-'), 0, 0).toLower();
+    const auto& pairs = SupportedChannelTypes::sharedInstance().pairs();
+    const bool supported = std::any_of(pairs.begin(), pairs.end(), [&](const SupportedChannelTypesPair& pair) {
+        return pair.region == region && pair.language == language;
+    });
+    return supported ? language : QString();
+}
+
+QString titleOf(const GuideChannel& channel)
+{
+    return channel.displayNames.isEmpty() ? channel.id : channel.displayNames.front();
+}
+
+QVariantMap recordOf(const GuideChannel& channel, const QString& iconName)
+{
+    return {{QStringLiteral("Location"), GuideImport::idOfChannel(channel.id).hex()},
+            {QStringLiteral("Title"), titleOf(channel)},
+            {QStringLiteral("Icon"), QString(region + QLatin1Char('/') + iconName)},
+            {QStringLiteral("Language"), supportedLanguage(channel.language)},
+            {QStringLiteral("Location1"), QString(QLatin1String("tvpc.") + channel.id)}};
+}
+
+} // namespace
+
+GuideImport::GuideImport(URLSession& network, QString cataloguePath, QString iconFolder)
+    : m_network(network)
+    , m_cataloguePath(std::move(cataloguePath))
+    , m_iconFolder(std::move(iconFolder))
+{
+}
+
+ObjectId GuideImport::idOfChannel(const QString& guideId)
+{
+    const QByteArray name = "xmltv channel " + guideId.toUtf8();
+    const QByteArray digest = QCryptographicHash::hash(name, QCryptographicHash::Sha256);
+    return ObjectId::initWithData(digest.left(ObjectId::length));
+}
+
+std::optional<URL> GuideImport::addressOfCatalogue(const QString& cataloguePath)
+{
+    const auto bytes = AtomicFile::read(cataloguePath, maximumCatalogue);
+    const auto root = bytes ? readPropertyList(*bytes) : std::nullopt;
+    return root ? URL::fromText(root->toMap().value(QStringLiteral("Guide")).toString()) : std::nullopt;
+}
+
+std::variant<Page, QString> GuideImport::fetch(const URL& address) const
+{
+    OwnGuideSession session(m_network, address);
+    const URLResult result = session.perform(URLRequest(address));
+    if (result.error)
+        return translated("%1 can't be reached: %2").arg(address.text(), result.error->description);
+    const int status = result.response ? result.response->statusCode : 0;
+    if (status < 200 || status >= 300)
+        return translated("%1 answered with status %2.").arg(address.text()).arg(status);
+    if (!result.data || result.data->isEmpty())
+        return translated("%1 is empty.").arg(address.text());
+    const auto page = PageFetcher::pageFromData(*result.data, *result.response);
+    if (!page)
+        return translated("%1 is in an encoding that is not known.").arg(address.text());
+    return *page;
+}
+
+std::variant<ImportReport, QString> GuideImport::import(const QString& source, const IconProgress& progress) const
+{
+    const auto address = addressOfSource(source);
+    if (!address)
+        return translated("%1 is no address of a guide: it takes http, https or a file.").arg(source);
+    const auto fetched = fetch(*address);
+    if (const auto* message = std::get_if<QString>(&fetched))
+        return *message;
+    auto guide = readGuideSummary(std::get<Page>(fetched));
+    if (!guide)
+        return translated("%1 is no XMLTV guide.").arg(address->text());
+    if (guide->channels.empty())
+        return translated("The guide at %1 has no channels.").arg(address->text());
+
+    ImportReport report{*address, std::move(*guide), {}, 0};
+    QHash<QString, QString> iconNames;
+    report.iconsFetched = saveGuideIcons(m_network, report.guide.channels, m_iconFolder, iconNames, progress);
+    QVariantList records;
+    for (const GuideChannel& channel : report.guide.channels) {
+        report.channels.push_back(idOfChannel(channel.id));
+        records.append(recordOf(channel, iconNames.value(channel.id)));
+    }
+    const QVariantMap catalogue{{QStringLiteral("Guide"), address->text()}, {QStringLiteral("Channels"), records}};
+    if (const auto error =
+            AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly))
+        return translated("The catalogue can't be written: %1").arg(error->text);
+    return report;
+}
+
+} // namespace vidora

@@ -1,0 +1,210 @@
+#include "core/UpdateCycle.h"
+
+#include "listings/ListingSources.h"
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace vidora {
+
+/// What one pass knows, all of it gone at its end.
+struct UpdateCycle::Pass
+{
+    struct Choice
+    {
+        URLSet urls;
+        std::size_t location; ///< 1 for a channel's first source
+    };
+
+    std::unordered_map<URLSet, std::vector<Source>, URLSetHash> groups;
+    std::vector<Choice> choices;
+    std::unordered_set<ObjectId> missing; ///< channels that need data and have none yet
+    std::size_t shows = 0;
+    bool parsedAnything = false;
+
+    // First choices of all channels first, then second ones; within one rank the order of the selection. An address set
+    // that several channels share stands at the place of its best rank.
+    std::vector<URLSet> inOrder()
+    {
+        std::stable_sort(choices.begin(), choices.end(),
+                         [](const Choice& a, const Choice& b) { return a.location < b.location; });
+        std::vector<URLSet> ordered;
+        std::unordered_set<URLSet, URLSetHash> seen;
+        for (Choice& choice : choices) {
+            if (seen.insert(choice.urls).second)
+                ordered.push_back(std::move(choice.urls));
+        }
+        return ordered;
+    }
+};
+
+std::size_t UpdateCycle::URLSetHash::operator()(const URLSet& urls) const
+{
+    std::size_t hash = urls.size();
+    for (const URL& url : urls)
+        hash = hash * 31 + std::hash<URL>()(url);
+    return hash;
+}
+
+UpdateCycle::UpdateCycle(Services services, UpdateObserver& observer)
+    : m_services(std::move(services))
+    , m_observer(observer)
+{
+}
+
+void UpdateCycle::checkAndUpdateAllChannels()
+{
+    m_services.listings.showCountForSelectedChannelsForQueue(
+        m_services.checkAndUpdateAllChannelsQueue,
+        [this](const std::unordered_map<ObjectId, int>& counts) { run(counts); });
+}
+
+void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
+{
+    m_listingsUpdateTask =
+        m_services.application.beginBackgroundTask(QStringLiteral("listings update"), [this] { endBackgroundTask(); });
+
+    Pass pass;
+    for (const ObjectId& id : m_services.channels.selected()) {
+        const auto channel = m_services.channels.channelWithChannelId(id);
+        if (!channel)
+            continue;
+        const auto count = showCounts.find(id);
+        // However young its file is, a channel with too few shows ahead must load.
+        if (count != showCounts.end() && count->second < m_services.showCount())
+            channel->unload();
+        if (count != showCounts.end() && !channel->reloadNeeded())
+            continue;
+        m_services.loadQueue.sync([&] { collect(pass, id); });
+    }
+    m_mainBlocks.async([this, channels = pass.missing.size()] { m_observer.passStarted(channels); });
+
+    for (const URLSet& urls : pass.inOrder())
+        update(pass, urls);
+
+    m_mainBlocks.async([this] { endBackgroundTask(); });
+    if (pass.parsedAnything)
+        m_services.loadQueue.sync([this] { m_services.listings.updatePopularList(); });
+    m_mainBlocks.async(
+        [this, shows = pass.shows, failed = std::vector<ObjectId>(pass.missing.begin(), pass.missing.end())] {
+            m_observer.passEnded(shows, failed);
+        });
+}
+
+void UpdateCycle::collect(Pass& pass, const ObjectId& channel)
+{
+    const auto data = m_services.channelData.find(channel);
+    if (data == m_services.channelData.end())
+        return;
+    pass.missing.insert(channel);
+    const Instant now = m_services.clock.now();
+    std::size_t location = 0;
+    for (const QString& sourceId : data->second.sources()) {
+        ++location;
+        auto urls = urlsForSourceId(sourceId, now, data->second.language(), m_services.endpoints, m_services.random);
+        if (!urls) {
+            Log::line(QStringLiteral("source %1: no address").arg(sourceId));
+            continue;
+        }
+        pass.groups[*urls].push_back({channel, sourceId});
+        pass.choices.push_back({std::move(*urls), location});
+    }
+}
+
+ChannelItems UpdateCycle::neededOf(const std::vector<Source>& group) const
+{
+    ChannelItems needed;
+    for (const Source& source : group) {
+        const auto channel = m_services.channels.channelWithChannelId(source.channel);
+        if (channel && channel->reloadNeeded())
+            needed.push_back({source.channel, source.sourceId, channel->language()});
+    }
+    return needed;
+}
+
+void UpdateCycle::update(Pass& pass, const URLSet& urls)
+{
+    const ChannelItems needed = neededOf(pass.groups.at(urls));
+    if (needed.empty())
+        return;
+    std::vector<ObjectId> channels;
+    for (const ChannelItem& item : needed)
+        channels.push_back(item.channel);
+    m_mainBlocks.async([this, channels = std::move(channels)] { m_observer.fetching(channels); });
+
+    const Pages pages = fetch(urls);
+    if (!pages.empty())
+        m_services.loadQueue.sync([&] { parse(pass, needed, pages); });
+}
+
+Pages UpdateCycle::fetch(const URLSet& urls)
+{
+    Pages pages;
+    for (const URL& url : urls) {
+        URLRequest request(url);
+        request.headerFields.set("User-Agent", m_services.userAgent.value());
+        request.headerFields.set("Accept-Encoding", "gzip,deflate");
+        auto page = m_services.fetcher.netPageForRequest(request, false);
+        if (!page)
+            break;
+        pages.push_back(std::move(*page));
+    }
+    return pages;
+}
+
+void UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& pages)
+{
+    const QString& source = needed.front().sourceId;
+    try {
+        const std::uint32_t type = listingsTypeForSourceId(source, m_services.endpoints);
+        setLoading(needed, true);
+        const auto result = m_services.parser.netList(needed, pages, m_services.clock.now(), type);
+        setLoading(needed, false);
+        if (!result.empty())
+            publish(pass, result);
+        else
+            Log::line(QStringLiteral("source %1: nothing usable").arg(source));
+    } catch (const std::exception& exception) {
+        // The channels stay marked as loading: what made a parse fail would make the next one fail as well.
+        Log::line(QStringLiteral("listings parsing exception!!! source %1: %2")
+                      .arg(source, QString::fromUtf8(exception.what())));
+    }
+}
+
+void UpdateCycle::publish(Pass& pass, const ListingParser::Result& result)
+{
+    pass.parsedAnything = true;
+    m_services.listings.saveAllShows();
+    std::unordered_map<ObjectId, ShowList> firstShows;
+    for (const auto& [channel, list] : result) {
+        const std::size_t count = std::min<std::size_t>(list->size(), m_services.showCount());
+        firstShows[channel].assign(list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count));
+        pass.shows += list->size();
+        // The store stamps a channel's load time behind what it has to save; waiting for that here keeps the channel's
+        // next source from being fetched as well.
+        m_services.listings.isScheduledForSaving(channel);
+        const auto object = m_services.channels.channelWithChannelId(channel);
+        if (object && !object->reloadNeeded())
+            pass.missing.erase(channel);
+    }
+    m_mainBlocks.async([this, firstShows = std::move(firstShows)] { m_observer.delivered(firstShows); });
+}
+
+void UpdateCycle::setLoading(const ChannelItems& items, bool loading) const
+{
+    for (const ChannelItem& item : items) {
+        if (const auto channel = m_services.channels.channelWithChannelId(item.channel))
+            channel->setLoading(loading);
+    }
+}
+
+void UpdateCycle::endBackgroundTask()
+{
+    if (m_listingsUpdateTask == Application::backgroundTaskInvalid)
+        return;
+    m_services.application.endBackgroundTask(m_listingsUpdateTask);
+    m_listingsUpdateTask = Application::backgroundTaskInvalid;
+}
+
+} // namespace vidora

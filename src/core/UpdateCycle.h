@@ -1,0 +1,96 @@
+#pragma once
+
+#include "core/ChannelCatalogue.h"
+#include "core/TVChannels.h"
+#include "listings/Endpoints.h"
+#include "listings/HTTPUserAgent.h"
+#include "listings/ListingParser.h"
+#include "listings/ListingSources.h"
+#include "listings/PageFetcher.h"
+#include "platform/Application.h"
+#include "platform/BlockOwner.h"
+#include "platform/Clock.h"
+#include "platform/DispatchQueue.h"
+#include "store/TVListings.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace vidora {
+
+/// Who watches a pass: a progress bar, a screen. All calls come on the main queue, in the order of events.
+class UpdateObserver
+{
+public:
+    virtual ~UpdateObserver() = default;
+    /// `channels` need data.
+    virtual void passStarted(std::size_t channels) = 0;
+    /// One source of these channels is about to be fetched.
+    virtual void fetching(const std::vector<ObjectId>& channels) = 0;
+    /// A source delivered the lists, each cut to as many upcoming shows as a row of the home screen holds.
+    virtual void delivered(const std::unordered_map<ObjectId, ShowList>& lists) = 0;
+    /// `shows` were read in the whole pass; `failed` channels had no source that delivered.
+    virtual void passEnded(std::size_t shows, const std::vector<ObjectId>& failed) = 0;
+};
+
+/// The update pass: the only place from which listings are fetched. It decides which channels need data, groups them by
+/// the documents to be fetched, fetches these one after the other, and has them parsed into the store. Channels whose
+/// earlier source delivered are passed over for their later ones.
+class UpdateCycle
+{
+public:
+    /// All that a pass needs; everything outlives it.
+    struct Services
+    {
+        const Clock& clock;
+        Random& random;
+        const Endpoints& endpoints;
+        const ChannelData& channelData;
+        TVChannels& channels;
+        TVListings& listings;
+        ListingParser& parser;
+        PageFetcher& fetcher;
+        HTTPUserAgent& userAgent;
+        Application& application;
+        DispatchQueue& checkAndUpdateAllChannelsQueue;
+        DispatchQueue& loadQueue;
+        std::function<std::uint8_t()> showCount; ///< asked on any thread
+    };
+
+    UpdateCycle(Services services, UpdateObserver& observer);
+
+    /// Starts a pass and returns at once. Passes never overlap: a second one waits and finds little to do. Main thread.
+    void checkAndUpdateAllChannels();
+
+private:
+    struct URLSetHash
+    {
+        std::size_t operator()(const URLSet& urls) const;
+    };
+    struct Source
+    {
+        ObjectId channel;
+        QString sourceId;
+    };
+    struct Pass;
+
+    void run(const std::unordered_map<ObjectId, int>& showCounts);
+    void collect(Pass& pass, const ObjectId& channel);
+    ChannelItems neededOf(const std::vector<Source>& group) const;
+    void update(Pass& pass, const URLSet& urls);
+    Pages fetch(const URLSet& urls);
+    void parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
+    void publish(Pass& pass, const ListingParser::Result& result);
+    void setLoading(const ChannelItems& items, bool loading) const;
+    void endBackgroundTask();
+
+    const Services m_services;
+    UpdateObserver& m_observer;
+    BlockOwner m_mainBlocks;
+    Application::BackgroundTaskIdentifier m_listingsUpdateTask = Application::backgroundTaskInvalid;
+};
+
+} // namespace vidora

@@ -1,0 +1,250 @@
+#include "core/VidoraAppDelegate.h"
+
+#include "content/TVEntry.h"
+#include "platform/Log.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vidora {
+
+namespace {
+
+constexpr double defaultUpdateInterval = 86'400;
+constexpr std::uint8_t defaultShowCount = 4;
+const QString filteredCatalogue = QStringLiteral("5b65e9d23afbe36684bdfe2c.plist");
+
+Milliseconds intervalForCache(double seconds)
+{
+    constexpr double bound = 1e9;
+    return Milliseconds(static_cast<std::int64_t>(std::isfinite(seconds) ? std::clamp(seconds, 0.0, bound) * 1000
+                                                                         : defaultUpdateInterval * 1000));
+}
+
+} // namespace
+
+VidoraAppDelegate::VidoraAppDelegate(Environment environment)
+    : m_environment(std::move(environment))
+    , m_defaults(m_environment.folders.settings + QLatin1String("/settings.json"))
+    , m_keyValueStore(m_environment.folders.documents + QLatin1String("/cloud.sqlite"))
+    , m_cache(m_environment.clock, [this] { return intervalForCache(automaticUpdateInterval()); })
+    , m_session(m_environment.network, m_cache)
+    , m_userAgent(m_environment.random)
+    , m_networkAlerts(m_environment.clock, [this](Alert alert) { m_tabBarController.present(std::move(alert)); })
+    , m_networkActivity([this](bool visible) {
+        if (networkActivityIndicator)
+            networkActivityIndicator(visible);
+    })
+    , m_screens(m_tabBarController)
+{
+}
+
+VidoraAppDelegate::~VidoraAppDelegate()
+{
+    // A pass that is still running refers to everything here.
+    if (m_checkAndUpdateAllChannelsQueue)
+        m_checkAndUpdateAllChannelsQueue->sync([] {});
+}
+
+void VidoraAppDelegate::applicationDidFinishLaunching()
+{
+    TVEntry::detectAlphabet(m_environment.clock.now());
+    m_loadQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.loadQueue"), QualityOfService::Background);
+    m_loadSchedulesQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.loadSchedulesQueue"));
+    m_checkAndUpdateAllChannelsQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.checkAndUpdateAllChannels"));
+    m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder);
+    loadCatalogue();
+    if (!m_environment.readOnly)
+        m_mainBlocks.async([this] { pruneSelection(); });
+    makeStore();
+    setup();
+    updateBadge();
+}
+
+void VidoraAppDelegate::loadCatalogue()
+{
+    const CatalogueFiles files{m_environment.catalogue, m_environment.iconFolder,
+                               m_environment.folders.caches + QLatin1Char('/') + filteredCatalogue};
+    m_channelData =
+        loadChannelData(files, [this](const QString& name) { return m_icons->iconNamed(name).has_value(); });
+    m_channels =
+        std::make_unique<TVChannels>(m_environment.folders.documents,
+                                     ChannelAging{m_environment.clock, m_environment.folders.caches,
+                                                  [this] { return automaticUpdateInterval(); }, m_environment.readOnly},
+                                     m_channelData, m_keyValueStore);
+}
+
+void VidoraAppDelegate::makeStore()
+{
+    m_storeServices = std::make_unique<StoreServices>(*m_channels, m_channelData, m_showCount, m_environment.scheme,
+                                                      m_application, m_defaults);
+    m_listings = std::make_unique<TVListings>(
+        TVListings::Surroundings{m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices,
+                                 *m_icons, *m_storeServices, *m_storeServices, *m_storeServices});
+    m_fetcher =
+        std::make_unique<PageFetcher>(m_session, m_cache, m_environment.sleeper, m_networkActivity, m_networkAlerts);
+    m_parser = std::make_unique<ListingParser>(m_environment.clock, m_environment.endpoints, *m_listings);
+    m_updateCycle = std::make_unique<UpdateCycle>(
+        UpdateCycle::Services{m_environment.clock, m_environment.random, m_environment.endpoints, m_channelData,
+                              *m_channels, *m_listings, *m_parser, *m_fetcher, m_userAgent, m_application,
+                              *m_checkAndUpdateAllChannelsQueue, *m_loadQueue, [this] { return showCount(); }},
+        *this);
+}
+
+void VidoraAppDelegate::pruneSelection()
+{
+    ChannelIds selection = m_channels->selected();
+    ChannelIds removed;
+    std::copy_if(selection.begin(), selection.end(), std::back_inserter(removed),
+                 [this](const ObjectId& id) { return !m_channelData.contains(id); });
+    if (removed.empty())
+        return;
+    std::erase_if(selection, [this](const ObjectId& id) { return !m_channelData.contains(id); });
+    m_channels->setSelected(selection);
+    for (const ObjectId& id : removed)
+        m_listings->removeListingsForChannel(id);
+    if (selection.empty())
+        disableTabs();
+    m_screens.selectedChannelsChanged();
+}
+
+void VidoraAppDelegate::setup()
+{
+    m_colorizedShows = m_defaults.boolForKey(QStringLiteral("colorizedShows"));
+    if (m_environment.isPad)
+        m_tabBarController.setEnabled(0, true);
+    if (m_channels->selected().empty()) {
+        disableTabs();
+    } else if (!m_firstTabSelected) {
+        m_firstTabSelected = true;
+        m_tabBarController.setSelectedIndex(m_environment.isPad ? 1 : 0);
+    }
+}
+
+void VidoraAppDelegate::readSettings()
+{
+    const auto flag = [this](const QString& key) {
+        return !m_defaults.objectForKey(key) || m_defaults.boolForKey(key);
+    };
+    m_imagesEnabled = flag(QStringLiteral("show_img"));
+    m_showBgImages = flag(QStringLiteral("bg_img"));
+    const auto count = static_cast<std::uint8_t>(m_defaults.integerForKey(QStringLiteral("currently_show_count")));
+    m_showCount = count == 0 ? defaultShowCount : count;
+}
+
+void VidoraAppDelegate::applicationDidBecomeActive()
+{
+    m_application.setApplicationState(Application::State::Active);
+    m_networkAlerts.alertedNow();
+    TVEntry::detectAlphabet(m_environment.clock.now());
+    readSettings();
+    m_screens.activated();
+    checkAndUpdateAllChannels();
+}
+
+void VidoraAppDelegate::applicationDidEnterBackground()
+{
+    m_application.setApplicationState(Application::State::Background);
+    if (!m_environment.readOnly) {
+        m_defaults.synchronize();
+        m_listings->commitFiles();
+    }
+    m_screens.enteredBackground();
+}
+
+void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
+{
+    if (!m_environment.readOnly) {
+        if (m_application.applicationState() == Application::State::Background)
+            m_defaults.synchronize();
+        m_listings->commitFiles();
+    }
+    const qint64 capacity = m_cache.memoryCapacity();
+    m_cache.setMemoryCapacity(0);
+    m_cache.setMemoryCapacity(capacity);
+}
+
+void VidoraAppDelegate::applicationWillTerminate()
+{
+    if (!m_environment.readOnly)
+        m_defaults.synchronize();
+    m_application.finishBackgroundTasks();
+    m_channels->waitForWrites();
+}
+
+void VidoraAppDelegate::checkAndUpdateAllChannels()
+{
+    m_updateCycle->checkAndUpdateAllChannels();
+}
+
+void VidoraAppDelegate::updateBadge()
+{
+    const int count = eventCount ? eventCount() : 0;
+    if (applicationIconBadge)
+        applicationIconBadge(count);
+    m_tabBarController.setBadgeValue(m_environment.isPad ? 4 : 3,
+                                     count == 0 ? std::nullopt : std::optional(QString::number(count)));
+}
+
+void VidoraAppDelegate::disableTabs()
+{
+    const std::size_t count = m_tabBarController.items().size();
+    if (count == 0)
+        return;
+    m_tabBarController.setSelectedIndex(count - 1);
+    for (std::size_t index = 0; index + 1 < count; ++index)
+        m_tabBarController.setEnabled(index, false);
+}
+
+void VidoraAppDelegate::enableTabs()
+{
+    for (std::size_t index = 0; index < m_tabBarController.items().size(); ++index) {
+        if (index != m_tabBarController.selectedIndex())
+            m_tabBarController.setEnabled(index, true);
+    }
+}
+
+void VidoraAppDelegate::notificationsSynched()
+{
+    updateBadge();
+    m_mainBlocks.async([this] { m_screens.notificationsSynched(); });
+}
+
+double VidoraAppDelegate::automaticUpdateInterval() const
+{
+    const QString key = QStringLiteral("data_update");
+    return m_defaults.objectForKey(key) ? m_defaults.doubleForKey(key) : defaultUpdateInterval;
+}
+
+void VidoraAppDelegate::passStarted(std::size_t channels)
+{
+    if (m_updateObserver)
+        m_updateObserver->passStarted(channels);
+}
+
+void VidoraAppDelegate::fetching(const std::vector<ObjectId>& channels)
+{
+    if (m_updateObserver)
+        m_updateObserver->fetching(channels);
+}
+
+void VidoraAppDelegate::delivered(const std::unordered_map<ObjectId, ShowList>& lists)
+{
+    if (m_updateObserver)
+        m_updateObserver->delivered(lists);
+    if (m_application.applicationState() == Application::State::Background)
+        return;
+    for (const auto& [channel, entries] : lists)
+        m_screens.reloadChannel(channel, entries);
+    m_screens.reloadData();
+}
+
+void VidoraAppDelegate::passEnded(std::size_t shows, const std::vector<ObjectId>& failed)
+{
+    if (m_updateObserver)
+        m_updateObserver->passEnded(shows, failed);
+}
+
+} // namespace vidora

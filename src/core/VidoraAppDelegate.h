@@ -1,0 +1,153 @@
+#pragma once
+
+#include "core/ChannelCatalogue.h"
+#include "core/ScreenWalk.h"
+#include "core/StoreServices.h"
+#include "core/TVChannels.h"
+#include "core/UpdateCycle.h"
+#include "listings/Endpoints.h"
+#include "listings/HTTPUserAgent.h"
+#include "listings/ListingParser.h"
+#include "listings/PageFetcher.h"
+#include "platform/Application.h"
+#include "platform/BlockOwner.h"
+#include "platform/CachedURLSession.h"
+#include "platform/Clock.h"
+#include "platform/KeyValueStore.h"
+#include "platform/NetworkActivity.h"
+#include "platform/NetworkAlerts.h"
+#include "platform/StandardFolders.h"
+#include "platform/URLCache.h"
+#include "platform/URLSession.h"
+#include "platform/UserDefaults.h"
+#include "platform/ViewControllers.h"
+#include "store/TVListings.h"
+#include "store/TVStationIcons.h"
+
+#include <atomic>
+#include <memory>
+
+namespace vidora {
+
+/// What the process gives the delegate: the machine behind the seams, and where things lie. Two delegates with
+/// different environments are two devices in one process.
+struct Environment
+{
+    StandardFolders folders;
+    QString catalogue; ///< path of Data.plist
+    QString iconFolder;
+    Endpoints endpoints;
+    QString scheme; ///< the application's own URL scheme
+    const Clock& clock;
+    Random& random;
+    Sleeper& sleeper;
+    URLSession& network;
+    bool isPad = false;
+    bool readOnly = false; ///< another process owns the home: nothing is written
+};
+
+/// The root object: creates the central objects at launch, holds them for the whole run, is the only receiver of the
+/// life-cycle events, and spreads a change of data or settings to the open screens. Main thread, unless said otherwise.
+class VidoraAppDelegate final : public UpdateObserver
+{
+public:
+    explicit VidoraAppDelegate(Environment environment);
+    ~VidoraAppDelegate();
+
+    /// Builds catalogue, selection and store, and shows the tab bar with what is on disk. Once, ahead of everything
+    /// else.
+    void applicationDidFinishLaunching();
+    /// Reads the settings, refreshes the screens and starts a pass.
+    void applicationDidBecomeActive();
+    void applicationSignificantTimeChange() { applicationDidBecomeActive(); }
+    /// Commits what is pending. The writing goes on in a background task.
+    void applicationDidEnterBackground();
+    void applicationDidReceiveMemoryWarning();
+    void applicationWillTerminate();
+
+    /// Brings the lists of all selected channels up to date. Returns at once.
+    void checkAndUpdateAllChannels();
+    /// How many alarms there are; set by those who know.
+    std::function<int()> eventCount;
+    /// Shows a number on the application's icon, 0 for none.
+    std::function<void(int)> applicationIconBadge;
+    /// Called on the main thread when the first request begins and when the last one has ended.
+    std::function<void(bool visible)> networkActivityIndicator;
+    /// Told of every pass from now on, beside the screens. Null ends that.
+    void setUpdateObserver(UpdateObserver* observer) { m_updateObserver = observer; }
+
+    /// Shows the count of alarms on the icon and on the tab of the schedule.
+    void updateBadge();
+    /// Selects the last tab and turns all others off: without channels there is nothing to show.
+    void disableTabs();
+    void enableTabs();
+    void reloadData() { m_screens.reloadData(); }
+    void favoritesUpdated() { m_screens.favoritesUpdated(); }
+    void recolor() { m_screens.recolor(); }
+    void notificationsSynched();
+
+    TVListings& listings() { return *m_listings; }
+    TVChannels& channels() { return *m_channels; }
+    TVStationIcons& icons() { return *m_icons; }
+    const ChannelData& channelData() const { return m_channelData; }
+    TabBarController& tabBarController() { return m_tabBarController; }
+    UserDefaults& defaults() { return m_defaults; }
+    KeyValueStore& keyValueStore() { return m_keyValueStore; }
+    Application& application() { return m_application; }
+    PageFetcher& fetcher() { return *m_fetcher; }
+    const Environment& environment() const { return m_environment; }
+    const QString& scheme() const { return m_environment.scheme; }
+    DispatchQueue& loadQueue() { return *m_loadQueue; }
+    DispatchQueue& loadSchedulesQueue() { return *m_loadSchedulesQueue; }
+
+    bool imagesEnabled() const { return m_imagesEnabled; }
+    bool showBgImages() const { return m_showBgImages; }
+    bool colorizedShows() const { return m_colorizedShows; }
+    /// How many current shows a row of the home screen holds. Any thread.
+    std::uint8_t showCount() const { return m_showCount; }
+    /// Seconds after which a list is stale: the setting "data_update", a day without it. Any thread.
+    double automaticUpdateInterval() const;
+
+private:
+    void loadCatalogue();
+    void makeStore();
+    void pruneSelection();
+    void setup();
+    void readSettings();
+
+    // UpdateObserver
+    void passStarted(std::size_t channels) override;
+    void fetching(const std::vector<ObjectId>& channels) override;
+    void delivered(const std::unordered_map<ObjectId, ShowList>& lists) override;
+    void passEnded(std::size_t shows, const std::vector<ObjectId>& failed) override;
+
+    const Environment m_environment;
+    Application m_application;
+    UserDefaults m_defaults;
+    KeyValueStore m_keyValueStore;
+    URLCache m_cache;
+    CachedURLSession m_session;
+    HTTPUserAgent m_userAgent;
+    NetworkAlerts m_networkAlerts;
+    NetworkActivity m_networkActivity;
+    TabBarController m_tabBarController;
+    ScreenWalk m_screens;
+
+    std::shared_ptr<DispatchQueue> m_checkAndUpdateAllChannelsQueue, m_loadQueue, m_loadSchedulesQueue;
+    std::unique_ptr<TVStationIcons> m_icons;
+    ChannelData m_channelData;
+    std::unique_ptr<TVChannels> m_channels;
+    std::unique_ptr<StoreServices> m_storeServices;
+    std::unique_ptr<TVListings> m_listings;
+    std::unique_ptr<PageFetcher> m_fetcher;
+    std::unique_ptr<ListingParser> m_parser;
+    std::unique_ptr<UpdateCycle> m_updateCycle;
+
+    std::atomic<std::uint8_t> m_showCount = 4;
+    bool m_imagesEnabled = true, m_showBgImages = true, m_colorizedShows = false;
+    bool m_firstTabSelected = false;
+    UpdateObserver* m_updateObserver = nullptr;
+    BlockOwner m_mainBlocks; ///< last, so that no block outlives what it refers to
+};
+
+} // namespace vidora

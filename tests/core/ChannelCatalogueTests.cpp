@@ -1,0 +1,171 @@
+#include "core/ChannelCatalogue.h"
+#include "core/PropertyList.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace vidora {
+namespace {
+
+const QString id1 = QStringLiteral("58f4ded60befe78cb336a801");
+
+ChannelDictionary channel(const QString& location, const QString& icon, const QString& language,
+                          const QString& title = QStringLiteral("Kanal"))
+{
+    return ChannelDictionary({{QStringLiteral("Location"), location},
+                              {QStringLiteral("Icon"), icon},
+                              {QStringLiteral("Language"), language},
+                              {QStringLiteral("Title"), title}});
+}
+
+QStringList keptIcons(const std::vector<ChannelDictionary>& channels)
+{
+    QStringList icons;
+    for (const auto& kept : filteredChannels(channels, [](const QString& name) { return name != u"missing.png"; }))
+        icons << *kept.icon();
+    return icons;
+}
+
+TEST(ChannelCatalogue, dropsRecordsItCannotServe)
+{
+    const QString sr = QStringLiteral("sr");
+    for (const char* icon : {"Serbian/", "/x.png", "x.png", "", "Serbian/missing.png", "serbian/x.png", "me/x.png"})
+        EXPECT_TRUE(keptIcons({channel(id1, QLatin1String(icon), sr)}).isEmpty()) << icon;
+    EXPECT_TRUE(keptIcons({channel(id1, QStringLiteral("Serbian/x.png"), sr, QString())}).isEmpty());
+    EXPECT_TRUE(keptIcons({channel(id1, QStringLiteral("Serbian/x.png"), QStringLiteral("en"))}).isEmpty());
+    EXPECT_TRUE(keptIcons({channel(id1, QStringLiteral("Serbian/x.png"), QString())}).isEmpty());
+    EXPECT_EQ(keptIcons({channel(id1, QStringLiteral("Other/x.png"), QString())}).size(), 1);
+
+    QVariantMap withoutLanguage = channel(id1, QStringLiteral("Other/x.png"), QString()).keys();
+    withoutLanguage.remove(QStringLiteral("Language"));
+    EXPECT_TRUE(keptIcons({ChannelDictionary(withoutLanguage)}).isEmpty()) << "an absent language is not an empty one";
+    QVariantMap withoutLocation = channel(id1, QStringLiteral("Serbian/x.png"), sr).keys();
+    withoutLocation.remove(QStringLiteral("Location"));
+    EXPECT_TRUE(keptIcons({ChannelDictionary(withoutLocation)}).isEmpty());
+}
+
+TEST(ChannelCatalogue, keepsOfOneIdTheRecordNearestToHome)
+{
+    const auto sr = QStringLiteral("sr");
+    const auto home = channel(id1, QStringLiteral("Serbian/a.png"), sr);
+    const auto other = channel(id1, QStringLiteral("Other/b.png"), sr);
+    const auto english = channel(id1, QStringLiteral("Other/c.png"), QStringLiteral("en"));
+    const auto turkish = channel(id1, QStringLiteral("Other/d.png"), QStringLiteral("tr"));
+    const auto second = channel(QStringLiteral("58f4ded60befe78cb336a802"), QStringLiteral("Serbian/e.png"), sr);
+
+    EXPECT_EQ(keptIcons({other, home}), QStringList{QStringLiteral("Serbian/a.png")});
+    EXPECT_EQ(keptIcons({home, other}), QStringList{QStringLiteral("Serbian/a.png")});
+    EXPECT_EQ(keptIcons({english, turkish}), QStringList{QStringLiteral("Other/c.png")});
+    const QStringList moved{QStringLiteral("Serbian/e.png"), QStringLiteral("Serbian/a.png")};
+    EXPECT_EQ(keptIcons({english, second, home}), moved) << "what replaces another stands at the end";
+}
+
+TEST(ChannelCatalogue, readsSourcesUpToTheFirstGap)
+{
+    const ChannelDictionary gap({{QStringLiteral("Location1"), QStringLiteral("a")},
+                                 {QStringLiteral("Location2"), 5},
+                                 {QStringLiteral("Location3"), QStringLiteral("c")}});
+    EXPECT_EQ(gap.sources(), std::vector<QString>{QStringLiteral("a")});
+}
+
+class CatalogueFilesTest : public ::testing::Test
+{
+protected:
+    void writeCatalogue(const QStringList& titles)
+    {
+        QVariantList channels;
+        for (const QString& title : titles)
+            channels.append(channel(id1, QStringLiteral("Serbian/a.png"), QStringLiteral("sr"), title).keys());
+        write(files.catalogue, writePropertyList(QVariantMap{{QStringLiteral("Channels"), channels}}));
+    }
+    static void write(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    static void stamp(const QString& path, int seconds)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000 + seconds, Qt::UTC), QFile::FileModificationTime);
+    }
+    QString loadedTitle() const
+    {
+        const ChannelData data = loadChannelData(files, [](const QString&) { return true; });
+        return data.size() == 1 ? *data.begin()->second.title() : QString();
+    }
+
+    QTemporaryDir folder;
+    CatalogueFiles files{folder.filePath(QStringLiteral("Data.plist")), folder.filePath(QStringLiteral("icons")),
+                         folder.filePath(QStringLiteral("5b65e9d23afbe36684bdfe2c.plist"))};
+};
+
+TEST_F(CatalogueFilesTest, trustsTheCacheOnlyWhileItIsYoungerThanTheCatalogue)
+{
+    writeCatalogue({QStringLiteral("old")});
+    EXPECT_EQ(loadedTitle(), u"old");
+    writeCatalogue({QStringLiteral("new")});
+    stamp(files.catalogue, 0);
+    stamp(files.filteredCache, 1);
+    EXPECT_EQ(loadedTitle(), u"old");
+    stamp(files.filteredCache, 0);
+    EXPECT_EQ(loadedTitle(), u"new") << "an equal date is no later date";
+}
+
+TEST_F(CatalogueFilesTest, rebuildsABrokenCache)
+{
+    writeCatalogue({QStringLiteral("whole")});
+    for (const QByteArray& broken :
+         {QByteArray(), QByteArray("\xa1\x68"), QByteArray("\x9f\x9f\x9f\x9f"), QByteArray(64, '\xff')}) {
+        write(files.filteredCache, broken);
+        stamp(files.catalogue, 0);
+        stamp(files.filteredCache, 1);
+        EXPECT_EQ(loadedTitle(), u"whole");
+    }
+}
+
+TEST_F(CatalogueFilesTest, readsNothingFromAMissingOrForeignCatalogue)
+{
+    EXPECT_TRUE(loadChannelData(files, [](const QString&) { return true; }).empty());
+    write(files.catalogue, "<html>not a property list</html>");
+    QFile::remove(files.filteredCache);
+    EXPECT_TRUE(loadChannelData(files, [](const QString&) { return true; }).empty());
+}
+
+TEST(PropertyList, refusesWhatNestsOrGrowsWithoutEnd)
+{
+    const QByteArray deep = "<plist>" + QByteArray("<array>").repeated(100'000);
+    EXPECT_FALSE(readPropertyList(deep));
+
+    // Forty lists, each holding the next one twice, stand for 2^40 values.
+    QByteArray bomb = "bplist00";
+    QByteArray offsets;
+    for (int i = 0; i < 40; ++i) {
+        offsets.append(static_cast<char>(bomb.size()));
+        bomb.append('\xa2').append(static_cast<char>(i + 1)).append(static_cast<char>(i + 1));
+    }
+    offsets.append(static_cast<char>(bomb.size()));
+    bomb.append('\x09'); // true
+    const auto table = static_cast<char>(bomb.size());
+    bomb += offsets + QByteArray(6, '\0') + "\x01\x01" + QByteArray(7, '\0') + '\x29' + QByteArray(8, '\0') +
+            QByteArray(7, '\0') + table;
+    EXPECT_FALSE(readPropertyList(bomb));
+    EXPECT_FALSE(readPropertyList("bplist00"));
+    EXPECT_FALSE(readPropertyList(QByteArray()));
+}
+
+TEST(PropertyList, readsBackWhatItWrites)
+{
+    const QVariantMap map{{QStringLiteral("Title"), QStringLiteral("Čačak <&> \"1\"")},
+                          {QStringLiteral("Number"), qint64{7}},
+                          {QStringLiteral("Flag"), true},
+                          {QStringLiteral("List"), QVariantList{QStringLiteral("a"), 1.5}}};
+    EXPECT_EQ(readPropertyList(writePropertyList(map)), QVariant(map));
+}
+
+} // namespace
+} // namespace vidora

@@ -1,0 +1,175 @@
+#include "support/TestDevice.h"
+
+#include <gtest/gtest.h>
+
+namespace vidora {
+namespace {
+
+using test::TestChannel;
+using test::TestDevice;
+
+const TestChannel one{QStringLiteral("58f4ded60befe78cb3360001"), QStringLiteral("One"), {}};
+const TestChannel two{QStringLiteral("58f4ded60befe78cb3360002"), QStringLiteral("Two"), {}};
+
+TestChannel with(TestChannel channel, const QStringList& sources)
+{
+    channel.sources = sources;
+    return channel;
+}
+
+const QString feedN = QStringLiteral("http://n.example/epg.xml");
+const QString feedTvpc = QStringLiteral("http://tvpc.example/guide.xml");
+
+// Five shows of an hour each for every channel, the first of them on air at noon.
+QByteArray guide(const QStringList& channels, const QString& title, const QString& date = QStringLiteral("20261122"))
+{
+    const auto time = [&](int hour) { return QString(date + QString::number(hour) + QStringLiteral("0000 +0000")); };
+    QString xml = QStringLiteral("<tv>");
+    for (const QString& channel : channels) {
+        for (int i = 0; i < 5; ++i)
+            xml += QStringLiteral("<programme channel=\"%1\" start=\"%2\" stop=\"%3\"><title>%4 %5</title></programme>")
+                       .arg(channel, time(12 + i), time(13 + i), title)
+                       .arg(i);
+    }
+    return xml.toUtf8() + "</tv>";
+}
+
+test::ScriptedSession::Answer xml(const QByteArray& body)
+{
+    return {200, body, "text/xml; charset=utf-8", {}};
+}
+
+class UpdateCycleTest : public ::testing::Test
+{
+protected:
+    void start(const std::vector<TestChannel>& channels)
+    {
+        device.setCatalogue(channels);
+        device.launch();
+        device.select(channels);
+    }
+    TestDevice device;
+};
+
+TEST_F(UpdateCycleTest, fetchesAFeedOnceForAllItsChannels)
+{
+    const auto first = with(one, {QStringLiteral("n.a")});
+    const auto second = with(two, {QStringLiteral("n.b")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a"), QStringLiteral("b")}, QStringLiteral("N"))));
+    start({first, second});
+    device.update();
+    EXPECT_EQ(device.session.takeRequests(), QStringList{feedN});
+    EXPECT_EQ(device.titles(first).value(0), u"N 0");
+    EXPECT_EQ(device.titles(second).size(), 5);
+
+    device.update();
+    EXPECT_TRUE(device.session.takeRequests().isEmpty()) << "fresh lists are not fetched again";
+}
+
+TEST_F(UpdateCycleTest, passesOverTheSecondSourceOfAChannelThatWasDelivered)
+{
+    const auto served = with(one, {QStringLiteral("n.a"), QStringLiteral("tvpc.a")});
+    const auto fallback = with(two, {QStringLiteral("n.missing"), QStringLiteral("tvpc.b")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
+    device.session.answer(feedTvpc, xml(guide({QStringLiteral("a"), QStringLiteral("b")}, QStringLiteral("T"))));
+    start({served, fallback});
+    device.update();
+    const QStringList both{feedN, feedTvpc};
+    EXPECT_EQ(device.session.takeRequests(), both);
+    EXPECT_EQ(device.titles(served).value(0), u"N 0");
+    EXPECT_EQ(device.titles(fallback).value(0), u"T 0");
+    EXPECT_TRUE(device.failed.empty());
+}
+
+TEST_F(UpdateCycleTest, keepsWhatItHasWhenEverySourceFails)
+{
+    const auto channel = with(one, {QStringLiteral("n.a"), QStringLiteral("tvpc.a")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("old"))));
+    start({channel});
+    device.update();
+    device.session.takeRequests();
+    device.quit();
+
+    device.clock.advance(std::chrono::hours(2) + Seconds(1)); // three shows are left: too few, however young the list
+    device.session.answer(feedN, {500, "an error page", "text/html", {}});
+    device.launch();
+    device.update();
+    EXPECT_EQ(device.titles(channel).size(), 3);
+    EXPECT_EQ(device.failed, std::vector<ObjectId>{ObjectId::initWithHex(channel.id)});
+    const QStringList attempts{feedN, feedN, feedTvpc, feedTvpc};
+    EXPECT_EQ(device.session.takeRequests(), attempts) << "two attempts at each source";
+}
+
+TEST_F(UpdateCycleTest, followsTheOneRedirectInTheSecondAttempt)
+{
+    const auto channel = with(one, {QStringLiteral("n.a")});
+    const QString moved = QStringLiteral("http://elsewhere.example/epg");
+    device.session.answer(feedN, {302, {}, "text/html", moved.toLatin1()});
+    device.session.answer(moved, xml(guide({QStringLiteral("a")}, QStringLiteral("moved"))));
+    start({channel});
+    device.update();
+    const QStringList both{feedN, moved};
+    EXPECT_EQ(device.session.takeRequests(), both);
+    EXPECT_EQ(device.titles(channel).value(0), u"moved 0");
+}
+
+TEST_F(UpdateCycleTest, readsAnOldListAgainAndLeavesAYoungOne)
+{
+    const auto channel = with(one, {QStringLiteral("n.a")});
+    QByteArray week = guide({QStringLiteral("a")}, QStringLiteral("Sunday"));
+    week.replace("</tv>", "") +=
+        guide({QStringLiteral("a")}, QStringLiteral("Tuesday"), QStringLiteral("20261124")).mid(4);
+    device.session.answer(feedN, xml(week));
+    start({channel});
+    device.update();
+    device.session.takeRequests();
+
+    device.clock.advance(std::chrono::hours(24));
+    device.update();
+    EXPECT_TRUE(device.session.takeRequests().isEmpty()) << "exactly as old as the interval is not older";
+    device.clock.advance(Seconds(1));
+    device.update();
+    EXPECT_EQ(device.session.takeRequests(), QStringList{feedN});
+}
+
+TEST_F(UpdateCycleTest, aDocumentThatMakesAScannerThrowLeavesTheListAndTheOtherGroups)
+{
+    const auto broken = with(one, {QStringLiteral("dolce-sport.x")}); // an empty page list would be out of range
+    const auto whole = with(two, {QStringLiteral("n.b")});
+    device.session.answer(QStringLiteral("https://dolce.example/program/x"),
+                          {200, "<html>no tabs</html>", "text/html", {}});
+    device.session.answer(feedN, xml(guide({QStringLiteral("b")}, QStringLiteral("N"))));
+    start({broken, whole});
+    device.update();
+    EXPECT_EQ(device.titles(whole).size(), 5);
+    EXPECT_TRUE(device.titles(broken).isEmpty());
+}
+
+TEST_F(UpdateCycleTest, listsAndAgesSurviveARestart)
+{
+    const auto channel = with(one, {QStringLiteral("n.a")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
+    start({channel});
+    device.update();
+    device.quit();
+
+    device.clock.set(device.clock.now());
+    device.launch();
+    EXPECT_EQ(device.titles(channel).size(), 5);
+    EXPECT_EQ(device.delegate->channels().selected().size(), 1U);
+    EXPECT_TRUE(device.delegate->channels().channelWithChannelId(ObjectId::initWithHex(channel.id))->timeLoaded());
+}
+
+TEST_F(UpdateCycleTest, aChannelThatLeftTheCatalogueLeavesTheSelection)
+{
+    const auto kept = with(one, {QStringLiteral("n.a")});
+    const auto gone = with(two, {QStringLiteral("n.b")});
+    start({kept, gone});
+    device.quit();
+    device.setCatalogue({kept});
+    device.launch();
+    EXPECT_EQ(device.delegate->channels().selected(), std::vector<ObjectId>{ObjectId::initWithHex(kept.id)});
+}
+
+} // namespace
+} // namespace vidora
