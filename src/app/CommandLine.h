@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Instant.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace vidora {
+
+/// What was asked for on the command line.
+struct CommandLine
+{
+    QString command; ///< empty: no command was named
+    QStringList arguments;
+    bool json = false;
+    bool log = false;
+    bool help = false;
+    std::optional<QString> home;
+    std::optional<Instant> clock;
+};
+
+/// The command line, or a message that says what is wrong with it.
+struct CommandLineResult
+{
+    CommandLine line;
+    std::optional<QString> error;
+};
+
+/// Reads arguments without the program's name. Options may stand anywhere; "--" ends them.
+CommandLineResult readCommandLine(const QStringList& arguments);
+
+/// What `--help` prints.
+QString commandLineHelp();
+
+} // namespace vidora

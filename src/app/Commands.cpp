@@ -1,0 +1,363 @@
+#include "app/Commands.h"
+
+#include "app/ChannelNames.h"
+#include "app/Device.h"
+#include "app/GuideImportCommand.h"
+#include "app/Progress.h"
+#include "app/ShowPrinter.h"
+#include "content/TVListingsCategory.h"
+#include "platform/Log.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cstdio>
+#include <unordered_set>
+
+namespace vidora {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("vidora", text);
+}
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+void printJson(const QJsonObject& object)
+{
+    printText(QString::fromUtf8(QJsonDocument(object).toJson()));
+}
+
+/// Runs a query of the store to its answer, which comes on the main queue.
+template<typename Answer>
+Answer waitFor(const std::function<void(std::function<void(Answer)>)>& query)
+{
+    std::optional<Answer> answer;
+    query([&](Answer found) { answer = std::move(found); });
+    DispatchQueue::runMain([&] { return answer.has_value(); });
+    return std::move(*answer);
+}
+
+class CommandRun
+{
+public:
+    CommandRun(const CommandLine& line, Device& device)
+        : m_line(line)
+        , m_device(device)
+    {
+    }
+
+    int run()
+    {
+        using Handler = int (CommandRun::*)();
+        static const QHash<QString, Handler> handlers{
+            {QString(), &CommandRun::tonight},
+            {QStringLiteral("update"), &CommandRun::update},
+            {QStringLiteral("now"), &CommandRun::now},
+            {QStringLiteral("channel"), &CommandRun::channel},
+            {QStringLiteral("category"), &CommandRun::category},
+            {QStringLiteral("search"), &CommandRun::search},
+            {QStringLiteral("channels"), &CommandRun::channels},
+            {QStringLiteral("select"), &CommandRun::select},
+            {QStringLiteral("unselect"), &CommandRun::unselect},
+        };
+        return (this->*handlers.value(m_line.command))();
+    }
+
+private:
+    VidoraAppDelegate& delegate() { return m_device.delegate(); }
+    const ChannelData& catalogue() { return delegate().channelData(); }
+    QString argument() const { return m_line.arguments.join(QLatin1Char(' ')); }
+
+    int tonight();
+    int update();
+    int now();
+    int channel();
+    int category();
+    int search();
+    int channels();
+    int select();
+    int unselect();
+
+    bool hasSelection();
+    std::optional<std::vector<ObjectId>> namedChannels();
+    int printShows(const ShowList& shows, bool withChannels);
+    ShowList showsOfCategory(TVListingsCategory category);
+    void chooseFirstChannels();
+
+    const CommandLine& m_line;
+    Device& m_device;
+};
+
+bool CommandRun::hasSelection()
+{
+    if (!delegate().channels().selected().empty())
+        return true;
+    say(translated("No channels are chosen yet. \"vidora channels\" lists them, \"vidora select X...\" chooses."));
+    return false;
+}
+
+void CommandRun::chooseFirstChannels()
+{
+    constexpr std::size_t dozen = 12;
+    std::vector<ObjectId> ids = channelsByTitle(catalogue());
+    ids.resize(std::min(ids.size(), dozen));
+    if (ids.empty() || m_device.hasOwnGuide())
+        return;
+    delegate().channels().setSelected(ids);
+    say(translated(
+            "This is a first look at a made-up region, with the first %1 of its %2 channels. \"vidora import\" reads a "
+            "guide of your own.")
+            .arg(ids.size())
+            .arg(catalogue().size()));
+}
+
+int CommandRun::tonight()
+{
+    if (delegate().channels().selected().empty())
+        chooseFirstChannels();
+    if (!hasSelection())
+        return 0;
+    const int updated = update();
+    return updated == 0 ? now() : updated;
+}
+
+int CommandRun::update()
+{
+    if (!hasSelection())
+        return 0;
+    Progress progress(catalogue());
+    delegate().setUpdateObserver(&progress);
+    delegate().applicationDidBecomeActive();
+    DispatchQueue::runMain([&] { return progress.ended(); });
+    delegate().setUpdateObserver(nullptr);
+
+    QStringList failed;
+    for (const ObjectId& id : progress.failed())
+        failed << titleOf(id, catalogue());
+    failed.sort();
+    if (m_line.json && m_line.command == QLatin1String("update")) {
+        printJson({{QStringLiteral("channels"), static_cast<qint64>(progress.wanted())},
+                   {QStringLiteral("shows"), static_cast<qint64>(progress.shows())},
+                   {QStringLiteral("failed"), QJsonArray::fromStringList(failed)}});
+    } else {
+        say(progress.wanted() == 0 ? translated("Everything is up to date.")
+                                   : translated("%1 of %2 channels updated, %3 shows.")
+                                         .arg(progress.wanted() - progress.failed().size())
+                                         .arg(progress.wanted())
+                                         .arg(progress.shows()));
+        if (!failed.isEmpty())
+            say(translated("Nothing came for: %1").arg(failed.join(QLatin1String(", "))));
+    }
+    return progress.wanted() > 0 && progress.failed().size() == progress.wanted() ? 1 : 0;
+}
+
+int CommandRun::now()
+{
+    if (!hasSelection() && !m_line.json)
+        return 0;
+    const auto selection = delegate().channels().selected();
+    const auto rows = waitFor<std::vector<ShowList>>([this](std::function<void(std::vector<ShowList>)> answer) {
+        delegate().listings().onAirShowsWithQueue(DispatchQueue::main(), std::move(answer));
+    });
+    const ShowPrinter printer(catalogue());
+    QJsonArray array;
+    QString text;
+    for (std::size_t i = 0; i < rows.size() && i < selection.size(); ++i) {
+        const QString title = titleOf(selection[i], catalogue());
+        array.append(QJsonObject{{QStringLiteral("channel"), selection[i].hex()},
+                                 {QStringLiteral("channelTitle"), title},
+                                 {QStringLiteral("shows"), printer.json(rows[i])}});
+        text += title + QLatin1Char('\n');
+        for (const Show& show : rows[i])
+            text += QLatin1String("  ") + printer.line(show) + QLatin1Char('\n');
+        if (rows[i].empty())
+            text += QLatin1String("  ") + translated("No listings.") + QLatin1Char('\n');
+    }
+    if (m_line.json)
+        printJson({{QStringLiteral("channels"), array}});
+    else
+        printText(text);
+    return 0;
+}
+
+int CommandRun::printShows(const ShowList& shows, bool withChannels)
+{
+    const ShowPrinter printer(catalogue());
+    if (m_line.json)
+        printJson({{QStringLiteral("shows"), printer.json(shows)}});
+    else if (shows.empty())
+        say(translated("No shows."));
+    else
+        printText(printer.byDays(shows, withChannels));
+    return 0;
+}
+
+int CommandRun::channel()
+{
+    const NamedChannel named = channelNamed(argument(), catalogue());
+    if (const auto* message = std::get_if<QString>(&named)) {
+        say(*message);
+        return 1;
+    }
+    const auto list = waitFor<SharedShowList>([&](std::function<void(SharedShowList)> answer) {
+        delegate().listings().cachedListForChannel(std::get<ObjectId>(named), QualityOfService::UserInitiated,
+                                                   std::move(answer));
+    });
+    return printShows(*list, false);
+}
+
+ShowList CommandRun::showsOfCategory(TVListingsCategory category)
+{
+    const auto listing = waitFor<CompoundListing>([&](std::function<void(CompoundListing)> answer) {
+        TVListings& listings = delegate().listings();
+        const bool isList = category == category::all || category == category::evening || category == category::popular;
+        if (isList)
+            listings.allShowsWithCategory(category, QualityOfService::UserInitiated, std::move(answer));
+        else
+            listings.showsWithCategory(category, QualityOfService::UserInitiated, std::move(answer));
+    });
+    ShowList shows;
+    for (const QString& date : listing.dates) {
+        const ShowList& section = listing.sections.at(date);
+        shows.insert(shows.end(), section.begin(), section.end());
+    }
+    return shows;
+}
+
+int CommandRun::category()
+{
+    std::vector<TVListingsCategory> values{category::all, category::film, category::evening, category::popular};
+    for (TVListingsCategory bit = category::movies; bit <= category::horrors; bit <<= 1)
+        values.push_back(bit);
+    QStringList labels, keys;
+    for (const TVListingsCategory value : values) {
+        keys << textForCategory(static_cast<std::int32_t>(value));
+        labels << translated(keys.back().toUtf8().constData());
+    }
+    QStringList candidates = candidatesFor(argument(), labels);
+    if (candidates.isEmpty())
+        candidates = candidatesFor(argument(), keys);
+    candidates.removeDuplicates();
+    if (candidates.size() != 1) {
+        say(ambiguousName(argument(), candidates, labels));
+        return 1;
+    }
+    const qsizetype index = std::max(labels.indexOf(candidates.front()), keys.indexOf(candidates.front()));
+    return printShows(showsOfCategory(values[static_cast<std::size_t>(index)]), true);
+}
+
+int CommandRun::search()
+{
+    const auto shows = waitFor<SharedShowList>([this](std::function<void(SharedShowList)> answer) {
+        delegate().listings().showsContainingPattern(argument(), [answer](SharedShowList found) {
+            DispatchQueue::main().async([answer, found] { answer(found); });
+        });
+    });
+    return printShows(*shows, true);
+}
+
+int CommandRun::channels()
+{
+    const auto selection = delegate().channels().selected();
+    const std::unordered_set<ObjectId> chosen(selection.begin(), selection.end());
+    QJsonArray array;
+    QString text;
+    for (const ObjectId& id : channelsByTitle(catalogue())) {
+        const ChannelDictionary& channel = catalogue().at(id);
+        const QString title = titleOf(id, catalogue());
+        array.append(QJsonObject{{QStringLiteral("channel"), id.hex()},
+                                 {QStringLiteral("channelTitle"), title},
+                                 {QStringLiteral("language"), channel.language().value_or(QString())},
+                                 {QStringLiteral("hasStream"), channel.stream().has_value()},
+                                 {QStringLiteral("selected"), chosen.contains(id)}});
+        text += (chosen.contains(id) ? QLatin1String("* ") : QLatin1String("  ")) + title + QLatin1Char('\n');
+    }
+    if (m_line.json)
+        printJson({{QStringLiteral("channels"), array}});
+    else
+        printText(text);
+    return 0;
+}
+
+std::optional<std::vector<ObjectId>> CommandRun::namedChannels()
+{
+    std::vector<ObjectId> ids;
+    for (const QString& name : m_line.arguments) {
+        const NamedChannel named = channelNamed(name, catalogue());
+        if (const auto* message = std::get_if<QString>(&named)) {
+            say(*message);
+            return std::nullopt;
+        }
+        ids.push_back(std::get<ObjectId>(named));
+    }
+    return ids;
+}
+
+int CommandRun::select()
+{
+    const auto named = namedChannels();
+    if (!named)
+        return 1;
+    ChannelIds selection = delegate().channels().selected();
+    for (const ObjectId& id : *named) {
+        if (std::find(selection.begin(), selection.end(), id) == selection.end())
+            selection.push_back(id);
+    }
+    delegate().channels().setSelected(selection);
+    say(translated("%1 channels are chosen.").arg(selection.size()));
+    return 0;
+}
+
+int CommandRun::unselect()
+{
+    const auto named = namedChannels();
+    if (!named)
+        return 1;
+    ChannelIds selection = delegate().channels().selected();
+    for (const ObjectId& id : *named)
+        std::erase(selection, id);
+    delegate().channels().setSelected(selection);
+    for (const ObjectId& id : *named)
+        delegate().listings().removeListingsForChannel(id);
+    say(translated("%1 channels are chosen.").arg(selection.size()));
+    return 0;
+}
+
+bool fetches(const QString& command)
+{
+    return command.isEmpty() || command == QLatin1String("update");
+}
+
+bool changes(const QString& command)
+{
+    return fetches(command) || command == QLatin1String("select") || command == QLatin1String("unselect") ||
+           command == QLatin1String("import");
+}
+
+} // namespace
+
+int runCommand(const CommandLine& line)
+{
+    if (line.log)
+        Log::setSink(say);
+    Device device(line, changes(line.command) ? Device::Access::Write : Device::Access::Read, fetches(line.command));
+    // The blocks queued at launch (pruning, the channel objects) come ahead of every command.
+    bool launched = false;
+    DispatchQueue::main().async([&] { launched = true; });
+    DispatchQueue::runMain([&] { return launched; });
+
+    const int status =
+        line.command == QLatin1String("import") ? importGuide(line, device) : CommandRun(line, device).run();
+    device.quit();
+    return status;
+}
+
+} // namespace vidora

@@ -1,0 +1,129 @@
+#include "app/Device.h"
+
+#include "core/GuideImport.h"
+#include "platform/AtomicFile.h"
+#include "platform/Log.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace vidora {
+
+namespace {
+
+constexpr qint64 maximumEndpoints = 1024 * 1024;
+
+QByteArray contents(const QString& path)
+{
+    return AtomicFile::read(path, maximumEndpoints).value_or(QByteArray());
+}
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+StandardFolders foldersOf(const CommandLine& line)
+{
+    return line.home ? StandardFolders::under(QFileInfo(*line.home).absoluteFilePath()) : StandardFolders::ofUser();
+}
+
+std::unique_ptr<Clock> clockOf(const CommandLine& line)
+{
+    if (line.clock)
+        return std::make_unique<FixedClock>(*line.clock);
+    return std::make_unique<SystemClock>();
+}
+
+} // namespace
+
+QString Device::resources()
+{
+    const QString installed = QCoreApplication::applicationDirPath() + QLatin1String("/../share/vidora");
+    return QFileInfo::exists(installed) ? installed : QStringLiteral(VIDORA_RESOURCES);
+}
+
+QString Device::ownCatalogue(const StandardFolders& folders)
+{
+    return folders.documents + QLatin1String("/Data.plist");
+}
+QString Device::ownIcons(const StandardFolders& folders)
+{
+    return folders.documents + QLatin1String("/icons");
+}
+QString Device::ownEndpoints(const StandardFolders& folders)
+{
+    return folders.settings + QLatin1String("/endpoints.json");
+}
+
+bool Device::hasOwnGuide() const
+{
+    return QFile::exists(ownCatalogue(m_folders));
+}
+
+Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
+    : m_folders(foldersOf(line))
+    , m_clock(clockOf(line))
+
+{
+    m_folders.make();
+    lockHome(access);
+    const bool own = hasOwnGuide();
+    const auto guide = own ? GuideImport::addressOfCatalogue(ownCatalogue(m_folders)) : std::nullopt;
+    m_guideSession = std::make_unique<OwnGuideSession>(m_network, guide);
+    m_delegate = std::make_unique<VidoraAppDelegate>(
+        Environment{m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
+                    own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
+                    readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper,
+                    *m_guideSession, false, m_lock->outcome() == HomeLock::Outcome::Second});
+    m_delegate->applicationDidFinishLaunching();
+}
+
+Device::~Device() = default;
+
+void Device::lockHome(Access access)
+{
+    m_lock = std::make_unique<HomeLock>(m_folders.documents);
+    if (m_lock->outcome() != HomeLock::Outcome::Second)
+        return;
+    const QString holder = m_lock->holder() ? QString::number(*m_lock->holder()) : QStringLiteral("?");
+    if (access == Access::Read) {
+        say(QCoreApplication::translate("vidora",
+                                        "Another vidora (process %1) is using this home; showing what it has.")
+                .arg(holder));
+        return;
+    }
+    say(QCoreApplication::translate("vidora", "Another vidora (process %1) is using this home; waiting for it.")
+            .arg(holder));
+    bool taken = false;
+    DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
+        m_lock->waitForTurn();
+        DispatchQueue::main().async([&] { taken = true; });
+    });
+    DispatchQueue::runMain([&] { return taken; });
+}
+
+Endpoints Device::readEndpoints(bool wantsNetwork, std::optional<Instant> clock, const std::optional<URL>& guide)
+{
+    Endpoints endpoints = Endpoints::fromJson(contents(resources() + QLatin1String("/endpoints.json")), {});
+    if (wantsNetwork && !hasOwnGuide()) {
+        if (const auto region = m_region.start(clock))
+            endpoints = Endpoints::fromJson(*region, endpoints);
+        else
+            say(QCoreApplication::translate("vidora", "The sample region could not be started; --log says why."));
+    }
+    if (guide)
+        endpoints.tvpcAddress = guide->text();
+    return Endpoints::fromJson(contents(ownEndpoints(m_folders)), endpoints);
+}
+
+void Device::quit()
+{
+    m_delegate->applicationDidEnterBackground();
+    m_delegate->applicationWillTerminate();
+}
+
+} // namespace vidora

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/CommandLine.h"
+#include "app/SampleRegionProcess.h"
+#include "core/OwnGuideSession.h"
+#include "core/VidoraAppDelegate.h"
+#include "platform/Clock.h"
+#include "platform/HomeLock.h"
+#include "platform/NetworkURLSession.h"
+#include "platform/StandardFolders.h"
+
+#include <memory>
+#include <optional>
+
+namespace vidora {
+
+/// The machine that a command runs on: its folders, its clock, its network, and the delegate over them. Main thread.
+class Device
+{
+public:
+    enum class Access
+    {
+        Read, ///< the command changes nothing: beside another process on this home it works with what is there
+        Write ///< it waits until it is the only one
+    };
+
+    /// `wantsNetwork`: the command may fetch. Starts the sample region when there is no guide of the user's own.
+    Device(const CommandLine& line, Access access, bool wantsNetwork);
+    ~Device();
+
+    VidoraAppDelegate& delegate() { return *m_delegate; }
+    const Clock& clock() const { return *m_clock; }
+    const StandardFolders& folders() const { return m_folders; }
+    /// The network as it is; the delegate's own treats the imported guide apart.
+    URLSession& network() { return m_network; }
+    bool hasOwnGuide() const;
+    /// Commits what is pending and ends everything that runs.
+    void quit();
+
+    /// Where the application's own files lie: beside the program where it is installed, else in the source tree.
+    static QString resources();
+    static QString ownCatalogue(const StandardFolders& folders);
+    static QString ownIcons(const StandardFolders& folders);
+    /// Addresses of providers that the user sets by hand.
+    static QString ownEndpoints(const StandardFolders& folders);
+    static constexpr QLatin1String scheme{"vidora"};
+
+private:
+    void lockHome(Access access);
+    Endpoints readEndpoints(bool wantsNetwork, std::optional<Instant> clock, const std::optional<URL>& guide);
+
+    StandardFolders m_folders;
+    std::unique_ptr<Clock> m_clock;
+    SystemRandom m_random;
+    SystemSleeper m_sleeper;
+    NetworkURLSession m_network;
+    std::unique_ptr<OwnGuideSession> m_guideSession;
+    std::unique_ptr<HomeLock> m_lock;
+    SampleRegionProcess m_region;
+    std::unique_ptr<VidoraAppDelegate> m_delegate;
+};
+
+} // namespace vidora

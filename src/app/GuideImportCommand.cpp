@@ -1,0 +1,100 @@
+#include "app/GuideImportCommand.h"
+
+#include "app/ShowPrinter.h"
+#include "core/GuideImport.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cstdio>
+#include <unistd.h>
+
+namespace vidora {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("vidora", text);
+}
+
+void showIconProgress(std::size_t done, std::size_t of)
+{
+    if (isatty(STDERR_FILENO) == 1)
+        std::fprintf(stderr, done == of ? "\r\x1b[K" : "\r\x1b[Kicons: %zu of %zu", done, of);
+}
+
+QString skippedText(const GuideSummary& guide)
+{
+    QString text;
+    const auto add = [&](std::size_t count, const char* what) {
+        if (count > 0)
+            text += translated(what).arg(count) + QLatin1Char('\n');
+    };
+    add(guide.channelsWithoutId, "Skipped: %1 channels without an id.");
+    add(guide.channelsTwice, "Skipped: %1 channels whose id was there already.");
+    add(guide.programmesWithoutTimes, "Skipped: %1 programmes without a start and an end with an offset.");
+    add(guide.programmesOfUnknownChannels, "Skipped: %1 programmes of channels that the guide does not list.");
+    return text;
+}
+
+QJsonObject reportJson(const ImportReport& report, std::size_t stillSelected)
+{
+    const auto number = [](std::size_t value) { return static_cast<qint64>(value); };
+    return {{QStringLiteral("address"), report.address.text()},
+            {QStringLiteral("channels"), number(report.channels.size())},
+            {QStringLiteral("programmes"), number(report.guide.programmes)},
+            {QStringLiteral("days"), number(report.guide.days)},
+            {QStringLiteral("iconsFetched"), number(report.iconsFetched)},
+            {QStringLiteral("stillSelected"), number(stillSelected)},
+            {QStringLiteral("channelsWithoutId"), number(report.guide.channelsWithoutId)},
+            {QStringLiteral("channelsTwice"), number(report.guide.channelsTwice)},
+            {QStringLiteral("programmesWithoutTimes"), number(report.guide.programmesWithoutTimes)},
+            {QStringLiteral("programmesOfUnknownChannels"), number(report.guide.programmesOfUnknownChannels)}};
+}
+
+QString reportText(const ImportReport& report, std::size_t stillSelected)
+{
+    QString text = translated("%1 channels, %2 programmes on %3 days.")
+                       .arg(report.channels.size())
+                       .arg(report.guide.programmes)
+                       .arg(report.guide.days) +
+                   QLatin1Char('\n') + skippedText(report.guide);
+    text += stillSelected > 0 ? translated("%1 of the channels chosen before are in it.").arg(stillSelected)
+                              : translated("Choose channels with \"vidora select X...\", then \"vidora update\".");
+    return text + QLatin1Char('\n');
+}
+
+} // namespace
+
+int importGuide(const CommandLine& line, Device& device)
+{
+    const GuideImport guideImport(device.network(), Device::ownCatalogue(device.folders()),
+                                  Device::ownIcons(device.folders()));
+    std::optional<std::variant<ImportReport, QString>> outcome;
+    DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
+        auto made = guideImport.import(line.arguments.front(), showIconProgress);
+        DispatchQueue::main().async([&, made = std::move(made)]() mutable { outcome = std::move(made); });
+    });
+    DispatchQueue::runMain([&] { return outcome.has_value(); });
+
+    if (const auto* message = std::get_if<QString>(&*outcome)) {
+        std::fprintf(stderr, "%s\n", message->toUtf8().constData());
+        return 1;
+    }
+    const auto& report = std::get<ImportReport>(*outcome);
+    const ChannelIds selection = device.delegate().channels().selected();
+    const auto stillSelected =
+        static_cast<std::size_t>(std::count_if(selection.begin(), selection.end(), [&](const ObjectId& id) {
+            return std::find(report.channels.begin(), report.channels.end(), id) != report.channels.end();
+        }));
+    if (line.json)
+        printText(QString::fromUtf8(QJsonDocument(reportJson(report, stillSelected)).toJson()));
+    else
+        printText(reportText(report, stillSelected));
+    return 0;
+}
+
+} // namespace vidora
