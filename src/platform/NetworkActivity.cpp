@@ -11,7 +11,7 @@ NetworkActivity::NetworkActivity(std::function<void(bool)> setNetworkActivityInd
 void NetworkActivity::setVisible(bool visible) const
 {
     // A copy, since the main thread may come to it after this object is gone.
-    DispatchQueue::main().async([indicator = m_indicator, visible] {
+    m_mainBlocks.async([indicator = m_indicator, visible] {
         if (indicator)
             indicator(visible);
     });

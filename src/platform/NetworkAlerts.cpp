@@ -40,7 +40,7 @@ void NetworkAlerts::noRemoteHostAlert(const URLError& error)
     // Of several requests that fail at once only the one whose time is stored may speak.
     if (now - last <= quietSeconds || !m_lastAlert.compare_exchange_strong(last, now))
         return;
-    DispatchQueue::main().async([present = m_present, alert = alertFor(error)] {
+    m_mainBlocks.async([present = m_present, alert = alertFor(error)] {
         if (present)
             present(alert);
     });

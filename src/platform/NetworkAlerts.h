@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/BlockOwner.h"
 #include "platform/Clock.h"
 #include "platform/URLSession.h"
 #include "platform/ViewControllers.h"
@@ -27,6 +28,7 @@ private:
     const Clock& m_clock;
     const Present m_present;
     std::atomic<std::int64_t> m_lastAlert = 0; ///< seconds since 1970
+    const BlockOwner m_mainBlocks; ///< what is presented belongs to an owner that may be gone before its turn
 };
 
 } // namespace vidora
