@@ -1,0 +1,91 @@
+#include "inspect/Arguments.h"
+#include "inspect/Inspector.h"
+#include "platform/AtomicFile.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+namespace vidora::inspect {
+
+namespace {
+
+constexpr qint64 largestEndpoints = 1024 * 1024;
+
+QString resources()
+{
+    const QString installed = QCoreApplication::applicationDirPath() + QLatin1String("/../share/vidora");
+    return QFileInfo::exists(installed) ? installed : QStringLiteral(VIDORA_RESOURCES);
+}
+
+Endpoints endpointsOf(const Arguments& arguments)
+{
+    const auto own = AtomicFile::read(resources() + QLatin1String("/endpoints.json"), largestEndpoints);
+    const Endpoints fallback = Endpoints::fromJson(own.value_or(QByteArray()), {});
+    if (!arguments.endpointsFile)
+        return fallback;
+    const auto given = AtomicFile::read(*arguments.endpointsFile, largestEndpoints);
+    if (!given)
+        throw UnusableRequest(QStringLiteral("%1 can't be read").arg(*arguments.endpointsFile));
+    return Endpoints::fromJson(*given, fallback);
+}
+
+void print(const QJsonObject& object)
+{
+    const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout);
+    std::fflush(stdout);
+}
+
+QJsonObject answerLine(const std::string& line, const Surroundings& surroundings)
+{
+    try {
+        const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(line));
+        if (!document.isObject())
+            throw UnusableRequest(QStringLiteral("the line is no JSON object"));
+        return answer(Request(document.object()), surroundings);
+    } catch (const UnusableRequest& unusable) {
+        return {{QStringLiteral("error"), QString::fromUtf8(unusable.what())}};
+    }
+}
+
+void answerBatch(const Surroundings& surroundings)
+{
+    std::ios::sync_with_stdio(false);
+    for (std::string line; std::getline(std::cin, line);)
+        print(answerLine(line, surroundings));
+}
+
+int run(const QStringList& commandLine)
+{
+    try {
+        const Arguments arguments = readArguments(commandLine);
+        const std::unique_ptr<Clock> clock =
+            arguments.clock ? std::unique_ptr<Clock>(std::make_unique<FixedClock>(*arguments.clock))
+                            : std::make_unique<SystemClock>();
+        const Surroundings surroundings{*clock, endpointsOf(arguments),
+                                        arguments.iconFolder.value_or(resources() + QLatin1String("/icons"))};
+        if (arguments.batch)
+            answerBatch(surroundings);
+        else
+            print(answer(Request(arguments.request), surroundings));
+        return 0;
+    } catch (const UnusableRequest& unusable) {
+        std::fprintf(stderr, "vidora-inspect: %s\n", unusable.what());
+        return 2;
+    }
+}
+
+} // namespace
+
+} // namespace vidora::inspect
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    return vidora::inspect::run(QCoreApplication::arguments().mid(1));
+}
