@@ -41,15 +41,9 @@ std::string flatDocument(const DocumentRequest& request, const QTimeZone& zone, 
 
 std::string nestedShow(const DocumentRequest& request, const QTimeZone& zone, const Broadcast& show)
 {
-    return filled(R"(      <prg orainizio="{start}" orafine="{end}" primaTv="{first}">
-        <titolo>{title}</titolo>
-        <paese>{country}</paese>
-        <anno>{year}</anno>
-        <descrizione>{description}</descrizione>
-        <linkScheda>{self}/scheda/{slug}</linkScheda>
-        <tipologia>{genre}</tipologia>
-      </prg>
-)",
+    return filled(R"(<prg orainizio="{start}" orafine="{end}" primaTv="{first}"><titolo>{title}</titolo>)"
+                  R"(<paese>{country}</paese><anno>{year}</anno><descrizione>{description}</descrizione>)"
+                  R"(<linkScheda>{self}/scheda/{slug}</linkScheda><tipologia>{genre}</tipologia></prg>)",
                   {{"start", localText(zone, show.start, "HH:mm")},
                    {"end", localText(zone, show.end, "HH:mm")},
                    {"first", show.repeat ? "No" : "Si"},
@@ -62,26 +56,25 @@ std::string nestedShow(const DocumentRequest& request, const QTimeZone& zone, co
                    {"genre", show.genre == Genre::Film ? std::string_view("CINEMA") : show.genreText}});
 }
 
-/// Days hold channels, channels hold shows. A day runs from six to six.
+/// Days hold channels, channels hold shows. A day runs from six to six. There is no white space between elements:
+/// readers take it for text.
 std::string nestedDocument(const DocumentRequest& request, const QTimeZone& zone, QDate today)
 {
     std::string text = R"(<?xml version="1.0" encoding="UTF-8"?>
-<palinsesti>
-)";
+<palinsesti>)";
     for (int d = 0; d < days; ++d) {
         const QDate date = today.addDays(d);
-        text += filled("  <giorno data=\"{date}\">\n", {{"date", dateText(date, "yyyy/MM/dd")}});
+        text += filled("<giorno data=\"{date}\">", {{"date", dateText(date, "yyyy/MM/dd")}});
         for (const auto& [channel, code] : channelsWithPrefix("_")) {
             if (isFlat(code))
                 continue;
-            text +=
-                filled("    <canale nome=\"{title}\" id=\"{code}\">\n", {{"title", channel->title}, {"code", code}});
+            text += filled("<canale nome=\"{title}\" id=\"{code}\">", {{"title", channel->title}, {"code", code}});
             for (const Broadcast& show : request.schedule.between(*channel, momentOf(zone, date, dayStartHour),
                                                                   momentOf(zone, date.addDays(1), dayStartHour)))
                 text += nestedShow(request, zone, show);
-            text += "    </canale>\n";
+            text += "</canale>";
         }
-        text += "  </giorno>\n";
+        text += "</giorno>";
     }
     return text + "</palinsesti>\n";
 }

@@ -30,9 +30,10 @@ struct RegionChannel
     std::string_view region;   ///< "Serbian" or "Other"
     std::string_view speech;   ///< language of its titles: sr, hr, hu, ro, cs, it, en
     Profile profile;
-    std::vector<std::string_view> sources; ///< source ids, by priority
-    std::string_view stream = {};          ///< address of the live stream; empty where there is none
-    bool titleInSubtitle = false;          ///< its feed names the block as the title and the show in the second line
+    /// Source ids, by priority. An id of "-hbo." ends in its country as well: the zone of its days is read from there.
+    std::vector<std::string_view> sources;
+    std::string_view stream = {}; ///< address of the live stream; empty where there is none
+    bool titleInSubtitle = false; ///< its feed names the block as the title and the show in the second line
 
     /// File name of its icon: the title in lower-case ASCII letters and digits.
     std::string icon() const;

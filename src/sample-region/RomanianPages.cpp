@@ -4,19 +4,20 @@
 
 namespace vidora::region {
 
-// One channel on seven pages of a day each; times are counts of seconds.
+// One channel on seven pages of a day each; times are counts of seconds. The first page opens with the last shows of
+// the evening before.
 std::optional<Document> romanianPage(const DocumentRequest& request)
 {
     const RegionChannel* channel = channelWithSource("cc.romania");
-    constexpr int pages = 7;
+    constexpr int pages = 7, eveningHour = 20;
     const int page = request.date.empty() ? 0 : std::atoi(request.date.c_str());
     if (request.path != "/program-tv" || page < 0 || page >= pages)
         return std::nullopt;
     const QTimeZone zone = zoneNamed("Europe/Bucharest");
     const QDate date = dateIn(zone, request.now).addDays(page);
+    const Instant from = page == 0 ? momentOf(zone, date.addDays(-1), eveningHour) : momentOf(zone, date, 0);
     std::string list;
-    for (const Broadcast& show :
-         request.schedule.between(*channel, momentOf(zone, date, 0), momentOf(zone, date.addDays(1), 0)))
+    for (const Broadcast& show : request.schedule.between(*channel, from, momentOf(zone, date.addDays(1), 0)))
         list += filled(R"(    <li class="subject" data-time="{seconds}" data-kind="tv">
       <time>{time}</time> <h3>{title}</h3>
       <a class="more" href="/subiect/{slug}">Detalii</a>

@@ -72,7 +72,8 @@ std::optional<Options> options(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Serves a made-up television region on the loopback, for the present day, in every form that providers have.\n"
-        "The first line on standard output is the endpoint configuration that leads to it."));
+        "The first line on standard output is the endpoint configuration that leads to it.\n"
+        "The address 127.0.0.1:26418, which stands in the catalogue, is served too where it is free."));
     const QString port = QStringLiteral("port"), seed = QStringLiteral("seed"), clock = QStringLiteral("clock"),
                   fault = QStringLiteral("fault"), endpoints = QStringLiteral("endpoints-file"),
                   parent = QStringLiteral("with-parent"), catalogue = QStringLiteral("write-catalogue"),
