@@ -25,7 +25,7 @@ private:
     void setVisible(bool visible) const;
 
     const std::function<void(bool)> m_indicator;
-    std::uint32_t m_count = 0;                    ///< touched on the queue alone
+    std::uint32_t m_count = 0;     ///< touched on the queue alone
     const BlockOwner m_mainBlocks; ///< what is presented belongs to an owner that may be gone before its turn
     const std::shared_ptr<DispatchQueue> m_queue; ///< last, so that its blocks end before the rest goes
 };
