@@ -9,6 +9,8 @@ QJsonObject answer(const Request& request, const Surroundings& surroundings)
     if (!command)
         command = listingCommand(name);
     if (!command)
+        command = alarmCommand(name);
+    if (!command)
         throw UnusableRequest(QStringLiteral("unknown command \"%1\"").arg(name));
     try {
         return command(request, surroundings);

@@ -28,5 +28,7 @@ using Command = QJsonObject (*)(const Request& request, const Surroundings& surr
 Command contentCommand(const QString& name);
 /// Commands on sources, documents and the catalogue.
 Command listingCommand(const QString& name);
+/// Commands on favourites and alarms.
+Command alarmCommand(const QString& name);
 
 } // namespace vidora::inspect
