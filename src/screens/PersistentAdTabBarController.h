@@ -1,0 +1,71 @@
+#pragma once
+
+#include "core/VidoraAppDelegate.h"
+#include "screens/ScreenModel.h"
+#include "screens/StreamViewController.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace vidora {
+
+/// The window's tabs: fills the delegate's tab bar with the screens, knows which screen is in sight, and tells screens
+/// that they come and go. A window shows `tabs` and `visibleScreen`, and calls back when the user acts. Main thread.
+///
+/// Made after the delegate's launch. Tabs on a phone: Currently, Categories, Search, Schedule, Channels; on a pad All
+/// Shows stands ahead of them.
+class PersistentAdTabBarController
+{
+public:
+    struct Tab
+    {
+        QString title;
+        QString name; ///< stays the same in every language: "currently", "categories", "search", "schedule",
+                      ///< "channels", "allshows"
+        bool enabled = true;
+        std::optional<QString> badge;
+    };
+
+    /// The delegate outlives this object.
+    explicit PersistentAdTabBarController(VidoraAppDelegate& delegate);
+    ~PersistentAdTabBarController();
+
+    /// Fills the tabs for a phone or a pad. A change throws all pushed screens away and keeps the tab by its name.
+    void setPad(bool isPad);
+
+    std::vector<Tab> tabs() const;
+    std::size_t selectedIndex() const { return m_tabBar.selectedIndex(); }
+    /// Nothing happens for a tab that is turned off. The selected tab goes back to its first screen.
+    void selectTab(std::size_t index);
+
+    /// The screen in sight; never null.
+    std::shared_ptr<ScreenModel> visibleScreen() const;
+    /// The selected tab's screens, the last of which is in sight.
+    std::vector<std::shared_ptr<ScreenModel>> visibleStack() const;
+    /// Takes the screen in sight off, unless it is the tab's first.
+    void back();
+
+    /// The stream that is playing, if any.
+    StreamViewController& stream() { return m_stream; }
+
+    /// Set by the window, any of them empty: titles, badges or states of the tabs, or the selected tab have changed.
+    std::function<void()> tabsChanged;
+    /// Another screen is in sight.
+    std::function<void()> visibleScreenChanged;
+    /// A message that the user must answer.
+    std::function<void(Alert)> alertPresented;
+
+private:
+    void fill(bool isPad);
+    void changed();
+    void followVisibleScreen();
+
+    VidoraAppDelegate& m_delegate;
+    TabBarController& m_tabBar;
+    StreamViewController m_stream;
+    std::vector<Tab> m_tabs;
+    std::shared_ptr<ScreenModel> m_visible;
+};
+
+} // namespace vidora

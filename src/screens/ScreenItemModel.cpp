@@ -1,0 +1,247 @@
+#include "screens/ScreenItemModel.h"
+
+#include <QUrl>
+
+#include <algorithm>
+
+namespace vidora {
+
+namespace {
+
+const QHash<int, QByteArray>& roles()
+{
+    static const QHash<int, QByteArray> names{{ScreenItemModel::KindRole, "kind"},
+                                              {ScreenItemModel::SectionRole, "section"},
+                                              {ScreenItemModel::RowRole, "row"},
+                                              {ScreenItemModel::SectionTitleRole, "sectionTitle"},
+                                              {ScreenItemModel::TextRole, "text"},
+                                              {ScreenItemModel::RichTextRole, "richText"},
+                                              {ScreenItemModel::SubtitleRole, "subtitle"},
+                                              {ScreenItemModel::SubtitleColourRole, "subtitleColour"},
+                                              {ScreenItemModel::BackgroundColourRole, "backgroundColour"},
+                                              {ScreenItemModel::IconRole, "icon"},
+                                              {ScreenItemModel::PictureRole, "picture"},
+                                              {ScreenItemModel::ProgressRole, "progress"},
+                                              {ScreenItemModel::AccessoryRole, "accessory"},
+                                              {ScreenItemModel::SelectableRole, "selectable"},
+                                              {ScreenItemModel::SwipeableRole, "swipeable"},
+                                              {ScreenItemModel::DeletableRole, "deletable"},
+                                              {ScreenItemModel::MovableRole, "movable"}};
+    return names;
+}
+
+QString nameOf(ScreenRow::Kind kind)
+{
+    switch (kind) {
+    case ScreenRow::Kind::Header:
+        return QStringLiteral("header");
+    case ScreenRow::Kind::Broadcast:
+        return QStringLiteral("show");
+    case ScreenRow::Kind::Channel:
+        return QStringLiteral("channel");
+    case ScreenRow::Kind::Text:
+        break;
+    }
+    return QStringLiteral("text");
+}
+
+QString nameOf(Accessory accessory)
+{
+    switch (accessory) {
+    case Accessory::Disclosure:
+        return QStringLiteral("disclosure");
+    case Accessory::Activity:
+        return QStringLiteral("activity");
+    case Accessory::Play:
+        return QStringLiteral("play");
+    case Accessory::Checkmark:
+        return QStringLiteral("checkmark");
+    case Accessory::None:
+        break;
+    }
+    return QStringLiteral("none");
+}
+
+} // namespace
+
+ScreenItemModel::ScreenItemModel(std::shared_ptr<ScreenModel> screen, QObject* parent)
+    : QAbstractListModel(parent)
+    , m_screen(std::move(screen))
+{
+    m_screen->setView(this);
+    countRows();
+}
+
+ScreenItemModel::~ScreenItemModel()
+{
+    m_screen->setView(nullptr);
+}
+
+void ScreenItemModel::countRows()
+{
+    m_sectionStarts.assign(1, 0);
+    for (std::size_t section = 0; section < m_screen->numberOfSections(); ++section)
+        m_sectionStarts.push_back(m_sectionStarts.back() + static_cast<int>(m_screen->numberOfRowsInSection(section)));
+    m_rows.assign(static_cast<std::size_t>(m_sectionStarts.back()), std::nullopt);
+}
+
+RowPath ScreenItemModel::pathOf(int row) const
+{
+    const auto behind = std::upper_bound(m_sectionStarts.begin(), m_sectionStarts.end(), row);
+    const auto start = std::prev(behind);
+    return {static_cast<std::size_t>(start - m_sectionStarts.begin()), static_cast<std::size_t>(row - *start)};
+}
+
+int ScreenItemModel::flatRow(std::size_t section, std::size_t row) const
+{
+    return m_sectionStarts[section] + static_cast<int>(row);
+}
+
+int ScreenItemModel::firstRowOfSection(int section) const
+{
+    const auto index = static_cast<std::size_t>(section);
+    if (section < 0 || index + 1 >= m_sectionStarts.size() || m_sectionStarts[index] == m_sectionStarts[index + 1])
+        return -1;
+    return m_sectionStarts[index];
+}
+
+void ScreenItemModel::setStyle(RichTextStyle style)
+{
+    m_style = std::move(style);
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {RichTextRole});
+}
+
+int ScreenItemModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QHash<int, QByteArray> ScreenItemModel::roleNames() const
+{
+    return roles();
+}
+
+QVariant ScreenItemModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    return value(rowAt(index.row()), index.row(), role);
+}
+
+const ScreenRow& ScreenItemModel::rowAt(int row) const
+{
+    std::optional<ScreenRow>& kept = m_rows[static_cast<std::size_t>(row)];
+    if (!kept)
+        kept = m_screen->rowAt(pathOf(row));
+    return *kept;
+}
+
+QVariant ScreenItemModel::value(const ScreenRow& row, int flat, int role) const
+{
+    switch (role) {
+    case KindRole:
+        return nameOf(row.kind);
+    case SectionRole:
+        return static_cast<int>(pathOf(flat).section);
+    case RowRole:
+        return static_cast<int>(pathOf(flat).row);
+    case SectionTitleRole:
+        return m_screen->titleForHeaderInSection(pathOf(flat).section);
+    case Qt::DisplayRole:
+    case TextRole:
+        return plainText(row.text.string());
+    case RichTextRole:
+        return richText(row.text, m_style);
+    case SubtitleRole:
+        return plainText(row.subtitle.string());
+    case SubtitleColourRole:
+        return QString(colour::secondaryLabel);
+    case BackgroundColourRole:
+        return row.backgroundColour;
+    case IconRole:
+        return row.icon.isEmpty() ? QUrl() : QUrl::fromLocalFile(row.icon);
+    case PictureRole:
+        return row.picture.width > 0 ? row.picture.source : QString();
+    case ProgressRole:
+        return row.progress.value_or(-1);
+    case AccessoryRole:
+        return nameOf(row.accessory);
+    case SelectableRole:
+        return row.selectable;
+    case SwipeableRole:
+        return row.swipeable;
+    case DeletableRole:
+        return row.deletable;
+    case MovableRole:
+        return row.movable;
+    default:
+        return {};
+    }
+}
+
+void ScreenItemModel::reloadBegins()
+{
+    beginResetModel();
+}
+
+void ScreenItemModel::reloadEnded()
+{
+    countRows();
+    endResetModel();
+}
+
+void ScreenItemModel::insertionBegins(std::size_t section, std::size_t first, std::size_t count)
+{
+    const int row = flatRow(section, first);
+    beginInsertRows({}, row, row + static_cast<int>(count) - 1);
+}
+
+void ScreenItemModel::insertionEnded()
+{
+    countRows();
+    endInsertRows();
+}
+
+void ScreenItemModel::removalBegins(std::size_t section, std::size_t first, std::size_t count)
+{
+    const int row = flatRow(section, first);
+    beginRemoveRows({}, row, row + static_cast<int>(count) - 1);
+}
+
+void ScreenItemModel::removalEnded()
+{
+    countRows();
+    endRemoveRows();
+}
+
+void ScreenItemModel::moveBegins(RowPath from, RowPath to)
+{
+    const int row = flatRow(from.section, from.row);
+    // Qt counts the destination with the row still in its place.
+    const int destination = flatRow(to.section, to.row) + (to.row > from.row ? 1 : 0);
+    m_moves = beginMoveRows({}, row, row, {}, destination);
+}
+
+void ScreenItemModel::moveEnded()
+{
+    countRows();
+    if (m_moves)
+        endMoveRows();
+}
+
+void ScreenItemModel::rowsChanged(std::size_t section, std::size_t first, std::size_t count)
+{
+    const int row = flatRow(section, first);
+    const int last = row + static_cast<int>(count) - 1;
+    std::fill(m_rows.begin() + row, m_rows.begin() + last + 1, std::nullopt);
+    Q_EMIT dataChanged(index(row), index(last));
+}
+
+void ScreenItemModel::surroundingsChanged()
+{
+    if (onSurroundingsChanged)
+        onSurroundingsChanged();
+}
+
+} // namespace vidora

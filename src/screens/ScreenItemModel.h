@@ -1,0 +1,94 @@
+#pragma once
+
+#include "screens/RichText.h"
+#include "screens/ScreenModel.h"
+
+#include <QAbstractListModel>
+
+#include <vector>
+
+namespace vidora {
+
+/// A screen as a flat list for item views: the rows of all sections one after the other. A view makes its headings of
+/// the role "sectionTitle". Rows are asked for when a view does, and kept until they change.
+///
+/// Roles by name:
+///
+///     kind              "header", "show", "channel" or "text"
+///     section, row      where the row stands in the screen
+///     sectionTitle      heading of its section; empty for none
+///     text              plain text without control characters; also the accessible name
+///     richText          the same as rich text of Qt, everything from outside escaped; sizes and colours by
+///     `RichTextStyle` subtitle          plain text; empty for none subtitleColour    name of a colour role
+///     backgroundColour  name of a colour role
+///     icon              address of a picture file; empty for none
+///     picture           address of the show's picture; empty for none
+///     progress          0 to 1 for a show on air, else -1
+///     accessory         "none", "disclosure", "activity", "play" or "checkmark"
+///     selectable, swipeable, deletable, movable
+class ScreenItemModel final : public QAbstractListModel, private ScreenView
+{
+public:
+    enum Role
+    {
+        KindRole = Qt::UserRole + 1,
+        SectionRole,
+        RowRole,
+        SectionTitleRole,
+        TextRole,
+        RichTextRole,
+        SubtitleRole,
+        SubtitleColourRole,
+        BackgroundColourRole,
+        IconRole,
+        PictureRole,
+        ProgressRole,
+        AccessoryRole,
+        SelectableRole,
+        SwipeableRole,
+        DeletableRole,
+        MovableRole
+    };
+
+    explicit ScreenItemModel(std::shared_ptr<ScreenModel> screen, QObject* parent = nullptr);
+    ~ScreenItemModel() override;
+
+    ScreenModel& screen() const { return *m_screen; }
+    /// Where the row of the list stands in the screen.
+    RowPath pathOf(int row) const;
+    /// The first row of each section that has rows; -1 for one without.
+    int firstRowOfSection(int section) const;
+    /// Gives the colours and the scale of the rich texts. Shows all rows anew.
+    void setStyle(RichTextStyle style);
+    /// Called whenever anything around the rows has changed.
+    std::function<void()> onSurroundingsChanged;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    void reloadBegins() override;
+    void reloadEnded() override;
+    void insertionBegins(std::size_t section, std::size_t first, std::size_t count) override;
+    void insertionEnded() override;
+    void removalBegins(std::size_t section, std::size_t first, std::size_t count) override;
+    void removalEnded() override;
+    void moveBegins(RowPath from, RowPath to) override;
+    void moveEnded() override;
+    void rowsChanged(std::size_t section, std::size_t first, std::size_t count) override;
+    void surroundingsChanged() override;
+
+    void countRows();
+    int flatRow(std::size_t section, std::size_t row) const;
+    const ScreenRow& rowAt(int row) const;
+    QVariant value(const ScreenRow& row, int flat, int role) const;
+
+    const std::shared_ptr<ScreenModel> m_screen;
+    RichTextStyle m_style;
+    std::vector<int> m_sectionStarts;                     ///< flat row of each section's first, and the count of all
+    mutable std::vector<std::optional<ScreenRow>> m_rows; ///< what was asked for since the last change
+    bool m_moves = false;
+};
+
+} // namespace vidora

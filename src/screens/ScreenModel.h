@@ -1,0 +1,174 @@
+#pragma once
+
+#include "content/AttributedText.h"
+#include "content/ShowElement.h"
+#include "core/ShowServices.h"
+#include "platform/ViewControllers.h"
+#include "screens/ColourRoles.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace vidora {
+
+/// What stands at the end of a row.
+enum class Accessory
+{
+    None,
+    Disclosure, ///< selecting the row leads on
+    Activity,   ///< something is still being loaded
+    Play,       ///< a button of its own: `accessoryTapped`
+    Checkmark
+};
+
+/// A row as it is to be drawn. Texts that came from outside are text, never markup.
+struct ScreenRow
+{
+    enum class Kind
+    {
+        Header,    ///< a channel above its shows: icon, name, "Updated ..."
+        Broadcast, ///< start time and title, details below in smaller type
+        Channel,   ///< a channel to be chosen or ordered: icon and name
+        Text       ///< plain text
+    };
+
+    Kind kind = Kind::Text;
+    AttributedText text;     ///< may hold line ends; as many lines as it needs
+    AttributedText subtitle; ///< one line below the text, shrunk to fit; may be empty
+    QString backgroundColour = colour::secondaryGroupedBackground;
+    QString icon;                   ///< path of a picture file; empty for none
+    ShowImage picture;              ///< beside a show; of width 0 for none
+    std::optional<double> progress; ///< of a show on air, 0 to 1: drawn over the picture
+    Accessory accessory = Accessory::None;
+    bool selectable = true; ///< highlights when it is touched; `select` may be called in any case
+    bool swipeable = false; ///< `swipeActions` may be asked for
+    bool deletable = false; ///< `deleteRow` may be called
+    bool movable = false;   ///< `moveRow` may be called
+    Show show;              ///< of a show row
+};
+
+struct RowPath
+{
+    std::size_t section = 0;
+    std::size_t row = 0;
+    friend bool operator==(const RowPath&, const RowPath&) = default;
+};
+
+/// A button at the right of the bar above a screen.
+struct BarButton
+{
+    enum class Kind
+    {
+        Text,     ///< shows its title
+        Activity, ///< turns; can't be pressed
+        Play,
+        Refresh,
+        Add,
+        Trash
+    };
+
+    Kind kind = Kind::Text;
+    QString title; ///< also the name for those who do not see the picture
+    std::function<void()> action;
+    friend bool operator==(const BarButton& a, const BarButton& b) { return a.kind == b.kind && a.title == b.title; }
+};
+
+/// Who shows a screen and must know of its changes. Each change lies between two calls: in the first the screen is as
+/// it was, in the second as it is now.
+class ScreenView
+{
+public:
+    virtual ~ScreenView() = default;
+    virtual void reloadBegins() = 0;
+    virtual void reloadEnded() = 0;
+    virtual void insertionBegins(std::size_t section, std::size_t first, std::size_t count) = 0;
+    virtual void insertionEnded() = 0;
+    virtual void removalBegins(std::size_t section, std::size_t first, std::size_t count) = 0;
+    virtual void removalEnded() = 0;
+    /// `to` is the row's place once it is taken out of `from`; both in one section.
+    virtual void moveBegins(RowPath from, RowPath to) = 0;
+    virtual void moveEnded() = 0;
+    /// These rows look different now.
+    virtual void rowsChanged(std::size_t section, std::size_t first, std::size_t count) = 0;
+    /// Anything around the rows: title, bar buttons, activity, placeholder, search text.
+    virtual void surroundingsChanged() = 0;
+};
+
+/// Base of all screens: sections of rows with what belongs around them. Rows are made when they are asked for, from
+/// what the screen holds, so that a screen of thousands costs what is seen of it. Main thread.
+///
+/// The window calls the four appearance operations as the screen comes and goes; the first `viewWillAppear` loads it.
+class ScreenModel : public ViewController
+{
+public:
+    /// Already in the user's language.
+    virtual QString title() const = 0;
+    /// From the right edge inwards.
+    virtual std::vector<BarButton> rightBarButtonItems() const { return {}; }
+    /// A sentence to show where there are no rows.
+    virtual QString placeholder() const { return {}; }
+
+    virtual std::size_t numberOfSections() const { return 1; }
+    virtual std::size_t numberOfRowsInSection(std::size_t section) const = 0;
+    /// Heading of a section; empty for none.
+    virtual QString titleForHeaderInSection(std::size_t section) const;
+    /// Whether the headings are also to be offered as an index at the edge.
+    virtual bool hasSectionIndex() const { return false; }
+    /// The row as it is at this moment. The path must be one of a row.
+    virtual ScreenRow rowAt(RowPath path) const = 0;
+
+    virtual void selectRow(RowPath path);
+    virtual void accessoryTapped(RowPath path);
+    virtual std::vector<SwipeAction> swipeActions(RowPath path);
+    virtual void deleteRow(RowPath path);
+    /// `to` is the row's place once it is taken out of `from`.
+    virtual void moveRow(RowPath from, RowPath to);
+
+    /// Whether the screen can be pulled to refresh it, and whether that is under way.
+    virtual bool canRefresh() const { return false; }
+    virtual bool isRefreshing() const { return false; }
+    virtual void refresh() {}
+
+    /// What is in the search field; nothing on a screen that has none.
+    virtual std::optional<QString> searchText() const { return std::nullopt; }
+    virtual void setSearchText(const QString& text);
+
+    /// The row has come into sight, or left it: pictures are fetched for what is seen.
+    virtual void rowDisplayed(RowPath path);
+    virtual void rowEndedDisplay(RowPath path);
+
+    bool isViewLoaded() const { return m_isViewLoaded; }
+    void viewWillAppear();
+    virtual void viewDidAppear() {}
+    virtual void viewWillDisappear() {}
+    virtual void viewDidDisappear() {}
+
+    /// At most one; it outlives the screen or takes itself off with null.
+    void setView(ScreenView* view) { m_view = view; }
+
+protected:
+    virtual void viewDidLoad() {}
+    virtual void willAppear() {}
+
+    using Change = std::function<void()>;
+    /// Each makes the change and tells the view of it.
+    void reloadData(const Change& change);
+    void reloadData();
+    void insertRows(std::size_t section, std::size_t first, std::size_t count, const Change& change);
+    void removeRows(std::size_t section, std::size_t first, std::size_t count, const Change& change);
+    void relocateRow(RowPath from, RowPath to, const Change& change);
+    void reloadRows(std::size_t section, std::size_t first, std::size_t count);
+    void surroundingsChanged();
+
+private:
+    ScreenView* m_view = nullptr;
+    bool m_isViewLoaded = false;
+};
+
+/// A text of the program in the user's language; the key is the English text.
+QString localized(const char* key);
+
+} // namespace vidora
