@@ -39,7 +39,7 @@ class EventStoreException final : public std::runtime_error
 {
 public:
     EventStoreException(QString exceptionName, QString exceptionReason)
-        : std::runtime_error((exceptionName + QStringLiteral(": ") + exceptionReason).toStdString())
+        : std::runtime_error(QString(exceptionName + QStringLiteral(": ") + exceptionReason).toStdString())
         , name(std::move(exceptionName))
         , reason(std::move(exceptionReason))
     {
