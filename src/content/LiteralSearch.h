@@ -5,8 +5,8 @@
 
 namespace vidora {
 
-/// Where the marker first stands, from a place on; -1 where it doesn't. Compares UTF-16 units. Made for short markers
-/// whose first unit is rare in the text. `marker` is not empty.
+/// Where the marker first stands, from a place on; -1 where it doesn't. Compares UTF-16 units. Made for short markers.
+/// `marker` is not empty; `from` is not negative.
 qsizetype indexOfLiteral(QStringView text, QStringView marker, qsizetype from = 0);
 
 /// The text with every occurrence of `from` replaced by `to`, in one pass from left to right, so that what was put in

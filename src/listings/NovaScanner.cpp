@@ -3,6 +3,9 @@
 #include "listings/PageScanner.h"
 #include "listings/Scanner.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vidora {
 
 namespace {
@@ -111,13 +114,22 @@ private:
         return closing ? std::optional(page.slice(opening->end, closing->at)) : std::nullopt;
     }
 
+    /// All keys begin with a dash and a blank, of which there are few.
     static TVListingsCategory mask(const PageScanner& page, qsizetype from, qsizetype to)
     {
-        for (const Genre& genre : genres) {
-            if (page.findPlain(genre.key, from, to))
-                return genre.mask;
+        const Genre* first = std::end(genres);
+        for (auto dash = page.find(u"- ", from, to); dash; dash = page.find(u"- ", dash->end, to)) {
+            // A key in its decomposed form has a mark for every letter at most.
+            for (const Genre* genre = std::begin(genres); genre != first; ++genre) {
+                const qsizetype end = std::min(to, dash->at + 2 * genre->key.size());
+                const auto key = page.findPlain(genre->key, dash->at, end);
+                if (key && key->at == dash->at) {
+                    first = genre;
+                    break;
+                }
+            }
         }
-        return 0;
+        return first == std::end(genres) ? 0 : first->mask;
     }
 
     const ChannelItems& m_items;

@@ -1,5 +1,7 @@
 #include "listings/PageScanner.h"
 
+#include "content/LiteralSearch.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -52,7 +54,7 @@ std::optional<PageScanner::Match> PageScanner::find(QStringView marker, qsizetyp
     check(from, to);
     if (marker.isEmpty())
         return std::nullopt;
-    const qsizetype at = m_text.sliced(0, to).indexOf(marker, from);
+    const qsizetype at = indexOfLiteral(m_text.first(to), marker, from);
     if (at < 0)
         return std::nullopt;
     return Match{at, at + marker.size()};
