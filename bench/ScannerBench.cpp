@@ -28,7 +28,11 @@ QString filled(const QString& form, int number, const GuideTexts::Show& show)
     const QString time = QStringLiteral("%1:%2")
                              .arg(number / 12 % 24, 2, 10, QLatin1Char('0'))
                              .arg(number % 12 * 5, 2, 10, QLatin1Char('0'));
-    return form.arg(QString::number(number), time, show.title, show.description);
+    return QString(form)
+        .replace(QLatin1String("%1"), QString::number(number))
+        .replace(QLatin1String("%2"), time)
+        .replace(QLatin1String("%3"), show.title)
+        .replace(QLatin1String("%4"), show.description);
 }
 
 QStringList pageSet(const Format& format)
@@ -138,13 +142,15 @@ Format formatOf(int type)
                                "<span class=\"title\">%3</span><span class=\"description\">%4</span></li>\n"),
                 {}};
     case 9:
-        return {"dolce-sport.1",
-                scanDolceSport,
-                1,
-                "<li class=\"list-group-item\">",
-                QStringLiteral("<div data-ls-for=\"#d0\">"),
-                QStringLiteral("<li class=\"list-group-item\"><time>%2</time> %3<p>%4</p></li>\n"),
-                {}};
+        return {
+            "dolce-sport.1",
+            scanDolceSport,
+            1,
+            "<li class=\"list-group-item\">",
+            QStringLiteral("<a data-ls-for=\"d0\"><a data-ls-for=\"d1\"><a data-ls-for=\"d2\"><a data-ls-for=\"d3\">"
+                           "<a data-ls-for=\"d4\"><a data-ls-for=\"d5\"><a data-ls-for=\"d6\"><p id=\"d0\">"),
+            QStringLiteral("<li class=\"list-group-item\"><b class=\"time\">%2</b><b class=\"name\">%3</b>%4</li>\n"),
+            QStringLiteral("<p id=\"d1\"><p id=\"d2\"><p id=\"d3\"><p id=\"d4\"><p id=\"d5\"><p id=\"d6\">")};
     case 10:
         return {"cinestar.hr.1",
                 scanCinestar,

@@ -1,5 +1,7 @@
 #include "content/TitleCase.h"
 
+#include <algorithm>
+
 namespace vidora {
 
 namespace {
@@ -42,8 +44,22 @@ qsizetype endOfWord(QStringView text, qsizetype at)
     return at;
 }
 
+/// Whether the locale's small letters are those of ASCII: all have them but those with a dotless i.
+bool hasPlainLetters(const QLocale& locale)
+{
+    return locale.language() != QLocale::Turkish && locale.language() != QLocale::Azerbaijani;
+}
+
 QString capitalizedWord(QStringView word, const QLocale& locale)
 {
+    const auto isAscii = [](QChar unit) { return unit.unicode() < 0x80; };
+    if (hasPlainLetters(locale) && std::all_of(word.begin(), word.end(), isAscii)) {
+        QString plain = word.toString();
+        for (QChar& unit : plain)
+            unit = unit.toLower();
+        plain[0] = plain[0].toUpper();
+        return plain;
+    }
     const char32_t first = codePointAt(word, 0);
     const QStringView initial = word.left(unitsOf(first));
     // The whole word is lowered, since a letter's small form may depend on the letters ahead of it.
