@@ -16,11 +16,6 @@ namespace {
 constexpr std::size_t mostChannels = 100'000;
 constexpr std::size_t longestName = 1'000;
 
-QString toText(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 std::string_view attribute(const char* const* attributes, const char* name)
 {
     for (; *attributes; attributes += 2) {
@@ -63,7 +58,7 @@ private:
         else if (m_channel && name == "display-name")
             startName(attributes);
         else if (m_channel && name == "icon" && !m_channel->icon && !attribute(attributes, "src").empty())
-            m_channel->icon = toText(attribute(attributes, "src"));
+            m_channel->icon = textFromXML(attribute(attributes, "src"));
         m_stream.setTextWanted(m_insideName);
     }
 
@@ -77,7 +72,7 @@ private:
     {
         --m_depth;
         if (m_insideName && name == "display-name") {
-            const QString title = toText(m_name).simplified();
+            const QString title = textFromXML(m_name).simplified();
             if (!title.isEmpty())
                 m_channel->displayNames << title;
             m_insideName = false;
@@ -91,7 +86,7 @@ private:
 
     void startChannel(const char* const* attributes)
     {
-        const QString id = toText(attribute(attributes, "id"));
+        const QString id = textFromXML(attribute(attributes, "id"));
         if (id.isEmpty())
             ++m_summary.channelsWithoutId;
         else if (m_byId.contains(id))
@@ -103,20 +98,20 @@ private:
     void startName(const char* const* attributes)
     {
         if (m_channel->displayNames.isEmpty())
-            m_channel->language = toText(attribute(attributes, "lang"));
+            m_channel->language = textFromXML(attribute(attributes, "lang"));
         m_name.clear();
         m_insideName = true;
     }
 
     void startProgramme(const char* const* attributes)
     {
-        const auto start = xmltvDate(toText(attribute(attributes, "start")));
-        const auto stop = xmltvDate(toText(attribute(attributes, "stop")));
+        const auto start = xmltvDate(textFromXML(attribute(attributes, "start")));
+        const auto stop = xmltvDate(textFromXML(attribute(attributes, "stop")));
         if (!start || !stop) {
             ++m_summary.programmesWithoutTimes;
             return;
         }
-        const QString id = toText(attribute(attributes, "channel"));
+        const QString id = textFromXML(attribute(attributes, "channel"));
         const auto channel = m_byId.find(id);
         m_days.insert(std::chrono::floor<std::chrono::days>(*start));
         if (channel != m_byId.end()) {

@@ -11,16 +11,11 @@ namespace vidora {
 
 namespace {
 
-QString toString(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 std::optional<QString> attribute(const char* const* attributes, std::string_view name)
 {
     for (; *attributes; attributes += 2) {
         if (name == attributes[0])
-            return QString::fromUtf8(attributes[1]);
+            return textFromXML(attributes[1]);
     }
     return std::nullopt;
 }
@@ -215,7 +210,7 @@ void PalinsestoReader::text(std::string_view piece)
 void PalinsestoReader::endElement(std::string_view name)
 {
     if (m_text && name == m_field && *m_text != "--")
-        endField(name, toString(*m_text));
+        endField(name, textFromXML(*m_text));
     m_text.reset();
 }
 

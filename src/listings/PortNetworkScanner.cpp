@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace vidora {
 
@@ -43,6 +44,40 @@ bool keepsShortDescription(QStringView source)
 {
     constexpr std::array<std::int64_t, 8> silent = {10058, 10109, 10132, 10192, 10193, 10194, 10306, 10316};
     return std::find(silent.begin(), silent.end(), leadingNumber(source)) == silent.end();
+}
+
+/// False for what the library's reader takes although it is no JSON (RFC 8259): control characters and unknown escapes
+/// in strings, numbers with nothing in front of the point or behind it.
+bool hasStandardTokens(std::string_view json)
+{
+    const auto isDigit = [json](std::size_t at) { return at < json.size() && json[at] >= '0' && json[at] <= '9'; };
+    bool insideString = false;
+    for (std::size_t i = 0; i < json.size(); ++i) {
+        const char c = json[i];
+        if (c == '"')
+            insideString = !insideString;
+        else if (!insideString && c == '.' && !(isDigit(i - 1) && isDigit(i + 1)))
+            return false;
+        else if (insideString && static_cast<unsigned char>(c) < 0x20)
+            return false;
+        else if (insideString && c == '\\' &&
+                 (++i == json.size() || std::string_view("\"\\/bfnrtu").find(json[i]) == std::string_view::npos))
+            return false;
+    }
+    return true;
+}
+
+QJsonObject topDictionary(const QString& page)
+{
+    constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+    QByteArray json = page.toUtf8();
+    if (!hasStandardTokens({json.constData(), static_cast<std::size_t>(json.size())}))
+        return {};
+    if (json.startsWith(byteOrderMark))
+        json.remove(0, 3);
+    // The library would drop one at the front of a string, where it is a character like any other.
+    json.replace(byteOrderMark, "\\ufeff");
+    return QJsonDocument::fromJson(json).object();
 }
 
 class Reader
@@ -135,7 +170,7 @@ void scanPortNetwork(const ScanInput& input, Drafts& drafts)
         throw RangeException("no page");
     const ChannelItem& item = input.items.at(0);
     Reader reader(item, input.endpoints);
-    const QJsonObject document = QJsonDocument::fromJson(input.pages.first().toUtf8()).object();
+    const QJsonObject document = topDictionary(input.pages.first());
     for (const QJsonValue value : document)
         reader.readChannel(value.toObject().value(QLatin1String("channels")).toArray().first().toObject());
     if (!reader.list().empty())

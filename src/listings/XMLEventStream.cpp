@@ -6,7 +6,8 @@
 namespace vidora {
 namespace {
 
-constexpr int maximalDepth = 256;
+/// An open element costs memory, and nothing else.
+constexpr int maximalDepth = 100'000;
 /// Entities may refer to each other, which the parser follows by recursion.
 constexpr int maximalEntities = 128;
 constexpr std::size_t maximalPiece = 4 * 1024 * 1024;
@@ -15,6 +16,14 @@ constexpr std::int64_t maximalToken = 8 * 1024 * 1024;
 constexpr std::size_t feedLength = 256 * 1024;
 
 } // namespace
+
+QString textFromXML(std::string_view utf8)
+{
+    QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    if (utf8.substr(0, 3) == "\xEF\xBB\xBF")
+        text.prepend(QChar::ByteOrderMark);
+    return text;
+}
 
 struct XMLEventStream::Handlers
 {

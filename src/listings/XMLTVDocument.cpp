@@ -59,11 +59,6 @@ TVListingsCategory categoryOfDescription(std::string_view description)
     return 0;
 }
 
-QString toString(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 XMLTVSelection::XMLTVSelection(const QStringList& channels, Instant now, std::optional<QString> pictureAddress)
@@ -94,7 +89,7 @@ void XMLTVDocument::Text::clear()
 
 std::optional<QString> XMLTVDocument::Text::toString() const
 {
-    return isSet ? std::optional{vidora::toString(utf8)} : std::nullopt;
+    return isSet ? std::optional{textFromXML(utf8)} : std::nullopt;
 }
 
 XMLTVDocument::XMLTVDocument(const XMLTVSelection& selection, Receiver receiver)
@@ -151,7 +146,7 @@ void XMLTVDocument::startProgramme(const char* const* attributes)
         return;
     if (m_sourceId.isNull() || m_channel != channel) {
         m_channel = channel;
-        m_sourceId = toString(m_channel);
+        m_sourceId = textFromXML(m_channel);
     }
     m_hasEntry = true;
     m_programme.sourceId = m_sourceId;
@@ -174,7 +169,7 @@ void XMLTVDocument::startChild(std::string_view name, const char* const* attribu
         m_programme.categories |= category::series;
     } else if (name == "icon") {
         if (const char* source = attribute(attributes, "src"))
-            m_programme.icon = URL::fromText(toString(source));
+            m_programme.icon = URL::fromText(textFromXML(source));
     }
 }
 
@@ -206,7 +201,7 @@ void XMLTVDocument::text(std::string_view piece)
         break;
     case Inside::Image:
         if (m_selection.pictureAddress())
-            m_programme.icon = URL::fromText(QString{*m_selection.pictureAddress() + toString(piece)});
+            m_programme.icon = URL::fromText(QString{*m_selection.pictureAddress() + textFromXML(piece)});
         break;
     case Inside::Nothing:
     case Inside::Programme:

@@ -39,7 +39,7 @@ FeedIds feedIds(const ChannelItems& items)
 const ObjectId& channelOf(const QString& sourceId, const QStringList& ids, const ChannelItems& items)
 {
     const qsizetype index = ids.lastIndexOf(sourceId);
-    return items[index < 0 ? 0 : static_cast<std::size_t>(index)].channel;
+    return items.at(index < 0 ? 0 : static_cast<std::size_t>(index)).channel;
 }
 
 ShowDraft draftOf(ExtendedTVEntry&& entry, const ObjectId& channel, const QString& sourceId)
@@ -87,8 +87,6 @@ bool XMLTVToEntries::read(const Page& page)
 
 bool scanXMLTV(const Pages& pages, const ChannelItems& items, Instant now, const Endpoints& endpoints, Drafts& drafts)
 {
-    if (items.empty())
-        return true;
     const FeedIds wanted = feedIds(items);
     for (const Page& page : pages) {
         XMLTVToEntries converter{wanted.ids, wanted.useImage, now, endpoints};

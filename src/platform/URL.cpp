@@ -38,7 +38,8 @@ QString percentEncoded(QStringView text)
             result += text[i++];
             continue;
         }
-        const qsizetype length = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+        const qsizetype length =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate() ? 2 : 1;
         for (const char byte : text.mid(i, length).toUtf8()) {
             const auto value = static_cast<unsigned char>(byte);
             result += QLatin1Char('%');

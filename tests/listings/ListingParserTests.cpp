@@ -175,6 +175,33 @@ TEST(ListingParser, ChannelsAreStoredInTheirOrder)
     EXPECT_EQ(result.at(parse.channel)->front()->entry->language(), std::nullopt);
 }
 
+TEST(ListingParser, ReadsJsonAndNothingLikeIt)
+{
+    const struct
+    {
+        const char* value;
+        bool isJson;
+    } rows[] = {
+        {"-0.5e+3", true},   {"\"\\\\ \\u010d\\/.5\"", true},
+        {"1.", false},       {".5", false},
+        {"[01]", false},     {"\"a\\qb\"", false},
+        {"\"a\tb\"", false}, {"\"a\\", false},
+        {"NaN", false},      {"[1,]", false},
+    };
+    for (const auto& row : rows) {
+        Parse parse;
+        const QString page =
+            QStringLiteral("\ufeff{\"a\":{\"channels\":[{\"programs\":[{\"title\":\"\ufeffx\",\"start_datetime\":"
+                           "\"2026-11-22T07:00:00Z\",\"other\":%1}]}]}}")
+                .arg(QString::fromUtf8(row.value));
+        const auto result = parse.run(0, {Page::fromText(page)}, "12");
+        ASSERT_EQ(result.size(), row.isJson ? 1u : 0u) << row.value;
+        if (row.isJson) {
+            EXPECT_EQ(lines(*result.at(parse.channel)), "\ufeffx 07:00-?\n");
+        }
+    }
+}
+
 TEST(ListingParser, ExceptionsEndUpWhereTheyShould)
 {
     // A time cut off by the end of the page.
@@ -213,6 +240,11 @@ TEST(ListingParser, ExceptionsEndUpWhereTheyShould)
         const auto result = parse.run(row.type, row.pages, row.source);
         EXPECT_EQ(result.empty() ? 0 : result.at(parse.channel)->size(), row.shows) << row.type;
     }
+
+    const Page guide = Page::fromText(QStringLiteral("<tv><programme channel=\"a\" stop=\"20261123000000 +0000\">"
+                                                     "<title>x</title></programme></tv>"));
+    Parse nobody;
+    EXPECT_ANY_THROW(nobody.run(1, {guide}, ChannelItems())) << "a show, and no channel that it could belong to";
 }
 
 TEST(ListingParser, AFaultyPageEndsThePages)

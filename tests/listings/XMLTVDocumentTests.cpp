@@ -145,7 +145,11 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"nestedProgramme", tv(programme("<title>A</title>" + programme("<title>B</title>") + "<title>C</title>")),
              "<B>"},
         Case{"namesAreQualified", tv(programme("<x:title>A</x:title><title>B</title>")), "<B>"},
-        Case{"byteOrderMark", "\xef\xbb\xbf" + tv(programme("<title>A</title>")), "<A>"}),
+        Case{"byteOrderMark",
+             "\xef\xbb\xbf" + tv(programme("<title>\xef\xbb\xbf"
+                                           "A</title>")),
+             "<\xef\xbb\xbf"
+             "A>"}),
     [](const auto& parameter) { return std::string{parameter.param.name}; });
 
 std::string timed(const std::string& attributes)
@@ -210,6 +214,9 @@ TEST(XMLTVDocument, BoundsHostileInput)
     EXPECT_EQ(described(chain + "]><tv>" + first + programme("<title>&a99999;</title>") + "</tv>"), "");
     EXPECT_EQ(described("<tv>" + first + repeated("<x>", 1'000'000) + programme("<title>B</title>")), "<A>");
     EXPECT_EQ(described("<tv>" + first + "<x y='" + repeated("z", 20'000'000) + "'/>" + first + "</tv>"), "<A>");
+    EXPECT_EQ(described("<tv>" + first + repeated("<x>", 1'000) + repeated("</x>", 1'000) + first + "</tv>"),
+              "<A>; <A>")
+        << "deep is not yet hostile";
     const auto large = read(
         "<tv>" + programme("<title>A</title><desc>" + repeated("0123456789&amp;", 1'000'000) + "</desc>") + "</tv>");
     ASSERT_EQ(large.size(), 1u);
