@@ -75,4 +75,12 @@ public:
     virtual void findFilm(const Show& show) = 0;
 };
 
+/// Those who are there.
+struct ShowServices
+{
+    ShowMarks* marks = nullptr;
+    ShowPictures* pictures = nullptr;
+    ShowDetails* details = nullptr;
+};
+
 } // namespace vidora

@@ -14,6 +14,7 @@ namespace {
 
 constexpr double defaultUpdateInterval = 86'400;
 constexpr std::uint8_t defaultShowCount = 4;
+constexpr Milliseconds delayOfPlaying{100}; // the system pauses players as it puts the application away
 const QString filteredCatalogue = QStringLiteral("5b65e9d23afbe36684bdfe2c.plist");
 
 Milliseconds intervalForCache(double seconds)
@@ -38,12 +39,14 @@ VidoraAppDelegate::VidoraAppDelegate(Environment environment)
             networkActivityIndicator(visible);
     })
     , m_screens(m_tabBarController)
+    , m_isPad(m_environment.isPad)
 {
 }
 
 VidoraAppDelegate::~VidoraAppDelegate()
 {
-    // A pass that is still running refers to everything here.
+    // A pass that is still running refers to everything here, and must not wait for a screen.
+    m_loadPauses.endAll();
     if (m_checkAndUpdateAllChannelsQueue)
         m_checkAndUpdateAllChannelsQueue->sync([] {});
 }
@@ -113,13 +116,13 @@ void VidoraAppDelegate::pruneSelection()
 void VidoraAppDelegate::setup()
 {
     m_colorizedShows = m_defaults.boolForKey(QStringLiteral("colorizedShows"));
-    if (m_environment.isPad)
+    if (m_isPad)
         m_tabBarController.setEnabled(0, true);
     if (m_channels->selected().empty()) {
         disableTabs();
-    } else if (!m_firstTabSelected) {
+    } else if (!m_firstTabSelected && !m_tabBarController.items().empty()) {
         m_firstTabSelected = true;
-        m_tabBarController.setSelectedIndex(m_environment.isPad ? 1 : 0);
+        m_tabBarController.setSelectedIndex(m_isPad ? 1 : 0);
     }
 }
 
@@ -152,6 +155,10 @@ void VidoraAppDelegate::applicationDidEnterBackground()
         m_listings->commitFiles();
     }
     m_screens.enteredBackground();
+    m_mainBlocks.after(delayOfPlaying, [this] {
+        if (playOpenStream)
+            playOpenStream();
+    });
 }
 
 void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
@@ -184,7 +191,7 @@ void VidoraAppDelegate::updateBadge()
     const int count = eventCount ? eventCount() : 0;
     if (applicationIconBadge)
         applicationIconBadge(count);
-    m_tabBarController.setBadgeValue(m_environment.isPad ? 4 : 3,
+    m_tabBarController.setBadgeValue(m_isPad ? 4 : 3,
                                      count == 0 ? std::nullopt : std::optional(QString::number(count)));
 }
 
@@ -204,6 +211,12 @@ void VidoraAppDelegate::enableTabs()
         if (index != m_tabBarController.selectedIndex())
             m_tabBarController.setEnabled(index, true);
     }
+}
+
+std::vector<SwipeAction> VidoraAppDelegate::swipeActionsConfigurationForEntry(const Show& show,
+                                                                              ViewController& screen) const
+{
+    return m_showServices.marks ? m_showServices.marks->swipeActions(show, screen) : std::vector<SwipeAction>();
 }
 
 void VidoraAppDelegate::notificationsSynched()

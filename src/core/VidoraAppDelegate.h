@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/ChannelCatalogue.h"
+#include "core/LoadPauses.h"
 #include "core/ScreenWalk.h"
+#include "core/ShowServices.h"
 #include "core/StoreServices.h"
 #include "core/TVChannels.h"
 #include "core/UpdateCycle.h"
@@ -76,6 +78,24 @@ public:
     /// Told of every pass from now on, beside the screens. Null ends that.
     void setUpdateObserver(UpdateObserver* observer) { m_updateObserver = observer; }
 
+    /// Stops all parsing, and with it the running pass, until the token goes. Not held longer than one main-queue
+    /// answer of the store needs.
+    LoadPauses::Token pauseLoading() { return m_loadPauses.pause(m_loadQueue); }
+    /// Plays a channel's stream, and goes on with the one that is open. Set by the screen of streams; may be empty.
+    std::function<void(const URL&)> playURL;
+    std::function<void()> playOpenStream;
+    /// Who knows more of shows than the lists; all outlive the screens.
+    void setShowServices(const ShowServices& services) { m_showServices = services; }
+    const ShowServices& showServices() const { return m_showServices; }
+    /// What a swipe on a show's row offers.
+    std::vector<SwipeAction> swipeActionsConfigurationForEntry(const Show& show, ViewController& screen) const;
+
+    /// Reads the setting for colours, and selects the tab to begin with: the last one without a selection. Called at
+    /// launch, and by those who change the tabs.
+    void setup();
+    /// A phone or a pad, by the size of the window: pads have one more tab, ahead of the others.
+    bool isPad() const { return m_isPad; }
+    void setPad(bool isPad) { m_isPad = isPad; }
     /// Shows the count of alarms on the icon and on the tab of the schedule.
     void updateBadge();
     /// Selects the last tab and turns all others off: without channels there is nothing to show.
@@ -95,6 +115,8 @@ public:
     KeyValueStore& keyValueStore() { return m_keyValueStore; }
     Application& application() { return m_application; }
     PageFetcher& fetcher() { return *m_fetcher; }
+    AlarmSynchronisation& alarmSynchronisation() { return *m_storeServices; }
+    NetworkAlerts& networkAlerts() { return m_networkAlerts; }
     const Environment& environment() const { return m_environment; }
     const QString& scheme() const { return m_environment.scheme; }
     DispatchQueue& loadQueue() { return *m_loadQueue; }
@@ -112,7 +134,6 @@ private:
     void loadCatalogue();
     void makeStore();
     void pruneSelection();
-    void setup();
     void readSettings();
 
     // UpdateObserver
@@ -146,6 +167,9 @@ private:
     std::atomic<std::uint8_t> m_showCount = 4;
     bool m_imagesEnabled = true, m_showBgImages = true, m_colorizedShows = false;
     bool m_firstTabSelected = false;
+    bool m_isPad;
+    ShowServices m_showServices;
+    LoadPauses m_loadPauses;
     UpdateObserver* m_updateObserver = nullptr;
     BlockOwner m_mainBlocks; ///< last, so that no block outlives what it refers to
 };

@@ -11,12 +11,19 @@ namespace vidora {
 class BlockOwner
 {
 public:
-    void async(DispatchQueue::Block block) const
+    /// The block for whoever will call it on the main queue: it does nothing once the object is gone.
+    template<typename Block>
+    auto guarded(Block block) const
     {
-        DispatchQueue::main().async([alive = std::weak_ptr<void>(m_alive), block = std::move(block)] {
+        return [alive = std::weak_ptr<void>(m_alive), block = std::move(block)](auto&&... arguments) {
             if (!alive.expired())
-                block();
-        });
+                block(std::forward<decltype(arguments)>(arguments)...);
+        };
+    }
+    void async(DispatchQueue::Block block) const { DispatchQueue::main().async(guarded(std::move(block))); }
+    void after(Milliseconds delay, DispatchQueue::Block block) const
+    {
+        DispatchQueue::main().after(delay, guarded(std::move(block)));
     }
 
 private:

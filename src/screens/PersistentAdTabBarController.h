@@ -45,6 +45,9 @@ public:
     std::vector<std::shared_ptr<ScreenModel>> visibleStack() const;
     /// Takes the screen in sight off, unless it is the tab's first.
     void back();
+    /// Shows the broadcast of an address in the application's scheme, on top of the selected tab; an address of none
+    /// leaves everything as it is.
+    void openURL(const URL& url);
 
     /// The stream that is playing, if any.
     StreamViewController& stream() { return m_stream; }
@@ -66,6 +69,7 @@ private:
     StreamViewController m_stream;
     std::vector<Tab> m_tabs;
     std::shared_ptr<ScreenModel> m_visible;
+    BlockOwner m_mainBlocks;
 };
 
 } // namespace vidora

@@ -20,7 +20,6 @@ void ScreenModel::deleteRow(RowPath) {}
 void ScreenModel::moveRow(RowPath, RowPath) {}
 void ScreenModel::setSearchText(const QString&) {}
 void ScreenModel::rowDisplayed(RowPath) {}
-void ScreenModel::rowEndedDisplay(RowPath) {}
 
 std::vector<SwipeAction> ScreenModel::swipeActions(RowPath)
 {

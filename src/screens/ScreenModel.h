@@ -136,9 +136,8 @@ public:
     virtual std::optional<QString> searchText() const { return std::nullopt; }
     virtual void setSearchText(const QString& text);
 
-    /// The row has come into sight, or left it: pictures are fetched for what is seen.
+    /// The row has come into sight: pictures are fetched for what is seen.
     virtual void rowDisplayed(RowPath path);
-    virtual void rowEndedDisplay(RowPath path);
 
     bool isViewLoaded() const { return m_isViewLoaded; }
     void viewWillAppear();

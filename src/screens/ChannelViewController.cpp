@@ -1,0 +1,129 @@
+#include "screens/ChannelViewController.h"
+
+#include "screens/DetailViewController.h"
+#include "screens/Navigation.h"
+#include "screens/ShowRows.h"
+#include "store/LocalDays.h"
+
+namespace vidora {
+
+ChannelViewController::ChannelViewController(VidoraAppDelegate& delegate, QString title, const ShowList& entries,
+                                             QString channelIconName, const ObjectId& channel)
+    : m_delegate(delegate)
+    , m_channelTitle(std::move(title))
+    , m_channelIconName(std::move(channelIconName))
+    , m_channel(channel)
+{
+    const auto found = m_delegate.channelData().find(channel);
+    if (found != m_delegate.channelData().end())
+        m_streamURL = streamURL(found->second);
+    const auto object = m_delegate.channels().channelWithChannelId(channel);
+    m_isRefreshing = object && (object->loading() || object->reloadNeeded());
+    initializeContentWithEntriesArray(entries);
+}
+
+void ChannelViewController::initializeContentWithEntriesArray(const ShowList& entries)
+{
+    m_groups.clear();
+    m_sortedGroupKeys.clear();
+    LocalDays days;
+    for (const Show& show : entries) {
+        if (!show->entry->dateTime())
+            continue;
+        const QString& day = days.dayKey(*show->entry->dateTime());
+        ShowList& group = m_groups[day];
+        if (group.empty())
+            m_sortedGroupKeys.push_back(day);
+        group.push_back(show);
+    }
+}
+
+std::vector<BarButton> ChannelViewController::rightBarButtonItems() const
+{
+    auto* self = const_cast<ChannelViewController*>(this);
+    std::vector<BarButton> buttons;
+    if (m_isRefreshing)
+        buttons.push_back({BarButton::Kind::Activity, localized("Loading"), {}});
+    else
+        buttons.push_back({BarButton::Kind::Refresh, localized("Refresh"), [self] { self->refresh(); }});
+    if (m_streamURL)
+        buttons.push_back({BarButton::Kind::Play, localized("Play"), [self] { self->play(); }});
+    return buttons;
+}
+
+std::size_t ChannelViewController::numberOfRowsInSection(std::size_t section) const
+{
+    return m_groups.at(m_sortedGroupKeys[section]).size();
+}
+
+const Show* ChannelViewController::showAt(RowPath path) const
+{
+    if (path.section >= m_sortedGroupKeys.size())
+        return nullptr;
+    const ShowList& group = m_groups.at(m_sortedGroupKeys[path.section]);
+    return path.row < group.size() ? &group[path.row] : nullptr;
+}
+
+ScreenRow ChannelViewController::rowAt(RowPath path) const
+{
+    const Show* show = showAt(path);
+    if (!show)
+        return {};
+    const Instant now = m_delegate.environment().clock.now();
+    const TVEntry& entry = *(*show)->entry;
+    const bool isOnAir =
+        entry.dateTime() && *entry.dateTime() <= now && entry.endDateTime() && *entry.endDateTime() > now;
+    return showRow(m_delegate, *show, isOnAir);
+}
+
+void ChannelViewController::selectRow(RowPath path)
+{
+    if (const Show* show = showAt(path))
+        pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, m_channelIconName));
+}
+
+std::vector<SwipeAction> ChannelViewController::swipeActions(RowPath path)
+{
+    const Show* show = showAt(path);
+    return show ? m_delegate.swipeActionsConfigurationForEntry(*show, *this) : std::vector<SwipeAction>();
+}
+
+void ChannelViewController::setRefreshing(bool isRefreshing)
+{
+    m_isRefreshing = isRefreshing;
+    surroundingsChanged();
+}
+
+void ChannelViewController::refresh()
+{
+    setRefreshing(true);
+    if (const auto object = m_delegate.channels().channelWithChannelId(m_channel))
+        object->unload();
+    m_delegate.checkAndUpdateAllChannels();
+}
+
+void ChannelViewController::reloadChannelData()
+{
+    const auto object = m_delegate.channels().channelWithChannelId(m_channel);
+    if (!object || object->loading() || object->reloadNeeded())
+        return;
+    m_delegate.listings().cachedListForChannel(m_channel, QualityOfService::Default,
+                                               m_mainBlocks.guarded([this](const SharedShowList& list) {
+                                                   reloadData([&] { initializeContentWithEntriesArray(*list); });
+                                                   setRefreshing(false);
+                                               }));
+}
+
+void ChannelViewController::recolor()
+{
+    if (isViewLoaded())
+        m_mainBlocks.async([this] { reloadData(); });
+}
+
+void ChannelViewController::play()
+{
+    if (m_streamURL && m_delegate.playURL)
+        m_delegate.playURL(*m_streamURL);
+}
+
+} // namespace vidora

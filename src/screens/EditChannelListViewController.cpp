@@ -1,0 +1,103 @@
+#include "screens/EditChannelListViewController.h"
+
+#include "screens/Navigation.h"
+#include "screens/ShowRows.h"
+
+namespace vidora {
+
+EditChannelListViewController::EditChannelListViewController(VidoraAppDelegate& delegate)
+    : m_delegate(delegate)
+{
+}
+
+std::vector<BarButton> EditChannelListViewController::rightBarButtonItems() const
+{
+    auto* self = const_cast<EditChannelListViewController*>(this);
+    std::vector<BarButton> buttons{{BarButton::Kind::Add, localized("Add channels"), [self] { self->add(); }}};
+    if (!m_selected.empty())
+        buttons.push_back({BarButton::Kind::Trash, localized("Remove all channels"), [self] { self->trash(); }});
+    return buttons;
+}
+
+QString EditChannelListViewController::placeholder() const
+{
+    return localized("No channels are chosen yet. Add the ones you want to see.");
+}
+
+void EditChannelListViewController::willAppear()
+{
+    reloadData([this] { m_selected = m_delegate.channels().selected(); });
+    surroundingsChanged();
+}
+
+ScreenRow EditChannelListViewController::rowAt(RowPath path) const
+{
+    ScreenRow row;
+    row.kind = ScreenRow::Kind::Channel;
+    row.selectable = false;
+    row.deletable = true;
+    row.movable = true;
+    const auto found = m_delegate.channelData().find(m_selected[path.row]);
+    if (found == m_delegate.channelData().end()) {
+        row.text = QStringLiteral("?");
+        return row;
+    }
+    row.text = channelTitle(found->second);
+    row.icon = m_delegate.icons().iconNamed(found->second.iconFileName().value_or(QString())).value_or(QString());
+    return row;
+}
+
+void EditChannelListViewController::store(bool isRemoval)
+{
+    if (isRemoval)
+        m_delegate.alarmSynchronisation().setSynchronized(false);
+    m_delegate.channels().setSelected(m_selected);
+    if (m_selected.empty())
+        m_delegate.disableTabs();
+    if (RootScreen* home = homeScreen(m_delegate))
+        home->setModifiedSelectedChannels(true);
+    if (isRemoval)
+        m_delegate.reloadData();
+    surroundingsChanged();
+}
+
+void EditChannelListViewController::deleteRow(RowPath path)
+{
+    if (path.row >= m_selected.size())
+        return;
+    const auto place = m_selected.begin() + static_cast<std::ptrdiff_t>(path.row);
+    m_delegate.listings().removeListingsForChannel(*place);
+    removeRows(0, path.row, 1, [&] { m_selected.erase(place); });
+    store(true);
+}
+
+void EditChannelListViewController::moveRow(RowPath from, RowPath to)
+{
+    if (from.row >= m_selected.size() || to.row >= m_selected.size() || from == to)
+        return;
+    relocateRow(from, to, [&] {
+        const ObjectId moved = m_selected[from.row];
+        m_selected.erase(m_selected.begin() + static_cast<std::ptrdiff_t>(from.row));
+        m_selected.insert(m_selected.begin() + static_cast<std::ptrdiff_t>(to.row), moved);
+    });
+    store(false);
+}
+
+void EditChannelListViewController::trash()
+{
+    if (m_selected.empty())
+        return;
+    for (const ObjectId& channel : m_selected)
+        m_delegate.listings().removeListingsForChannel(channel);
+    removeRows(0, 0, m_selected.size(), [&] { m_selected.clear(); });
+    store(true);
+}
+
+void EditChannelListViewController::add()
+{
+    if (!m_groups)
+        m_groups = std::make_shared<const std::vector<ChannelGroup>>(channelGroups(m_delegate.channelData()));
+    pushFrom(m_delegate, *this, std::make_shared<AllChannelsViewController>(m_delegate, m_groups));
+}
+
+} // namespace vidora

@@ -1,0 +1,40 @@
+#include "screens/Navigation.h"
+
+#include <algorithm>
+
+namespace vidora {
+
+std::shared_ptr<NavigationController> navigationControllerOf(VidoraAppDelegate& delegate, const ViewController& screen)
+{
+    for (const auto& tab : delegate.tabBarController().viewControllers()) {
+        const auto navigation = std::dynamic_pointer_cast<NavigationController>(tab);
+        if (!navigation)
+            continue;
+        const auto& stack = navigation->viewControllers();
+        if (std::any_of(stack.begin(), stack.end(), [&](const auto& known) { return known.get() == &screen; }))
+            return navigation;
+    }
+    return nullptr;
+}
+
+void pushFrom(VidoraAppDelegate& delegate, const ViewController& below, std::shared_ptr<ScreenModel> screen)
+{
+    if (const auto navigation = navigationControllerOf(delegate, below))
+        navigation->pushViewController(std::move(screen));
+}
+
+RootScreen* homeScreen(VidoraAppDelegate& delegate)
+{
+    for (const auto& tab : delegate.tabBarController().viewControllers()) {
+        const auto navigation = std::dynamic_pointer_cast<NavigationController>(tab);
+        if (!navigation)
+            continue;
+        for (const auto& screen : navigation->viewControllers()) {
+            if (auto* root = dynamic_cast<RootScreen*>(screen.get()))
+                return root;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace vidora

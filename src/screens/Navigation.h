@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/ScreenProtocols.h"
+#include "core/VidoraAppDelegate.h"
+#include "screens/ScreenModel.h"
+
+namespace vidora {
+
+/// The stack in which a screen stands; null for one that no tab holds.
+std::shared_ptr<NavigationController> navigationControllerOf(VidoraAppDelegate& delegate, const ViewController& screen);
+
+/// Puts a screen on top of another one's stack; nothing happens where that one has none.
+void pushFrom(VidoraAppDelegate& delegate, const ViewController& below, std::shared_ptr<ScreenModel> screen);
+
+/// The first home screen of the tabs; null without one.
+RootScreen* homeScreen(VidoraAppDelegate& delegate);
+
+} // namespace vidora

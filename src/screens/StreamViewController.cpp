@@ -1,0 +1,77 @@
+#include "screens/StreamViewController.h"
+
+#include "screens/ScreenModel.h"
+
+namespace vidora {
+
+namespace {
+
+constexpr Seconds patience{25};
+
+} // namespace
+
+StreamViewController::StreamViewController(VidoraAppDelegate& delegate)
+    : m_delegate(delegate)
+{
+    m_delegate.playURL = [this](const URL& url) { playURL(url); };
+    m_delegate.playOpenStream = [this] {
+        if (m_player)
+            m_player->play();
+    };
+}
+
+StreamViewController::~StreamViewController()
+{
+    m_delegate.playURL = {};
+    m_delegate.playOpenStream = {};
+    if (m_player)
+        m_player->pause();
+}
+
+void StreamViewController::playURL(const URL& url)
+{
+    moviePlayerPlaybackDidFinish();
+    m_player = playerWithURL ? playerWithURL(url) : nullptr;
+    if (!m_player)
+        return;
+    play();
+    if (playerChanged)
+        playerChanged();
+}
+
+void StreamViewController::play()
+{
+    if (!m_player)
+        return;
+    m_player->play();
+    m_mainBlocks.after(patience, [this, player = std::weak_ptr(m_player)] { checkIsReady(player); });
+}
+
+void StreamViewController::checkIsReady(const std::weak_ptr<StreamPlayer>& player)
+{
+    if (!m_player || player.lock() != m_player || m_player->status() == StreamPlayer::Status::ReadyToPlay)
+        return;
+    moviePlayerPlaybackDidFinish();
+    const auto close = m_mainBlocks.guarded([this] {
+        m_delegate.networkAlerts().alertedNow();
+        moviePlayerPlaybackDidFinish();
+    });
+    m_delegate.tabBarController().present(
+        {localized("Alert"),
+         localized("Streaming of this video is currently unavailable or your Internet connection speed is not "
+                   "adequate."),
+         {{localized("OK"), close}}});
+}
+
+void StreamViewController::moviePlayerPlaybackDidFinish()
+{
+    if (!m_player)
+        return;
+    const auto closed = std::exchange(m_player, nullptr);
+    closed->pause();
+    closed->seekToStart();
+    if (playerChanged)
+        playerChanged();
+}
+
+} // namespace vidora
