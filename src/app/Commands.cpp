@@ -126,7 +126,7 @@ int CommandRun::tonight()
     if (!hasSelection())
         return 0;
     const int updated = update();
-    return updated == 0 ? now() : updated;
+    return updated == 0 && !m_device.isEnding() ? now() : updated;
 }
 
 int CommandRun::update()
@@ -357,7 +357,9 @@ int runCommand(const CommandLine& line)
     const int status =
         line.command == QLatin1String("import") ? importGuide(line, device) : CommandRun(line, device).run();
     device.quit();
-    return status;
+    // What a shell reports of a process that a signal ended.
+    constexpr int endedBySignal = 128;
+    return device.isEnding() ? endedBySignal + device.endSignal() : status;
 }
 
 } // namespace vidora

@@ -38,6 +38,13 @@ std::unique_ptr<Clock> clockOf(const CommandLine& line)
     return std::make_unique<SystemClock>();
 }
 
+// What a process that was killed left half-written. Only the holder of the home's lock may know it for a leftover.
+void removeLeftovers(const StandardFolders& folders)
+{
+    for (const QString& folder : {folders.documents, folders.caches, folders.settings, Device::ownIcons(folders)})
+        AtomicFile::removeLeftovers(folder);
+}
+
 } // namespace
 
 QString Device::resources()
@@ -67,7 +74,6 @@ bool Device::hasOwnGuide() const
 Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
-
 {
     m_folders.make();
     lockHome(access);
@@ -80,6 +86,7 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
                     readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper,
                     *m_guideSession, false, m_lock->outcome() == HomeLock::Outcome::Second});
     m_delegate->applicationDidFinishLaunching();
+    watchSystem();
 }
 
 Device::~Device() = default;
@@ -87,6 +94,8 @@ Device::~Device() = default;
 void Device::lockHome(Access access)
 {
     m_lock = std::make_unique<HomeLock>(m_folders.documents);
+    if (m_lock->outcome() == HomeLock::Outcome::First)
+        removeLeftovers(m_folders);
     if (m_lock->outcome() != HomeLock::Outcome::Second)
         return;
     const QString holder = m_lock->holder() ? QString::number(*m_lock->holder()) : QStringLiteral("?");
@@ -104,6 +113,7 @@ void Device::lockHome(Access access)
         DispatchQueue::main().async([&] { taken = true; });
     });
     DispatchQueue::runMain([&] { return taken; });
+    removeLeftovers(m_folders);
 }
 
 Endpoints Device::readEndpoints(bool wantsNetwork, std::optional<Instant> clock, const std::optional<URL>& guide)
@@ -118,6 +128,23 @@ Endpoints Device::readEndpoints(bool wantsNetwork, std::optional<Instant> clock,
     if (guide)
         endpoints.tvpcAddress = guide->text();
     return Endpoints::fromJson(contents(ownEndpoints(m_folders)), endpoints);
+}
+
+void Device::watchSystem()
+{
+    m_memoryWarnings =
+        std::make_unique<MemoryWarnings>([this] { m_delegate->applicationDidReceiveMemoryWarning(); }, m_machineClock);
+    m_signals = std::make_unique<Signals>([this](int signal) { endBySignal(signal); });
+}
+
+void Device::endBySignal(int signal)
+{
+    Log::line(QStringLiteral("ending by signal %1").arg(signal));
+    m_endSignal = signal;
+    m_network.invalidateAndCancel();
+    m_sleeper.invalidateAndWake();
+    // A second request ends the process where it stands: files are whole at every moment.
+    m_mainBlocks.async([this] { m_signals.reset(); });
 }
 
 void Device::quit()

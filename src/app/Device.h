@@ -4,11 +4,15 @@
 #include "app/SampleRegionProcess.h"
 #include "core/OwnGuideSession.h"
 #include "core/VidoraAppDelegate.h"
+#include "platform/BlockOwner.h"
 #include "platform/Clock.h"
 #include "platform/HomeLock.h"
+#include "platform/MemoryWarnings.h"
 #include "platform/NetworkURLSession.h"
+#include "platform/Signals.h"
 #include "platform/StandardFolders.h"
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -34,6 +38,10 @@ public:
     /// The network as it is; the delegate's own treats the imported guide apart.
     URLSession& network() { return m_network; }
     bool hasOwnGuide() const;
+    /// The signal that asked the process to end, 0 without one. What fetches or waits then fails at once, so that a
+    /// command comes to its end by itself. Any thread.
+    int endSignal() const { return m_endSignal; }
+    bool isEnding() const { return m_endSignal != 0; }
     /// Commits what is pending and ends everything that runs.
     void quit();
 
@@ -47,6 +55,8 @@ public:
 
 private:
     void lockHome(Access access);
+    void watchSystem();
+    void endBySignal(int signal);
     Endpoints readEndpoints(bool wantsNetwork, std::optional<Instant> clock, const std::optional<URL>& guide);
 
     StandardFolders m_folders;
@@ -58,6 +68,11 @@ private:
     std::unique_ptr<HomeLock> m_lock;
     SampleRegionProcess m_region;
     std::unique_ptr<VidoraAppDelegate> m_delegate;
+    std::atomic<int> m_endSignal = 0;
+    const SystemClock m_machineClock; ///< whatever moment the guide is shown for
+    std::unique_ptr<MemoryWarnings> m_memoryWarnings;
+    std::unique_ptr<Signals> m_signals;
+    BlockOwner m_mainBlocks;
 };
 
 } // namespace vidora

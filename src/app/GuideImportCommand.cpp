@@ -26,6 +26,20 @@ void showIconProgress(std::size_t done, std::size_t of)
         std::fprintf(stderr, done == of ? "\r\x1b[K" : "\r\x1b[Kicons: %zu of %zu", done, of);
 }
 
+// The lists of an earlier guide stay in sight until the next update, which replaces them however young they are.
+std::size_t expireSelected(TVChannels& channels, const ImportReport& report)
+{
+    std::size_t stillSelected = 0;
+    for (const ObjectId& id : channels.selected()) {
+        if (std::find(report.channels.begin(), report.channels.end(), id) == report.channels.end())
+            continue;
+        ++stillSelected;
+        if (const auto channel = channels.channelWithChannelId(id))
+            channel->expire();
+    }
+    return stillSelected;
+}
+
 QString skippedText(const GuideSummary& guide)
 {
     QString text;
@@ -62,8 +76,10 @@ QString reportText(const ImportReport& report, std::size_t stillSelected)
                        .arg(report.guide.programmes)
                        .arg(report.guide.days) +
                    QLatin1Char('\n') + skippedText(report.guide);
-    text += stillSelected > 0 ? translated("%1 of the channels chosen before are in it.").arg(stillSelected)
-                              : translated("Choose channels with \"vidora select X...\", then \"vidora update\".");
+    text += stillSelected > 0
+                ? translated("%1 of the channels chosen before are in it; \"vidora update\" reads their shows.")
+                      .arg(stillSelected)
+                : translated("Choose channels with \"vidora select X...\", then \"vidora update\".");
     return text + QLatin1Char('\n');
 }
 
@@ -75,7 +91,10 @@ int importGuide(const CommandLine& line, Device& device)
                                   Device::ownIcons(device.folders()));
     std::optional<std::variant<ImportReport, QString>> outcome;
     DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
-        auto made = guideImport.import(line.arguments.front(), showIconProgress);
+        auto made = guideImport.import(line.arguments.front(), [&](std::size_t done, std::size_t of) {
+            showIconProgress(done, of);
+            return !device.isEnding();
+        });
         DispatchQueue::main().async([&, made = std::move(made)]() mutable { outcome = std::move(made); });
     });
     DispatchQueue::runMain([&] { return outcome.has_value(); });
@@ -85,11 +104,7 @@ int importGuide(const CommandLine& line, Device& device)
         return 1;
     }
     const auto& report = std::get<ImportReport>(*outcome);
-    const ChannelIds selection = device.delegate().channels().selected();
-    const auto stillSelected =
-        static_cast<std::size_t>(std::count_if(selection.begin(), selection.end(), [&](const ObjectId& id) {
-            return std::find(report.channels.begin(), report.channels.end(), id) != report.channels.end();
-        }));
+    const std::size_t stillSelected = expireSelected(device.delegate().channels(), report);
     if (line.json)
         printText(QString::fromUtf8(QJsonDocument(reportJson(report, stillSelected)).toJson()));
     else

@@ -42,21 +42,22 @@ public:
     {
     }
 
-    std::size_t run()
+    std::optional<std::size_t> run()
     {
         DispatchGroup group;
         for (std::size_t i = 0; i < std::min(sideBySide, m_channels.size()); ++i)
             group.async(DispatchQueue::global(QualityOfService::UserInitiated), [this] { work(); });
         group.wait();
-        return m_fetched;
+        return m_isEnded ? std::nullopt : std::optional<std::size_t>(m_fetched);
     }
 
 private:
     void work()
     {
-        for (std::size_t i = m_next++; i < m_channels.size(); i = m_next++) {
+        for (std::size_t i = m_next++; i < m_channels.size() && !m_isEnded; i = m_next++) {
             save(m_channels[i]);
-            m_progress(++m_done, m_channels.size());
+            if (!m_progress(++m_done, m_channels.size()))
+                m_isEnded = true;
         }
     }
 
@@ -84,12 +85,14 @@ private:
     const IconProgress& m_progress;
     std::mutex m_mutex;
     std::atomic<std::size_t> m_next = 0, m_done = 0, m_fetched = 0;
+    std::atomic<bool> m_isEnded = false;
 };
 
 } // namespace
 
-std::size_t saveGuideIcons(URLSession& network, const std::vector<GuideChannel>& channels, const QString& folder,
-                           QHash<QString, QString>& names, const IconProgress& progress)
+std::optional<std::size_t> saveGuideIcons(URLSession& network, const std::vector<GuideChannel>& channels,
+                                          const QString& folder, QHash<QString, QString>& names,
+                                          const IconProgress& progress)
 {
     return IconSaver(network, channels, folder, names, progress).run();
 }

@@ -11,14 +11,15 @@
 
 namespace vidora {
 
-/// Told of each icon as it comes in, on any thread.
-using IconProgress = std::function<void(std::size_t done, std::size_t of)>;
+/// Told of each icon as it comes in, on any thread; false ends the work.
+using IconProgress = std::function<bool(std::size_t done, std::size_t of)>;
 
 /// Puts an icon for every channel into the folder: the guide's own where it has one that can be fetched and is a
-/// picture, else one drawn from the title's initials. `names` gets the file name by channel id. The number fetched.
-/// Blocks the caller; several icons are fetched side by side.
-std::size_t saveGuideIcons(URLSession& network, const std::vector<GuideChannel>& channels, const QString& folder,
-                           QHash<QString, QString>& names, const IconProgress& progress);
+/// picture, else one drawn from the title's initials. `names` gets the file name by channel id. The number fetched,
+/// or nothing when `progress` ended it. Blocks the caller; several icons are fetched side by side.
+std::optional<std::size_t> saveGuideIcons(URLSession& network, const std::vector<GuideChannel>& channels,
+                                          const QString& folder, QHash<QString, QString>& names,
+                                          const IconProgress& progress);
 
 /// A small picture with the initials of a title, as SVG 1.1.
 QByteArray drawnIcon(const QString& title);

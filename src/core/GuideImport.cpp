@@ -120,7 +120,10 @@ std::variant<ImportReport, QString> GuideImport::import(const QString& source, c
 
     ImportReport report{*address, std::move(*guide), {}, 0};
     QHash<QString, QString> iconNames;
-    report.iconsFetched = saveGuideIcons(m_network, report.guide.channels, m_iconFolder, iconNames, progress);
+    const auto icons = saveGuideIcons(m_network, report.guide.channels, m_iconFolder, iconNames, progress);
+    if (!icons)
+        return translated("The import was ended; the guide of before stays.");
+    report.iconsFetched = *icons;
     QVariantList records;
     for (const GuideChannel& channel : report.guide.channels) {
         report.channels.push_back(idOfChannel(channel.id));

@@ -87,6 +87,17 @@ void TVChannel::unload()
         QFile::remove(listPath());
 }
 
+void TVChannel::expire()
+{
+    const std::lock_guard lock(m_mutex);
+    QFile file(listPath());
+    if (!m_timeLoaded && !file.exists())
+        return;
+    m_timeLoaded = Instant();
+    if (!m_aging.readOnly && file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        file.setFileTime(QDateTime::fromMSecsSinceEpoch(0), QFileDevice::FileModificationTime);
+}
+
 QString TVChannel::listPath() const
 {
     return m_aging.cachesFolder + QLatin1Char('/') + TVListings::listingsFileFromChannelIdentificator(m_identificator);

@@ -44,6 +44,8 @@ public:
     bool reloadNeeded() const;
     /// Forgets the load and removes the list file. The store's list in memory stays.
     void unload();
+    /// Makes the list count as stale, also after a restart; it stays in use until a new one replaces it.
+    void expire();
 
 private:
     QString listPath() const;

@@ -8,6 +8,31 @@
 
 namespace vidora {
 
+namespace {
+
+/// "source n.lipa1.rs and 6 more, http://host/epg.xml: fetched, status 200, 4711 bytes", for the log.
+QString sourceLine(const ChannelItems& needed, const URLSet& urls, const Pages& pages, const PageOutcome& last)
+{
+    QString line = QStringLiteral("source ") + needed.front().sourceId;
+    if (needed.size() > 1)
+        line += QStringLiteral(" and %1 more").arg(needed.size() - 1);
+    line += QStringLiteral(", ") + last.address;
+    if (urls.size() > 1)
+        line += QStringLiteral(" (page %1 of %2)").arg(std::min(pages.size() + 1, urls.size())).arg(urls.size());
+    return line + QStringLiteral(": ") + last.text();
+}
+
+QString whyNothing(const Pages& pages)
+{
+    if (!Log::enabled())
+        return {};
+    const auto everything = [](std::string_view) { return true; };
+    const bool isDamaged = pages.front().readUtf8(everything) == Page::Outcome::Faulty;
+    return isDamaged ? QStringLiteral("nothing: the page is damaged") : QStringLiteral("nothing: no usable show");
+}
+
+} // namespace
+
 /// What one pass knows, all of it gone at its end.
 struct UpdateCycle::Pass
 {
@@ -133,19 +158,23 @@ void UpdateCycle::update(Pass& pass, const URLSet& urls)
         channels.push_back(item.channel);
     m_mainBlocks.async([this, channels = std::move(channels)] { m_observer.fetching(channels); });
 
-    const Pages pages = fetch(urls);
+    PageOutcome last;
+    const Pages pages = fetch(urls, last);
+    QString found = QStringLiteral("no page");
     if (!pages.empty())
-        m_services.loadQueue.sync([&] { parse(pass, needed, pages); });
+        m_services.loadQueue.sync([&] { found = parse(pass, needed, pages); });
+    if (Log::enabled())
+        Log::line(sourceLine(needed, urls, pages, last) + QStringLiteral("; ") + found);
 }
 
-Pages UpdateCycle::fetch(const URLSet& urls)
+Pages UpdateCycle::fetch(const URLSet& urls, PageOutcome& last)
 {
     Pages pages;
     for (const URL& url : urls) {
         URLRequest request(url);
         request.headerFields.set("User-Agent", m_services.userAgent.value());
         request.headerFields.set("Accept-Encoding", "gzip,deflate");
-        auto page = m_services.fetcher.netPageForRequest(request, false);
+        auto page = m_services.fetcher.netPageForRequest(request, false, &last);
         if (!page)
             break;
         pages.push_back(std::move(*page));
@@ -153,22 +182,23 @@ Pages UpdateCycle::fetch(const URLSet& urls)
     return pages;
 }
 
-void UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& pages)
+QString UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& pages)
 {
-    const QString& source = needed.front().sourceId;
     try {
-        const std::uint32_t type = listingsTypeForSourceId(source, m_services.endpoints);
+        const std::uint32_t type = listingsTypeForSourceId(needed.front().sourceId, m_services.endpoints);
         setLoading(needed, true);
         const auto result = m_services.parser.netList(needed, pages, m_services.clock.now(), type);
         setLoading(needed, false);
-        if (!result.empty())
-            publish(pass, result);
-        else
-            Log::line(QStringLiteral("source %1: nothing usable").arg(source));
+        if (result.empty())
+            return whyNothing(pages);
+        publish(pass, result);
+        std::size_t shows = 0;
+        for (const auto& [channel, list] : result)
+            shows += list->size();
+        return QStringLiteral("%1 of %2 channels, %3 shows").arg(result.size()).arg(needed.size()).arg(shows);
     } catch (const std::exception& exception) {
         // The channels stay marked as loading: what made a parse fail would make the next one fail as well.
-        Log::line(QStringLiteral("listings parsing exception!!! source %1: %2")
-                      .arg(source, QString::fromUtf8(exception.what())));
+        return QStringLiteral("listings parsing exception!!! %1").arg(QString::fromUtf8(exception.what()));
     }
 }
 

@@ -81,8 +81,9 @@ private:
     void collect(Pass& pass, const ObjectId& channel);
     ChannelItems neededOf(const std::vector<Source>& group) const;
     void update(Pass& pass, const URLSet& urls);
-    Pages fetch(const URLSet& urls);
-    void parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
+    Pages fetch(const URLSet& urls, PageOutcome& last);
+    /// What came of it, for the log.
+    QString parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
     void publish(Pass& pass, const ListingParser::Result& result);
     void setLoading(const ChannelItems& items, bool loading) const;
     void endBackgroundTask();

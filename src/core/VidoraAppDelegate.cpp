@@ -168,6 +168,7 @@ void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
             m_defaults.synchronize();
         m_listings->commitFiles();
     }
+    m_listings->dropSearchIndex();
     const qint64 capacity = m_cache.memoryCapacity();
     m_cache.setMemoryCapacity(0);
     m_cache.setMemoryCapacity(capacity);

@@ -149,17 +149,6 @@ ListingParser::Result publish(Drafts& drafts)
     return result;
 }
 
-void log(std::uint32_t type, const ChannelItems& items, const ListingParser::Result& result, std::size_t stored)
-{
-    if (!Log::enabled())
-        return;
-    std::size_t shows = 0;
-    for (const auto& [channel, list] : result)
-        shows += list->size();
-    Log::line(QString::asprintf("type %u: %zu channels wanted, %zu found with %zu shows, %zu stored", type,
-                                items.size(), result.size(), shows, stored));
-}
-
 } // namespace
 
 ListingParser::ListingParser(const Clock& clock, const Endpoints& endpoints, ListingReceiver& receiver)
@@ -191,7 +180,6 @@ ListingParser::Result ListingParser::netList(const ChannelItems& netList, const 
     }
     if (!stored.empty())
         m_receiver.listingsStored();
-    log(type, netList, result, stored.size());
     return result;
 }
 

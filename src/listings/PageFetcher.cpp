@@ -29,33 +29,46 @@ QByteArray charsetOfContentType(const QByteArray& contentType)
     return name.size() > 1 ? name.toUpper() : QByteArray("UTF-8");
 }
 
-void log(const QString& address, const URLRequest& request, bool userIsWaitingFor, const URLResult& result,
-         const std::optional<Page>& page)
+PageOutcome outcomeOf(const URLRequest& request, const URLResult& result, bool hasData, bool hasPage)
+{
+    PageOutcome outcome;
+    outcome.address = request.url.text();
+    outcome.bytes = result.data ? result.data->size() : 0;
+    if (result.response) {
+        outcome.fromCache = result.response->fromCache;
+        outcome.status = result.response->statusCode;
+    }
+    if (result.error)
+        outcome.failure = result.error->description;
+    else if (!hasData)
+        outcome.failure = QStringLiteral("nothing");
+    else if (!hasPage)
+        outcome.failure = QStringLiteral("unknown character set");
+    return outcome;
+}
+
+void log(const QString& address, bool userIsWaitingFor, const PageOutcome& outcome)
 {
     if (!Log::enabled())
         return;
     QString line = QStringLiteral("page ") + address;
-    if (request.url.text() != address)
-        line += QStringLiteral(" -> ") + request.url.text();
+    if (outcome.address != address)
+        line += QStringLiteral(" -> ") + outcome.address;
     if (userIsWaitingFor)
         line += QStringLiteral(" (user waits)");
-    if (result.error)
-        line += QStringLiteral(": ") + result.error->description;
-    else
-        line += result.response && result.response->fromCache ? QStringLiteral(": from cache")
-                                                              : QStringLiteral(": fetched");
-    if (result.response)
-        line += QStringLiteral(", status %1").arg(result.response->statusCode);
-    if (result.data)
-        line += QStringLiteral(", %1 bytes").arg(result.data->size());
-    if (!page)
-        line += result.data && !result.data->isEmpty() && isSuccess(result.response)
-                    ? QStringLiteral(", unknown character set")
-                    : QStringLiteral(", nothing");
-    Log::line(line);
+    Log::line(line + QStringLiteral(": ") + outcome.text());
 }
 
 } // namespace
+
+QString PageOutcome::text() const
+{
+    if (status == 0)
+        return failure;
+    QString text = fromCache ? QStringLiteral("from cache") : QStringLiteral("fetched");
+    text += QStringLiteral(", status %1, %2 bytes").arg(status).arg(bytes);
+    return failure.isEmpty() ? text : text + QStringLiteral(", ") + failure;
+}
 
 PageFetcher::PageFetcher(URLSession& session, URLCache& cache, Sleeper& sleeper, NetworkActivity& activity,
                          NetworkAlerts& alerts)
@@ -82,7 +95,7 @@ URLResult PageFetcher::attempt(const URLRequest& request)
     return result;
 }
 
-std::optional<Page> PageFetcher::netPageForRequest(URLRequest& request, bool userIsWaitingFor)
+std::optional<Page> PageFetcher::netPageForRequest(URLRequest& request, bool userIsWaitingFor, PageOutcome* outcome)
 {
     const QString address = request.url.text();
     URLResult result;
@@ -104,7 +117,10 @@ std::optional<Page> PageFetcher::netPageForRequest(URLRequest& request, bool use
         page = pageFromData(*result.data, *result.response);
     else
         m_cache.removeCachedResponseForRequest(request);
-    log(address, request, userIsWaitingFor, result, page);
+    const PageOutcome report = outcomeOf(request, result, hasData, page.has_value());
+    log(address, userIsWaitingFor, report);
+    if (outcome)
+        *outcome = report;
     return page;
 }
 

@@ -9,6 +9,19 @@
 
 namespace vidora {
 
+/// What became of a fetch, for those who report on it.
+struct PageOutcome
+{
+    QString address; ///< where the answer came from, behind a redirect
+    bool fromCache = false;
+    int status = 0; ///< 0: no answer
+    qint64 bytes = 0;
+    QString failure; ///< why there is no page; empty for a page
+
+    /// "fetched, status 200, 4711 bytes", or what went wrong.
+    QString text() const;
+};
+
 /// The one way in which documents of providers enter the program.
 class PageFetcher
 {
@@ -24,7 +37,8 @@ public:
     /// Nothing when no answer came, it was no success (status 200 to 299), had no data, or is in a character set that
     /// is not known. The page of a damaged file is faulty, which shows when it is read. A user who waits and a pass in
     /// the background are served alike today; `userIsWaitingFor` tells which it is and is noted in the log.
-    std::optional<Page> netPageForRequest(URLRequest& request, bool userIsWaitingFor);
+    /// `outcome`, where given, gets the report.
+    std::optional<Page> netPageForRequest(URLRequest& request, bool userIsWaitingFor, PageOutcome* outcome = nullptr);
 
     /// How a body is to be read, by the response's Content-Type: "application/x-xz" and "application/x-gzip" are files
     /// packed in themselves, of UTF-8; else the character set that stands behind "charset=", as it stands there; else

@@ -4,8 +4,6 @@
 
 #include <QRandomGenerator>
 
-#include <thread>
-
 namespace vidora {
 
 Instant SystemClock::now() const
@@ -41,7 +39,17 @@ std::uint32_t SystemRandom::uniform(std::uint32_t bound)
 void SystemSleeper::sleep(Milliseconds duration)
 {
     const BlockingScope blocking;
-    std::this_thread::sleep_for(duration);
+    std::unique_lock lock(m_mutex);
+    m_over.wait_for(lock, duration, [this] { return m_isOver; });
+}
+
+void SystemSleeper::invalidateAndWake()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isOver = true;
+    }
+    m_over.notify_all();
 }
 
 } // namespace vidora

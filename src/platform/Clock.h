@@ -3,7 +3,9 @@
 #include "platform/Instant.h"
 
 #include <atomic>
+#include <condition_variable>
 #include <cstdint>
+#include <mutex>
 
 namespace vidora {
 
@@ -63,6 +65,13 @@ class SystemSleeper final : public Sleeper
 {
 public:
     void sleep(Milliseconds duration) override;
+    /// Ends the running sleeps, and all later ones at once. For the end of the process; any thread.
+    void invalidateAndWake();
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_over;
+    bool m_isOver = false;
 };
 
 } // namespace vidora

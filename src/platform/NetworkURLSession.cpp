@@ -220,6 +220,8 @@ NetworkURLSession::~NetworkURLSession() = default;
 
 URLResult NetworkURLSession::perform(const URLRequest& request)
 {
+    if (m_cancelled)
+        return failure(QStringLiteral("cancelled"));
     const QString scheme = request.url.scheme();
     if (scheme == QLatin1String("file") && request.allowsFile)
         return readFile(request.url);

@@ -85,6 +85,42 @@ private:
     FixedClock& m_clock;
 };
 
+/// Runs an update pass to its end. The channels for which nothing came.
+inline std::vector<ObjectId> runPass(VidoraAppDelegate& delegate)
+{
+    struct End final : UpdateObserver
+    {
+        void passStarted(std::size_t) override {}
+        void fetching(const std::vector<ObjectId>&) override {}
+        void delivered(const std::unordered_map<ObjectId, ShowList>&) override {}
+        void passEnded(std::size_t, const std::vector<ObjectId>& missing) override { failed = missing; }
+        std::optional<std::vector<ObjectId>> failed;
+    } end;
+    delegate.setUpdateObserver(&end);
+    delegate.checkAndUpdateAllChannels();
+    DispatchQueue::runMain([&] { return end.failed.has_value(); });
+    delegate.setUpdateObserver(nullptr);
+    return *end.failed;
+}
+
+/// What the store has of a channel, without what is over.
+inline SharedShowList listOf(VidoraAppDelegate& delegate, const ObjectId& channel)
+{
+    SharedShowList result;
+    delegate.listings().cachedListForChannel(channel, QualityOfService::Default,
+                                             [&](SharedShowList list) { result = std::move(list); });
+    DispatchQueue::runMain([&] { return result != nullptr; });
+    return result;
+}
+
+/// Runs what is on the main queue by now.
+inline void settle()
+{
+    bool settled = false;
+    DispatchQueue::main().async([&] { settled = true; });
+    DispatchQueue::runMain([&] { return settled; });
+}
+
 struct TestChannel
 {
     QString id;
@@ -148,27 +184,7 @@ public:
     }
 
     /// Runs a pass to its end.
-    void update()
-    {
-        struct End final : UpdateObserver
-        {
-            void passStarted(std::size_t) override {}
-            void fetching(const std::vector<ObjectId>&) override {}
-            void delivered(const std::unordered_map<ObjectId, ShowList>&) override {}
-            void passEnded(std::size_t, const std::vector<ObjectId>& missing) override
-            {
-                failed = missing;
-                ended = true;
-            }
-            std::vector<ObjectId> failed;
-            bool ended = false;
-        } end;
-        delegate->setUpdateObserver(&end);
-        delegate->checkAndUpdateAllChannels();
-        DispatchQueue::runMain([&] { return end.ended; });
-        delegate->setUpdateObserver(nullptr);
-        failed = end.failed;
-    }
+    void update() { failed = runPass(*delegate); }
 
     /// Commits everything and ends, as at the end of a process.
     void quit()
@@ -180,22 +196,11 @@ public:
 
     QStringList titles(const TestChannel& channel)
     {
-        std::optional<QStringList> result;
-        delegate->listings().cachedListForChannel(ObjectId::initWithHex(channel.id), QualityOfService::Default,
-                                                  [&](SharedShowList list) {
-                                                      result.emplace();
-                                                      for (const Show& show : *list)
-                                                          *result << show->entry->title().value_or(QString());
-                                                  });
-        DispatchQueue::runMain([&] { return result.has_value(); });
-        return *result;
-    }
-
-    static void settle()
-    {
-        bool settled = false;
-        DispatchQueue::main().async([&] { settled = true; });
-        DispatchQueue::runMain([&] { return settled; });
+        const SharedShowList list = listOf(*delegate, ObjectId::initWithHex(channel.id));
+        QStringList titles;
+        for (const Show& show : *list)
+            titles << show->entry->title().value_or(QString());
+        return titles;
     }
 
     void write(const QString& path, const QByteArray& bytes) const

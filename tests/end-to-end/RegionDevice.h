@@ -1,0 +1,123 @@
+#pragma once
+
+#include "platform/NetworkURLSession.h"
+#include "support/SampleRegion.h"
+#include "support/TestDevice.h"
+
+#include <QCryptographicHash>
+
+namespace vidora::test {
+
+/// Does not wait, but lets something happen while the program believes it does.
+class HookedSleeper final : public Sleeper
+{
+public:
+    void sleep(Milliseconds duration) override
+    {
+        slept.push_back(duration);
+        if (onSleep)
+            onSleep();
+    }
+    std::vector<Milliseconds> slept; ///< touched by the pass alone, which is over when a test looks
+    std::function<void()> onSleep;
+};
+
+/// A channel with these sources, in this language.
+struct SourcedChannel
+{
+    QString title;
+    QStringList sources;
+    QString language;
+
+    ObjectId id() const
+    {
+        return ObjectId::initWithData(
+            QCryptographicHash::hash(title.toUtf8(), QCryptographicHash::Sha256).left(ObjectId::length));
+    }
+};
+
+/// A device whose network is real HTTP, to the sample region in this process. Clock, chance and waiting are the test's.
+class RegionDevice
+{
+public:
+    explicit RegionDevice(const std::vector<SourcedChannel>& channels)
+        : m_channels(channels)
+        , m_endpoints(region.endpoints())
+    {
+        const auto folders = StandardFolders::under(m_folder.path());
+        folders.make();
+        QVariantList records;
+        for (const SourcedChannel& channel : channels) {
+            QVariantMap record{{QStringLiteral("Location"), channel.id().hex()},
+                               {QStringLiteral("Title"), channel.title},
+                               {QStringLiteral("Icon"), QStringLiteral("Other/icon.svg")},
+                               {QStringLiteral("Language"), channel.language}};
+            for (qsizetype i = 0; i < channel.sources.size(); ++i)
+                record.insert(QStringLiteral("Location%1").arg(i + 1), channel.sources[i]);
+            records.append(record);
+        }
+        write(QStringLiteral("icon.svg"), "<svg/>");
+        write(QStringLiteral("Data.plist"), writePropertyList(QVariantMap{{QStringLiteral("Channels"), records}}));
+        delegate = std::make_unique<VidoraAppDelegate>(
+            Environment{folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), m_endpoints,
+                        QStringLiteral("vidora"), region.clock, m_random, sleeper, m_network});
+        delegate->applicationDidFinishLaunching();
+        settle();
+        ChannelIds ids;
+        for (const SourcedChannel& channel : channels)
+            ids.push_back(channel.id());
+        delegate->channels().setSelected(ids);
+    }
+
+    /// The titles of the channels for which nothing came.
+    QStringList update(std::initializer_list<const char*> faults = {})
+    {
+        region::Faults read;
+        for (const char* fault : faults)
+            read.push_back(region::Fault::fromText(fault).value());
+        region.server.setFaults(read);
+        region.server.clearRequests();
+        sleeper.slept.clear();
+        QStringList titles;
+        for (const ObjectId& id : runPass(*delegate))
+            for (const SourcedChannel& channel : m_channels)
+                if (channel.id() == id)
+                    titles << channel.title;
+        return titles;
+    }
+
+    ShowList shows(const SourcedChannel& channel) { return *listOf(*delegate, channel.id()); }
+
+    /// What the pass asked the region for: all addresses, or those that begin so.
+    std::vector<std::string> requests(const std::string& prefix = {}) const
+    {
+        std::vector<std::string> found = region.server.requests();
+        std::erase_if(found, [&](const std::string& request) { return request.rfind(prefix, 0) != 0; });
+        return found;
+    }
+
+private:
+    void write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(m_folder.filePath(name));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(bytes);
+    }
+
+    const std::vector<SourcedChannel> m_channels;
+    QTemporaryDir m_folder;
+    ScriptedRandom m_random;
+    NetworkURLSession m_network;
+
+public:
+    testing::SampleRegion region;
+
+private:
+    const Endpoints m_endpoints;
+
+public:
+    HookedSleeper sleeper;
+    std::unique_ptr<VidoraAppDelegate> delegate;
+};
+
+} // namespace vidora::test
