@@ -160,7 +160,7 @@ void UpdateCycle::update(Pass& pass, const URLSet& urls)
 
     PageOutcome last;
     const Pages pages = fetch(urls, last);
-    QString found = QStringLiteral("no page");
+    QString found = QStringLiteral("nothing");
     if (!pages.empty())
         m_services.loadQueue.sync([&] { found = parse(pass, needed, pages); });
     if (Log::enabled())

@@ -62,6 +62,7 @@ void VidoraAppDelegate::applicationDidFinishLaunching()
     if (!m_environment.readOnly)
         m_mainBlocks.async([this] { pruneSelection(); });
     makeStore();
+    readSettings(); // a program that only shows what there is, is never activated
     setup();
     updateBadge();
 }

@@ -41,7 +41,7 @@ PageOutcome outcomeOf(const URLRequest& request, const URLResult& result, bool h
     if (result.error)
         outcome.failure = result.error->description;
     else if (!hasData)
-        outcome.failure = QStringLiteral("nothing");
+        outcome.failure = isSuccess(result.response) ? QStringLiteral("empty") : QStringLiteral("no success");
     else if (!hasPage)
         outcome.failure = QStringLiteral("unknown character set");
     return outcome;

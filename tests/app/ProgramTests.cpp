@@ -46,6 +46,9 @@ TEST(Program, ShowsTheRegionAtFirstStartAndAnswersItsCommands)
     EXPECT_EQ(home.run(words("now|--json")).json()[QLatin1String("channels")].toArray().size(), 12);
     EXPECT_EQ(countOf(home.run(words("channels")).output, "^\\* "), 12);
 
+    Home::write(home.path(utf8("settings/settings.json")), R"({"currently_show_count": "2"})");
+    EXPECT_EQ(countOf(home.run(words("now")).output, "^  \\d\\d:\\d\\d-"), 12 * 2);
+
     const QString oneChannel = home.run(words("channel|bura 1")).output;
     EXPECT_GT(countOf(oneChannel, "^\\S.* 2026$"), 5) << "headings of days";
     EXPECT_TRUE(oneChannel.startsWith(utf8("Sunday, 22 November 2026\n")));
@@ -261,7 +264,7 @@ TEST(Readme, ShowsCommandsThatExist)
 {
     QFile readme(utf8(VIDORA_README));
     ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
-    const QRegularExpression shown(utf8("^\\$ \\./run(.*)$"), QRegularExpression::MultilineOption);
+    const QRegularExpression shown(utf8("^ *\\$ \\./run(.*)$"), QRegularExpression::MultilineOption);
     QStringList names;
     auto matches = shown.globalMatch(QString::fromUtf8(readme.readAll()));
     while (matches.hasNext()) {
