@@ -25,7 +25,9 @@ class GuideImportTest : public ::testing::Test
 protected:
     std::variant<ImportReport, QString> import(const QString& source)
     {
-        return GuideImport(session, catalogue, icons).import(source, [](std::size_t, std::size_t) {});
+        return GuideImport(session, catalogue, icons).import(source, [this](std::size_t, std::size_t) {
+            return !isEnded;
+        });
     }
     void expectRefused(const QString& source, const QString& words)
     {
@@ -39,6 +41,7 @@ protected:
     QString catalogue = folder.filePath(QStringLiteral("documents/Data.plist"));
     QString icons = folder.filePath(QStringLiteral("documents/icons"));
     test::ScriptedSession session;
+    bool isEnded = false;
 };
 
 TEST_F(GuideImportTest, makesACatalogueThatTheProgramKeepsWhole)
@@ -68,6 +71,13 @@ TEST_F(GuideImportTest, makesACatalogueThatTheProgramKeepsWhole)
     EXPECT_EQ(channel("two").title(), QString::fromUtf8("Két csatorna"));
     EXPECT_EQ(channel("two").language(), u"");
     EXPECT_EQ(channel("three").title(), u"three") << "a channel without a name is called by its id";
+}
+
+TEST_F(GuideImportTest, changesNothingWhenItIsEnded)
+{
+    session.answer(address, {200, guide, "text/xml", {}});
+    isEnded = true;
+    expectRefused(address, QStringLiteral("ended"));
 }
 
 TEST_F(GuideImportTest, refusesWhatIsNoGuide)

@@ -148,8 +148,8 @@ TEST_F(TVChannelsTest, theDelegateReachesTheOpenScreensByTheirProtocols)
     device.delegate->recolor();
     device.delegate->favoritesUpdated();
     device.delegate->notificationsSynched();
-    TestDevice::settle();
-    TestDevice::settle();
+    test::settle();
+    test::settle();
     const QStringList home1{QStringLiteral("recolor"), QStringLiteral("recolor")};
     EXPECT_EQ(home->told, home1);
     const QStringList compound1{QStringLiteral("reloadData"), QStringLiteral("reloadData"),
