@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/EventStore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace vidora::testing {
+
+inline Instant moment(const char* text)
+{
+    return *instantFromIsoText(QString::fromLatin1(text));
+}
+
+inline Event broadcast(const Calendar& calendar, const QString& title, Instant start, int minutes = 10)
+{
+    Event event;
+    event.title = title;
+    event.location = QStringLiteral("Lipa 1");
+    const QString address = QStringLiteral("vidora://lipa/%1-%2").arg(title).arg(unixSeconds(start));
+    event.url = URL::fromText(address);
+    event.startDate = start;
+    event.endDate = start + std::chrono::minutes(45);
+    event.calendar = calendar;
+    event.alarms = {EventAlarm::alarmWithRelativeOffset(Seconds(-60 * minutes))};
+    return event;
+}
+
+/// Chance that is the same in each run.
+class SeededRandom final : public Random
+{
+public:
+    explicit SeededRandom(unsigned seed)
+        : m_engine(seed)
+    {
+    }
+    std::uint32_t uniform(std::uint32_t bound) override { return static_cast<std::uint32_t>(m_engine() % bound); }
+
+private:
+    std::mt19937_64 m_engine;
+};
+
+inline void writeRaw(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
+    file.write(bytes);
+}
+
+inline QByteArray readRaw(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// All .ics files of a folder by name.
+inline std::map<QString, QByteArray> filesOf(const QString& folder)
+{
+    std::map<QString, QByteArray> files;
+    for (const QString& name : QDir(folder).entryList({QStringLiteral("*.ics")}, QDir::Files))
+        files[name] = readRaw(folder + QLatin1Char('/') + name);
+    return files;
+}
+
+/// An event as some other program writes it: with what this program doesn't know.
+inline QByteArray foreignEvent(const QByteArray& uid, const QByteArray& start, const QByteArray& more = {})
+{
+    return "BEGIN:VCALENDAR\nVERSION:2.0\nPRODID:-//Other//EN\nX-WR-CALNAME:theirs\nBEGIN:VEVENT\nuid:" + uid +
+           "\nDTSTAMP:20260101T000000Z\nDTSTART:" + start +
+           "\nDURATION:PT1H\nSUMMARY:Dentist\\, \xC3\xA9tage 2\nDESCRIPTION:a long\n  folded line\n" + more +
+           "X-UNKNOWN;X-P=\"a;b\":  kept \nATTENDEE;CN=A:mailto:a@example.org\nEND:VEVENT\nEND:VCALENDAR\n";
+}
+
+/// What an independent calendar program shows of a folder: a line of "start title|place" for each event from 2026-11-22
+/// to the end of the month.
+inline QStringList linesOfKhal(const QString& folder)
+{
+    QTemporaryDir home;
+    const QString conf = home.filePath(QStringLiteral("khal.conf"));
+    writeRaw(conf,
+             "[calendars]\n[[tv]]\npath = " + folder.toUtf8() +
+                 "\n[locale]\nlocal_timezone = UTC\ndefault_timezone = UTC\ntimeformat = %H:%M\n"
+                 "dateformat = %Y-%m-%d\nlongdateformat = %Y-%m-%d\ndatetimeformat = %Y-%m-%d %H:%M\n"
+                 "longdatetimeformat = %Y-%m-%d %H:%M\n[default]\nhighlight_event_days = False\n[sqlite]\npath = " +
+                 home.filePath(QStringLiteral("khal.db")).toUtf8() + "\n");
+    QProcess khal;
+    khal.start(QStringLiteral("khal"), {QStringLiteral("-c"), conf, QStringLiteral("list"), QStringLiteral("--once"),
+                                        QStringLiteral("--day-format"), QString(), QStringLiteral("--format"),
+                                        QStringLiteral("{start-long} {title}|{location}|{alarm-symbol}"),
+                                        QStringLiteral("2026-11-22"), QStringLiteral("8d")});
+    EXPECT_TRUE(khal.waitForFinished(60'000)) << "khal is missing or hangs";
+    EXPECT_EQ(khal.exitCode(), 0) << khal.readAllStandardError().toStdString();
+    return QString::fromUtf8(khal.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace vidora::testing
