@@ -46,38 +46,62 @@ bool keepsShortDescription(QStringView source)
     return std::find(silent.begin(), silent.end(), leadingNumber(source)) == silent.end();
 }
 
-/// False for what the library's reader takes although it is no JSON (RFC 8259): control characters and unknown escapes
-/// in strings, numbers with nothing in front of the point or behind it.
-bool hasStandardTokens(std::string_view json)
+QString stringOf(std::string_view token)
 {
-    const auto isDigit = [json](std::size_t at) { return at < json.size() && json[at] >= '0' && json[at] <= '9'; };
-    bool insideString = false;
-    for (std::size_t i = 0; i < json.size(); ++i) {
-        const char c = json[i];
-        if (c == '"')
-            insideString = !insideString;
-        else if (!insideString && c == '.' && !(isDigit(i - 1) && isDigit(i + 1)))
-            return false;
-        else if (insideString && static_cast<unsigned char>(c) < 0x20)
-            return false;
-        else if (insideString && c == '\\' &&
-                 (++i == json.size() || std::string_view("\"\\/bfnrtu").find(json[i]) == std::string_view::npos))
-            return false;
-    }
-    return true;
+    const QByteArray list = '[' + QByteArray(token.data(), static_cast<qsizetype>(token.size())) + ']';
+    return QJsonDocument::fromJson(list).array().first().toString();
 }
 
-QJsonObject topDictionary(const QString& page)
+/// The keys of the top dictionary as they stand: the library's reader sorts them. Nothing for what that reader takes
+/// although it is no JSON (RFC 8259): control characters and unknown escapes in strings, numbers with nothing in front
+/// of the point or behind it.
+std::optional<QStringList> topKeys(std::string_view json)
+{
+    const auto isDigit = [json](std::size_t at) { return at < json.size() && json[at] >= '0' && json[at] <= '9'; };
+    QStringList keys;
+    bool insideString = false;
+    std::size_t stringAt = 0, stringEnd = 0, depth = 0;
+    for (std::size_t i = 0; i < json.size(); ++i) {
+        const char c = json[i];
+        if (c == '"') {
+            insideString = !insideString;
+            (insideString ? stringAt : stringEnd) = insideString ? i : i + 1;
+        } else if (insideString) {
+            if (static_cast<unsigned char>(c) < 0x20)
+                return std::nullopt;
+            if (c == '\\' &&
+                (++i == json.size() || std::string_view("\"\\/bfnrtu").find(json[i]) == std::string_view::npos))
+                return std::nullopt;
+        } else if (c == '.') {
+            if (!isDigit(i - 1) || !isDigit(i + 1))
+                return std::nullopt;
+        } else if (c == '{' || c == '[') {
+            ++depth;
+        } else if (c == '}' || c == ']') {
+            --depth;
+        } else if (c == ':' && depth == 1) {
+            keys.append(stringOf(json.substr(stringAt, stringEnd - stringAt)));
+        }
+    }
+    keys.removeDuplicates();
+    return keys;
+}
+
+/// The values of the top dictionary in the order of the document.
+QList<QJsonObject> topValues(const QString& page)
 {
     constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
     QByteArray json = page.toUtf8();
-    if (!hasStandardTokens({json.constData(), static_cast<std::size_t>(json.size())}))
-        return {};
     if (json.startsWith(byteOrderMark))
         json.remove(0, 3);
     // The library would drop one at the front of a string, where it is a character like any other.
     json.replace(byteOrderMark, "\\ufeff");
-    return QJsonDocument::fromJson(json).object();
+    const QJsonObject document = QJsonDocument::fromJson(json).object();
+    const auto keys = topKeys({json.constData(), static_cast<std::size_t>(json.size())});
+    QList<QJsonObject> values;
+    for (const QString& key : keys.value_or(QStringList()))
+        values.append(document.value(key).toObject());
+    return values;
 }
 
 class Reader
@@ -170,9 +194,8 @@ void scanPortNetwork(const ScanInput& input, Drafts& drafts)
         throw RangeException("no page");
     const ChannelItem& item = input.items.at(0);
     Reader reader(item, input.endpoints);
-    const QJsonObject document = topDictionary(input.pages.first());
-    for (const QJsonValue value : document)
-        reader.readChannel(value.toObject().value(QLatin1String("channels")).toArray().first().toObject());
+    for (const QJsonObject& value : topValues(input.pages.first()))
+        reader.readChannel(value.value(QLatin1String("channels")).toArray().first().toObject());
     if (!reader.list().empty())
         drafts[item.channel] = std::move(reader.list());
 }

@@ -202,6 +202,22 @@ TEST(ListingParser, ReadsJsonAndNothingLikeIt)
     }
 }
 
+TEST(ListingParser, ReadsDaysOfJsonInTheOrderOfTheDocument)
+{
+    const auto day = [](const char* key, const char* first, const char* second) {
+        return QString::asprintf("\"%s\":{\"x\":\"b\",\"channels\":[{\"programs\":["
+                                 "{\"title\":\"%s\",\"start_datetime\":\"2026-11-22T07:00:00Z\"},"
+                                 "{\"title\":\"%s\",\"start_datetime\":\"2026-11-22T08:00:00Z\"}]}]}",
+                                 key, first, second);
+    };
+    Parse parse;
+    const QString page = QStringLiteral("{\"x\":\"a\",%1,%2,%3}")
+                             .arg(day("b", "No information", "first"), day("a\\\"", "No information", "second"),
+                                  day("\\u0061", "No information", "third"));
+    const auto result = parse.run(0, {Page::fromText(page)}, "12");
+    EXPECT_EQ(lines(*result.at(parse.channel)), "No information 07:00-?\nfirst 08:00-?\n");
+}
+
 TEST(ListingParser, ExceptionsEndUpWhereTheyShould)
 {
     // A time cut off by the end of the page.
