@@ -44,7 +44,10 @@ void print(const QJsonObject& object)
 QJsonObject answerLine(const std::string& line, const Surroundings& surroundings)
 {
     try {
-        const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(line));
+        QByteArray json = QByteArray::fromStdString(line);
+        // The library drops a U+FEFF at the front of a string, where it is a character like any other.
+        json.replace("\"\xEF\xBB\xBF", "\"\\ufeff");
+        const QJsonDocument document = QJsonDocument::fromJson(json);
         if (!document.isObject())
             throw UnusableRequest(QStringLiteral("the line is no JSON object"));
         return answer(Request(document.object()), surroundings);

@@ -90,12 +90,9 @@ std::optional<QStringList> topKeys(std::string_view json)
 /// The values of the top dictionary in the order of the document.
 QList<QJsonObject> topValues(const QString& page)
 {
-    constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
     QByteArray json = page.toUtf8();
-    if (json.startsWith(byteOrderMark))
-        json.remove(0, 3);
-    // The library would drop one at the front of a string, where it is a character like any other.
-    json.replace(byteOrderMark, "\\ufeff");
+    // The library drops a U+FEFF at the front of a string, where it is a character like any other.
+    json.replace("\"\xEF\xBB\xBF", "\"\\ufeff");
     const QJsonObject document = QJsonDocument::fromJson(json).object();
     const auto keys = topKeys({json.constData(), static_cast<std::size_t>(json.size())});
     QList<QJsonObject> values;
