@@ -354,8 +354,9 @@ int runCommand(const CommandLine& line)
     DispatchQueue::main().async([&] { launched = true; });
     DispatchQueue::runMain([&] { return launched; });
 
-    const int status =
-        line.command == QLatin1String("import") ? importGuide(line, device) : CommandRun(line, device).run();
+    int status = 1;
+    if (!changes(line.command) || fetches(line.command) || device.keepsChanges())
+        status = line.command == QLatin1String("import") ? importGuide(line, device) : CommandRun(line, device).run();
     device.quit();
     // What a shell reports of a process that a signal ended.
     constexpr int endedBySignal = 128;

@@ -79,6 +79,9 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
     lockHome(access);
     const bool own = hasOwnGuide();
     const auto guide = own ? GuideImport::addressOfCatalogue(ownCatalogue(m_folders)) : std::nullopt;
+    if (own && !guide)
+        say(QCoreApplication::translate("vidora",
+                                        "The catalogue of your guide can't be read; import the guide again."));
     m_guideSession = std::make_unique<OwnGuideSession>(m_network, guide);
     m_delegate = std::make_unique<VidoraAppDelegate>(
         Environment{m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
@@ -96,6 +99,9 @@ void Device::lockHome(Access access)
     m_lock = std::make_unique<HomeLock>(m_folders.documents);
     if (m_lock->outcome() == HomeLock::Outcome::First)
         removeLeftovers(m_folders);
+    if (m_lock->outcome() == HomeLock::Outcome::Unavailable && access == Access::Write)
+        say(QCoreApplication::translate("vidora", "%1 can't be written: nothing will be kept.")
+                .arg(m_folders.documents));
     if (m_lock->outcome() != HomeLock::Outcome::Second)
         return;
     const QString holder = m_lock->holder() ? QString::number(*m_lock->holder()) : QStringLiteral("?");

@@ -38,6 +38,8 @@ public:
     /// The network as it is; the delegate's own treats the imported guide apart.
     URLSession& network() { return m_network; }
     bool hasOwnGuide() const;
+    /// Whether what a command changes can be kept.
+    bool keepsChanges() const { return m_lock->outcome() == HomeLock::Outcome::First; }
     /// The signal that asked the process to end, 0 without one. What fetches or waits then fails at once, so that a
     /// command comes to its end by itself. Any thread.
     int endSignal() const { return m_endSignal; }

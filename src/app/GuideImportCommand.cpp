@@ -20,10 +20,11 @@ QString translated(const char* text)
     return QCoreApplication::translate("vidora", text);
 }
 
-void showIconProgress(std::size_t done, std::size_t of)
+// One line on a terminal that the next one takes the place of.
+void showProgress(const QString& text)
 {
     if (isatty(STDERR_FILENO) == 1)
-        std::fprintf(stderr, done == of ? "\r\x1b[K" : "\r\x1b[Kicons: %zu of %zu", done, of);
+        std::fprintf(stderr, "\r\x1b[K%s", text.toUtf8().constData());
 }
 
 // The lists of an earlier guide stay in sight until the next update, which replaces them however young they are.
@@ -90,14 +91,16 @@ int importGuide(const CommandLine& line, Device& device)
     const GuideImport guideImport(device.network(), Device::ownCatalogue(device.folders()),
                                   Device::ownIcons(device.folders()));
     std::optional<std::variant<ImportReport, QString>> outcome;
+    showProgress(translated("reading %1").arg(line.arguments.front()));
     DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
         auto made = guideImport.import(line.arguments.front(), [&](std::size_t done, std::size_t of) {
-            showIconProgress(done, of);
+            showProgress(translated("icons: %1 of %2").arg(done).arg(of));
             return !device.isEnding();
         });
         DispatchQueue::main().async([&, made = std::move(made)]() mutable { outcome = std::move(made); });
     });
     DispatchQueue::runMain([&] { return outcome.has_value(); });
+    showProgress({});
 
     if (const auto* message = std::get_if<QString>(&*outcome)) {
         std::fprintf(stderr, "%s\n", message->toUtf8().constData());

@@ -89,6 +89,19 @@ TEST(Program, NamesTheCandidatesForAnUnclearName)
     EXPECT_EQ(countOf(home.run(words("channels")).output, "^\\* "), 0) << "an unclear name changes nothing";
 }
 
+TEST(Program, SaysWhatItCannotKeepOrRead)
+{
+    const Home home;
+    const QString occupied = home.file(utf8("file"), "no folder");
+    for (const char* command : {"select|golya", "import|guide.xml"}) {
+        const Ended refused = home.run(words(command) + QStringList{utf8("--home"), occupied});
+        EXPECT_EQ(refused.status, 1) << command;
+        EXPECT_THAT(refused.errors.toStdString(), HasSubstr("can't be written")) << command;
+    }
+    Home::write(home.path(utf8("documents/Data.plist")), "garbage");
+    EXPECT_THAT(home.run(words("now")).errors.toStdString(), HasSubstr("import the guide again"));
+}
+
 QByteArray fetched(const std::string& address)
 {
     NetworkURLSession session;
