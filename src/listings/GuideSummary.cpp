@@ -1,8 +1,8 @@
 #include "listings/GuideSummary.h"
 
 #include "listings/PageStream.h"
-#include "listings/XMLEventStream.h"
 #include "listings/XMLTVToEntries.h"
+#include "platform/XMLEventStream.h"
 
 #include <cstring>
 #include <set>

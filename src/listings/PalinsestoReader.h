@@ -2,8 +2,8 @@
 
 #include "content/ShowElement.h"
 #include "listings/DateFormatter.h"
-#include "listings/XMLEventStream.h"
 #include "platform/DeviceSettings.h"
+#include "platform/XMLEventStream.h"
 
 #include <optional>
 #include <string>

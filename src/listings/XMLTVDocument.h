@@ -1,7 +1,7 @@
 #pragma once
 
-#include "listings/XMLEventStream.h"
 #include "listings/XMLTVEntryFinishing.h"
+#include "platform/XMLEventStream.h"
 
 #include <QStringList>
 

@@ -10,6 +10,8 @@ CachedURLSession::CachedURLSession(URLSession& network, URLCache& cache)
 
 URLResult CachedURLSession::perform(const URLRequest& request)
 {
+    if (request.httpMethod != "GET" || request.httpBody || request.credentials)
+        return m_network.perform(request);
     if (auto entry = m_cache.cachedResponseForRequest(request)) {
         entry->response.fromCache = true;
         return {std::move(entry->data), std::move(entry->response), std::nullopt};

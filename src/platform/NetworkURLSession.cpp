@@ -90,6 +90,7 @@ public:
     void wakeUp() { curl_multi_wakeup(m_multi); }
 
 private:
+    void setUp(const URLRequest& request);
     QString wait(const URLRequest& request, const std::atomic<bool>& cancelled);
     static std::size_t bodyArrived(char* bytes, std::size_t, std::size_t size, void* self);
     static std::size_t headerArrived(char* bytes, std::size_t, std::size_t size, void* self);
@@ -134,6 +135,7 @@ URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 max
     const HeaderList headers(request.headerFields);
     curl_easy_setopt(m_easy, CURLOPT_URL, request.url.text().toUtf8().constData());
     curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers.list);
+    setUp(request);
     curl_multi_add_handle(m_multi, m_easy);
     const QString error = wait(request, cancelled);
     curl_multi_remove_handle(m_multi, m_easy);
@@ -148,6 +150,28 @@ URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 max
         result.error = URLError{error, {}, {}};
     m_body = {};
     return result;
+}
+
+/// Method, body and credentials; the handle still has those of the request before.
+void NetworkURLSession::Transfer::setUp(const URLRequest& request)
+{
+    curl_easy_setopt(m_easy, CURLOPT_HTTPGET, 1L);
+    if (request.httpBody) {
+        curl_easy_setopt(m_easy, CURLOPT_POST, 1L);
+        curl_easy_setopt(m_easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.httpBody->size()));
+        curl_easy_setopt(m_easy, CURLOPT_POSTFIELDS, request.httpBody->constData());
+    }
+    const bool plain = request.httpMethod == "GET" && !request.httpBody;
+    curl_easy_setopt(m_easy, CURLOPT_CUSTOMREQUEST, plain ? nullptr : request.httpMethod.constData());
+
+    curl_easy_setopt(m_easy, CURLOPT_USERNAME, nullptr);
+    curl_easy_setopt(m_easy, CURLOPT_PASSWORD, nullptr);
+    if (request.credentials) {
+        const bool digest = request.credentials->authentication == URLAuthentication::Digest;
+        curl_easy_setopt(m_easy, CURLOPT_HTTPAUTH, digest ? CURLAUTH_DIGEST : CURLAUTH_BASIC);
+        curl_easy_setopt(m_easy, CURLOPT_USERNAME, request.credentials->user.toUtf8().constData());
+        curl_easy_setopt(m_easy, CURLOPT_PASSWORD, request.credentials->password.toUtf8().constData());
+    }
 }
 
 /// Drives the transfer to its end. A null text for a whole response, else what went wrong.

@@ -12,7 +12,21 @@ enum class CachePolicy
     ReturnCacheDataDontLoad = 3  ///< what is in the cache or nothing
 };
 
-/// One GET request. A value; the caller may change and repeat it.
+/// How a request proves who sends it (RFC 7617, RFC 7616).
+enum class URLAuthentication
+{
+    Basic,
+    Digest
+};
+
+struct URLCredentials
+{
+    QString user;
+    QString password;
+    URLAuthentication authentication = URLAuthentication::Basic;
+};
+
+/// One request, of the method GET unless told otherwise. A value; the caller may change and repeat it.
 struct URLRequest
 {
     explicit URLRequest(URL address)
@@ -27,6 +41,11 @@ struct URLRequest
     /// The longest time for all of it.
     Milliseconds timeoutIntervalForResource{60'000};
     HeaderFields headerFields;
+    /// Requests of another method, with a body or with credentials never touch a cache.
+    QByteArray httpMethod = "GET";
+    std::optional<QByteArray> httpBody;
+    /// Sent to the host of this request alone, in no log and no other process's sight.
+    std::optional<URLCredentials> credentials;
     /// Whether a "file:" address may be read: for the user's own guide alone, never for an address that came out of a
     /// document, a catalogue or a redirect.
     bool allowsFile = false;

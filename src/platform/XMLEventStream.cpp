@@ -1,4 +1,4 @@
-#include "listings/XMLEventStream.h"
+#include "platform/XMLEventStream.h"
 
 #include <expat.h>
 #include <new>
