@@ -1,5 +1,6 @@
 #include "listings/GuideSummary.h"
 
+#include "content/Utf8Text.h"
 #include "listings/PageStream.h"
 #include "listings/XMLTVToEntries.h"
 #include "platform/XMLEventStream.h"
@@ -58,7 +59,7 @@ private:
         else if (m_channel && name == "display-name")
             startName(attributes);
         else if (m_channel && name == "icon" && !m_channel->icon && !attribute(attributes, "src").empty())
-            m_channel->icon = textFromXML(attribute(attributes, "src"));
+            m_channel->icon = textFromUtf8(attribute(attributes, "src"));
         m_stream.setTextWanted(m_insideName);
     }
 
@@ -72,7 +73,7 @@ private:
     {
         --m_depth;
         if (m_insideName && name == "display-name") {
-            const QString title = textFromXML(m_name).simplified();
+            const QString title = textFromUtf8(m_name).simplified();
             if (!title.isEmpty())
                 m_channel->displayNames << title;
             m_insideName = false;
@@ -86,7 +87,7 @@ private:
 
     void startChannel(const char* const* attributes)
     {
-        const QString id = textFromXML(attribute(attributes, "id"));
+        const QString id = textFromUtf8(attribute(attributes, "id"));
         if (id.isEmpty())
             ++m_summary.channelsWithoutId;
         else if (m_byId.contains(id))
@@ -98,20 +99,20 @@ private:
     void startName(const char* const* attributes)
     {
         if (m_channel->displayNames.isEmpty())
-            m_channel->language = textFromXML(attribute(attributes, "lang"));
+            m_channel->language = textFromUtf8(attribute(attributes, "lang"));
         m_name.clear();
         m_insideName = true;
     }
 
     void startProgramme(const char* const* attributes)
     {
-        const auto start = xmltvDate(textFromXML(attribute(attributes, "start")));
-        const auto stop = xmltvDate(textFromXML(attribute(attributes, "stop")));
+        const auto start = xmltvDate(textFromUtf8(attribute(attributes, "start")));
+        const auto stop = xmltvDate(textFromUtf8(attribute(attributes, "stop")));
         if (!start || !stop) {
             ++m_summary.programmesWithoutTimes;
             return;
         }
-        const QString id = textFromXML(attribute(attributes, "channel"));
+        const QString id = textFromUtf8(attribute(attributes, "channel"));
         const auto channel = m_byId.find(id);
         m_days.insert(std::chrono::floor<std::chrono::days>(*start));
         if (channel != m_byId.end()) {

@@ -2,6 +2,7 @@
 
 #include "content/TVListingsCategory.h"
 #include "content/TitleCase.h"
+#include "content/Utf8Text.h"
 #include "listings/PageScanner.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ std::optional<QString> attribute(const char* const* attributes, std::string_view
 {
     for (; *attributes; attributes += 2) {
         if (name == attributes[0])
-            return textFromXML(attributes[1]);
+            return textFromUtf8(attributes[1]);
     }
     return std::nullopt;
 }
@@ -210,7 +211,7 @@ void PalinsestoReader::text(std::string_view piece)
 void PalinsestoReader::endElement(std::string_view name)
 {
     if (m_text && name == m_field && *m_text != "--")
-        endField(name, textFromXML(*m_text));
+        endField(name, textFromUtf8(*m_text));
     m_text.reset();
 }
 

@@ -1,5 +1,6 @@
 #include "listings/XMLTVDocument.h"
 
+#include "content/Utf8Text.h"
 #include "listings/XMLTVDate.h"
 
 #include <cstring>
@@ -89,7 +90,7 @@ void XMLTVDocument::Text::clear()
 
 std::optional<QString> XMLTVDocument::Text::toString() const
 {
-    return isSet ? std::optional{textFromXML(utf8)} : std::nullopt;
+    return isSet ? std::optional{textFromUtf8(utf8)} : std::nullopt;
 }
 
 XMLTVDocument::XMLTVDocument(const XMLTVSelection& selection, Receiver receiver)
@@ -146,7 +147,7 @@ void XMLTVDocument::startProgramme(const char* const* attributes)
         return;
     if (m_sourceId.isNull() || m_channel != channel) {
         m_channel = channel;
-        m_sourceId = textFromXML(m_channel);
+        m_sourceId = textFromUtf8(m_channel);
     }
     m_hasEntry = true;
     m_programme.sourceId = m_sourceId;
@@ -169,7 +170,7 @@ void XMLTVDocument::startChild(std::string_view name, const char* const* attribu
         m_programme.categories |= category::series;
     } else if (name == "icon") {
         if (const char* source = attribute(attributes, "src"))
-            m_programme.icon = URL::fromText(textFromXML(source));
+            m_programme.icon = URL::fromText(textFromUtf8(source));
     }
 }
 
@@ -201,7 +202,7 @@ void XMLTVDocument::text(std::string_view piece)
         break;
     case Inside::Image:
         if (m_selection.pictureAddress())
-            m_programme.icon = URL::fromText(QString{*m_selection.pictureAddress() + textFromXML(piece)});
+            m_programme.icon = URL::fromText(QString{*m_selection.pictureAddress() + textFromUtf8(piece)});
         break;
     case Inside::Nothing:
     case Inside::Programme:

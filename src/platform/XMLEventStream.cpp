@@ -17,14 +17,6 @@ constexpr std::size_t feedLength = 256 * 1024;
 
 } // namespace
 
-QString textFromXML(std::string_view utf8)
-{
-    QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    if (utf8.substr(0, 3) == "\xEF\xBB\xBF")
-        text.prepend(QChar::ByteOrderMark);
-    return text;
-}
-
 struct XMLEventStream::Handlers
 {
     static XMLEventStream& stream(void* user) { return *static_cast<XMLEventStream*>(user); }

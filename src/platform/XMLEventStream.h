@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -24,10 +22,6 @@ public:
     virtual void text(std::string_view piece) = 0;
     virtual void endElement(std::string_view name) = 0;
 };
-
-/// A text or an attribute of a document as UTF-16, whole: one that begins with U+FEFF keeps it, which the library's own
-/// conversion takes for a byte order mark.
-QString textFromXML(std::string_view utf8);
 
 /// A non-validating XML 1.0 reader that is fed bytes as they arrive. The bytes are UTF-8, whatever the document
 /// declares, and end at their first zero byte. Names are qualified names. Nothing outside the document is ever read:

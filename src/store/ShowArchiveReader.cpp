@@ -1,5 +1,6 @@
 #include "store/ShowArchiveReader.h"
 
+#include "content/Utf8Text.h"
 #include "store/ShowArchive.h"
 
 namespace vidora {
@@ -240,7 +241,7 @@ std::optional<QString> ShowArchiveReader::readText()
         return std::nullopt;
     }
     const std::string_view bytes = readStringBytes();
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    return textFromUtf8(bytes);
 }
 
 std::optional<QString> ShowArchiveReader::readRepeatedText(RepeatedText& last)
@@ -253,7 +254,7 @@ std::optional<QString> ShowArchiveReader::readRepeatedText(RepeatedText& last)
     const auto size = static_cast<qsizetype>(bytes.size());
     if (last.text.isNull() || last.bytes != QByteArray::fromRawData(bytes.data(), size)) {
         last.bytes = QByteArray(bytes.data(), size);
-        last.text = QString::fromUtf8(bytes.data(), size);
+        last.text = textFromUtf8(bytes);
     }
     return last.text;
 }

@@ -13,7 +13,7 @@ ShowDraft fullDraft()
     ShowDraft draft = TestShow{QStringLiteral("Dr\u0161ka \U0001f4fa"), 0, 60, 0xffffffffu}.draft(channelId(7));
     draft.entry->setSourceId(QStringLiteral("tvpc.rts1"));
     draft.entry->setLanguage(QStringLiteral("sr"));
-    draft.entry->setInstantDetails1(QStringLiteral("film, 1999"));
+    draft.entry->setInstantDetails1(QStringLiteral("\ufefffilm, 1999"));
     draft.entry->setSubtitle1(QString());
     draft.entry->setInstantDescription1(QString(5000, QChar(0x10d)));
     draft.entry->setUrl(URL::fromText(u"http://example.org/a b?\u010d"));
