@@ -98,7 +98,7 @@ FoldedText::FoldedText(QStringView text)
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t unit = table[text[i].unicode()];
         if (unit == droppedUnit) {
-            if (m_origins.empty())
+            if (count == i) // the first one that goes: until here each unit stood at its own place
                 for (qsizetype earlier = 0; earlier < i; ++earlier)
                     m_origins.push_back(earlier);
             continue;

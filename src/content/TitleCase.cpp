@@ -50,6 +50,14 @@ bool hasPlainLetters(const QLocale& locale)
     return locale.language() != QLocale::Turkish && locale.language() != QLocale::Azerbaijani;
 }
 
+/// End of the marks that stand from a place on.
+qsizetype endOfMarks(QStringView text, qsizetype at)
+{
+    while (at < text.size() && QChar::isMark(codePointAt(text, at)))
+        at += unitsOf(codePointAt(text, at));
+    return at;
+}
+
 QString capitalizedWord(QStringView word, const QLocale& locale)
 {
     const auto isAscii = [](QChar unit) { return unit.unicode() < 0x80; };
@@ -61,11 +69,13 @@ QString capitalizedWord(QStringView word, const QLocale& locale)
         return plain;
     }
     const char32_t first = codePointAt(word, 0);
-    const QStringView initial = word.left(unitsOf(first));
+    const qsizetype letter = unitsOf(first);
+    const qsizetype initial = endOfMarks(word, letter); // a letter and its mark may have one small form together
     // The whole word is lowered, since a letter's small form may depend on the letters ahead of it.
     const QString small = locale.toLower(word.toString());
     QString result = QStringView(QChar::fromUcs4(QChar::toTitleCase(first))).toString();
-    return result += QStringView(small).mid(locale.toLower(initial.toString()).size());
+    result += word.mid(letter, initial - letter);
+    return result += QStringView(small).mid(locale.toLower(word.left(initial).toString()).size());
 }
 
 } // namespace

@@ -76,14 +76,13 @@ Arguments readArguments(const QStringList& arguments)
         if (equals < 0 && ++i >= arguments.size())
             throw UnusableRequest(QStringLiteral("%1 needs a value").arg(argument));
         const QString value = equals < 0 ? arguments[i] : argument.mid(equals + 1);
-        const bool isOwnOption = !result.request.contains(QStringLiteral("command"));
-        if (isOwnOption && name == QLatin1String("clock")) {
+        if (name == QLatin1String("clock")) {
             result.clock = instantFromIsoText(value);
             if (!result.clock)
                 throw UnusableRequest(QStringLiteral("--clock takes a time such as 2026-11-22T19:00:00Z"));
-        } else if (isOwnOption && name == QLatin1String("endpoints")) {
+        } else if (name == QLatin1String("endpoints")) {
             result.endpointsFile = value;
-        } else if (isOwnOption && name == QLatin1String("icons")) {
+        } else if (name == QLatin1String("icons")) {
             result.iconFolder = value;
         } else {
             addField(result.request, name, value);

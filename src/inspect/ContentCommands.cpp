@@ -33,10 +33,13 @@ QJsonObject objectId(const Request& request, const Surroundings&)
 
 QJsonObject classify(const Request& request, const Surroundings&)
 {
-    const TVListingsCategory mask =
-        categoryMaskForTexts(request.optionalText("sourceId"), request.optionalText("details"),
-                             request.optionalText("title"), request.optionalText("description"));
-    return {{QStringLiteral("mask"), maskValue(mask)}};
+    TVEntry entry;
+    entry.setSourceId(request.optionalText("sourceId"));
+    entry.setInstantDetails1(request.optionalText("details"));
+    if (const auto title = request.optionalText("title"))
+        entry.setIdentificator(*title);
+    entry.setInstantDescription1(request.optionalText("description"));
+    return {{QStringLiteral("mask"), maskValue(categoryMaskForEntry(entry))}};
 }
 
 QJsonObject categoryText(const Request& request, const Surroundings&)
@@ -52,7 +55,7 @@ QJsonObject hasWord(const Request& request, const Surroundings&)
 
 QJsonObject label(const Request& request, const Surroundings&)
 {
-    const auto value = static_cast<std::int32_t>(static_cast<std::int64_t>(request.number("value")));
+    const auto value = static_cast<std::int32_t>(request.wholeNumber("value"));
     return {{QStringLiteral("label"), textForCategory(value)}};
 }
 

@@ -154,12 +154,12 @@ QJsonObject parse(const Request& request, const Surroundings& surroundings)
         pages.push_back(pageOfFile(path));
     for (const QString& text : request.texts("pageTexts"))
         pages.push_back(Page::fromText(text));
-    const double type = request.number("type");
+    const auto type = static_cast<std::uint32_t>(request.wholeNumber("type"));
     const Instant now = request.instant("now");
 
     StoredChannels stored;
     ListingParser parser(surroundings.clock, surroundings.endpoints, stored);
-    const auto result = parser.netList(items, pages, now, static_cast<std::uint32_t>(static_cast<std::int64_t>(type)));
+    const auto result = parser.netList(items, pages, now, type);
     return {{QStringLiteral("channels"), listsToJson(result)}, {QStringLiteral("stored"), stored.channels()}};
 }
 

@@ -2,6 +2,8 @@
 
 #include <QJsonArray>
 
+#include <cmath>
+
 namespace vidora::inspect {
 
 namespace {
@@ -46,6 +48,15 @@ double Request::number(const char* field) const
     if (!value(field).isDouble())
         fail(field, has(field) ? "a number is wanted" : "is missing");
     return value(field).toDouble();
+}
+
+std::int64_t Request::wholeNumber(const char* field) const
+{
+    constexpr double limit = 9'007'199'254'740'992; // up to here a JSON number is exact
+    const double number = this->number(field);
+    if (!(std::abs(number) <= limit) || number != std::trunc(number))
+        fail(field, "a whole number is wanted");
+    return static_cast<std::int64_t>(number);
 }
 
 bool Request::flag(const char* field) const

@@ -38,6 +38,7 @@ public:
     QString text(const char* field) const;
     std::optional<QString> optionalText(const char* field) const;
     double number(const char* field) const;
+    std::int64_t wholeNumber(const char* field) const;
     bool flag(const char* field) const;
     Instant instant(const char* field) const;
     ObjectId id(const char* field) const;

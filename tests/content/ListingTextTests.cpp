@@ -58,6 +58,7 @@ TEST(ListingText, Titles)
     }
     const LocaleScope turkish("tr_TR");
     EXPECT_EQ(utf8(showTitle(QStringLiteral("ISPIT İZBOR SIRI"))), "Ispıt İzbor Sırı");
+    EXPECT_EQ(utf8(showTitle(QStringLiteral("I\u0307ZBOR"))), "I\u0307zbor"); // the initial keeps its mark
 }
 
 TEST(ListingText, Labels)
