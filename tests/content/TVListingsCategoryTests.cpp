@@ -49,7 +49,7 @@ TEST(EntryTextHasWord, TheFirstOccurrenceStandsAlone)
         {u"finale\u0301\u2013", u"finale", false},
         {u"finale\u0301x", u"finale", false},
         {u"fi\u0301lm", u"film", true},
-        {u"\u0301film", u"film", true}, // a mark on its own is no letter
+        {u"\u0301film", u"film", true},            // a mark on its own is no letter
         {u"\u0301\u0301film, SAD", u"film", true}, // nor do several shift the boundary
         {u"fussball", u"fußball", false},
         {u"FUßBALL", u"fußball", true},
