@@ -151,10 +151,12 @@ private:
 std::optional<GuideSummary> readGuideSummary(const Page& page)
 {
     SummaryReader reader;
-    const Page::Outcome outcome = readUtf8Ahead(page, [&](std::string_view bytes) {
+    const auto feed = [&](std::string_view bytes) {
         reader.feed(bytes);
         return true;
-    });
+    };
+    // The user is waiting for it.
+    const Page::Outcome outcome = readUtf8Ahead(page, feed, QualityOfService::UserInitiated);
     if (outcome != Page::Outcome::Complete)
         return std::nullopt;
     return reader.finish();

@@ -117,12 +117,12 @@ void decode(const Page& page, BufferRing& ring) noexcept
 
 } // namespace
 
-Page::Outcome readUtf8Ahead(const Page& page, const Page::Sink& sink)
+Page::Outcome readUtf8Ahead(const Page& page, const Page::Sink& sink, QualityOfService quality)
 {
     if (page.wireSize() < wireSizeWorthAThread)
         return page.readUtf8(sink);
     BufferRing ring;
-    DispatchQueue::global(QualityOfService::Utility).async([&page, &ring] { decode(page, ring); });
+    DispatchQueue::global(quality).async([&page, &ring] { decode(page, ring); });
     std::exception_ptr exception;
     try {
         while (const std::string* buffer = ring.bufferToRead()) {
