@@ -78,11 +78,19 @@ UpdateCycle::UpdateCycle(Services services, UpdateObserver& observer)
 {
 }
 
+UpdateCycle::~UpdateCycle()
+{
+    m_passes.wait();
+}
+
 void UpdateCycle::checkAndUpdateAllChannels()
 {
-    m_services.listings.showCountForSelectedChannelsForQueue(
-        m_services.checkAndUpdateAllChannelsQueue,
-        [this](const std::unordered_map<ObjectId, int>& counts) { run(counts); });
+    m_passes.enter();
+    m_services.listings.showCountForSelectedChannelsForQueue(m_services.checkAndUpdateAllChannelsQueue,
+                                                             [this](const std::unordered_map<ObjectId, int>& counts) {
+                                                                 run(counts);
+                                                                 m_passes.leave();
+                                                             });
 }
 
 void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)

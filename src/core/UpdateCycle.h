@@ -61,6 +61,10 @@ public:
     };
 
     UpdateCycle(Services services, UpdateObserver& observer);
+    /// Waits for the passes that were asked for. Main thread.
+    ~UpdateCycle();
+    UpdateCycle(const UpdateCycle&) = delete;
+    UpdateCycle& operator=(const UpdateCycle&) = delete;
 
     /// Starts a pass and returns at once. Passes never overlap: a second one waits and finds little to do. Main thread.
     void checkAndUpdateAllChannels();
@@ -91,6 +95,7 @@ private:
     const Services m_services;
     UpdateObserver& m_observer;
     BlockOwner m_mainBlocks;
+    DispatchGroup m_passes; ///< asked for and not over yet
     Application::BackgroundTaskIdentifier m_listingsUpdateTask = Application::backgroundTaskInvalid;
 };
 

@@ -47,8 +47,7 @@ VidoraAppDelegate::~VidoraAppDelegate()
 {
     // A pass that is still running refers to everything here, and must not wait for a screen.
     m_loadPauses.endAll();
-    if (m_checkAndUpdateAllChannelsQueue)
-        m_checkAndUpdateAllChannelsQueue->sync([] {});
+    m_updateCycle.reset();
 }
 
 void VidoraAppDelegate::applicationDidFinishLaunching()
