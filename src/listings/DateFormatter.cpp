@@ -177,11 +177,12 @@ std::optional<Fields> read(QStringView format, QStringView text)
                 return std::nullopt;
             abuts = false;
         } else {
-            const bool fixed = abuts || pieces.numberFollows();
-            if (!fixed)
+            const bool ahead = pieces.numberFollows();
+            const bool bounded = abuts || ahead;
+            if (!bounded)
                 reader.skipBlanks();
-            const auto value = fixed ? reader.number(piece->length, piece->length)
-                                     : reader.number(1, std::numeric_limits<qsizetype>::max());
+            const auto value = reader.number(ahead ? piece->length : 1,
+                                             bounded ? piece->length : std::numeric_limits<qsizetype>::max());
             if (!value || !assign(fields, piece->letter, *value))
                 return std::nullopt;
             abuts = true;

@@ -16,8 +16,8 @@ namespace vidora {
 ///
 /// Reading is strict: the whole text must fit, every field must be in its range and the day must exist. A number may
 /// have fewer or more digits than its field, or blanks in front, unless it abuts another number: then it has exactly
-/// as many digits as its field. The year is taken as written. A time that the clocks skip counts by the offset ahead
-/// of the change; one that occurs twice is the later one.
+/// as many digits as its field, or fewer where it is the last of them. The year is taken as written. A time that the
+/// clocks skip counts by the offset ahead of the change; one that occurs twice is the later one.
 ///
 /// Digits are read by hand, and the offset of a day is looked up once. An object belongs to one thread.
 class DateFormatter
