@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/CalDAVClient.h"
+#include "platform/CalDAVMirror.h"
+#include "platform/FolderEventStore.h"
+
+namespace vidora {
+
+/// The calendars of an account on a CalDAV server (RFC 4791), by way of a folder on this machine that mirrors them.
+///
+/// Reads answer from the mirror. `commit` makes a change durable there, together with the order to send it, and sends
+/// it then, and again at each later `commit` and refresh until the server has it: without a network nothing is lost,
+/// and several changes of one event go as one. `refreshSourcesIfNecessary` brings in what others did, at most once in
+/// `refreshInterval`: one request for all calendars and two for each that changed. After a failure the server is left
+/// alone for `pauseAfterFailure`.
+///
+/// Nothing is sent but events that this program saved or removed, each on the condition that the server still has the
+/// version the change was made to. Where it has another one, that one stays and comes into the mirror: the user, who
+/// changed it elsewhere, is right. An answer that got lost is recognised when the change is sent again.
+class CalDAVEventStore final : public EventStore
+{
+public:
+    static constexpr Seconds refreshInterval{60};
+    static constexpr Seconds pauseAfterFailure{60};
+    static constexpr Seconds pauseAfterRefusal{15 * 60}; ///< servers lock out who keeps giving a wrong password
+
+    /// `folder`: of the mirror, this account's alone. What is passed by reference must outlive the store; the session
+    /// should bound its bodies.
+    CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session, const Clock& clock,
+                     Random& random, Sleeper& sleeper);
+
+    /// Asks the server now, whatever was asked when: to test an account. Nothing on success.
+    std::optional<EventStoreError> refresh();
+    /// How many changes wait for the server.
+    int unsentChanges();
+    int requestCount() const { return m_client.requestCount(); }
+
+    AuthorizationStatus authorizationStatusForEntityType(EntityType type) const override;
+    void requestAccessToEntityType(EntityType type, const Completion& completion) override;
+    void reset() override;
+    void refreshSourcesIfNecessary() override;
+    std::vector<Calendar> calendarsForEntityType(EntityType type) override;
+    std::optional<Calendar> calendarWithIdentifier(const QString& identifier) override;
+    std::optional<Calendar> defaultCalendarForNewEvents() override;
+    std::vector<Event> eventsMatchingPredicate(const EventPredicate& predicate) override;
+    std::optional<Event> eventWithIdentifier(const QString& identifier) override;
+    using EventStore::saveEvent;
+    std::optional<EventStoreError> saveEvent(Event& event, EventSpan span, bool commit) override;
+    std::optional<EventStoreError> removeEvent(const Event& event, EventSpan span, bool commit) override;
+    std::optional<EventStoreError> commit() override;
+
+private:
+    using Outcome = CalDAVClient::Outcome;
+
+    QString folderOf(const QString& calendar) const;
+    QString fileOf(const QString& calendar, const QString& name) const;
+    QStringList mirrored() const;
+    CalDAVMirror& mirror(const QString& calendar);
+    bool noteFailure(Outcome outcome);
+    bool mayAsk() const;
+    std::optional<EventStoreError> write();
+    bool findHome();
+    bool refreshAll();
+    bool takeCalendars(const std::vector<CalDAVClient::RemoteCalendar>& calendars);
+    bool pull(const QString& calendar, const CalDAVClient::RemoteCalendar& remote);
+    bool bring(CalDAVMirror& mirror, const QString& calendar, const std::vector<CalDAVClient::RemoteEvent>& wanted);
+    void keep(CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event);
+    void forget(CalDAVMirror& mirror, const QString& calendar, const QString& name);
+    void pushAll();
+    bool push(const QString& calendar);
+    Outcome send(CalDAVMirror& mirror, const QString& calendar, const QString& name, CalDAVMirror::Change change);
+    Outcome sendDocument(CalDAVMirror& mirror, const QString& calendar, const QString& name);
+    Outcome settle(CalDAVMirror& mirror, const QString& calendar, const QString& name);
+
+    const QString m_folder;
+    const QString m_accountAddress;
+    const Clock& m_clock;
+    FolderEventStore m_files;
+    CalDAVClient m_client;
+    std::mutex m_mutex; ///< held while the server is asked
+    std::map<QString, CalDAVMirror> m_mirrors;
+    QUrl m_home;
+    std::optional<Instant> m_refreshed;
+    std::optional<Instant> m_pauseUntil;
+};
+
+} // namespace vidora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/AtomicFile.h"
+
+#include <QUrl>
+
+#include <map>
+#include <optional>
+
+namespace vidora {
+
+/// What is known about one calendar of a server, beside the copies of its events: kept in the hidden file ".sync" of
+/// the folder that mirrors it, so that the two come and go together. A value.
+struct CalDAVMirror
+{
+    struct Item
+    {
+        QString href; ///< path on the server
+        QString tag;  ///< of the version that the copy is of; empty when that isn't known
+    };
+    enum class Change
+    {
+        Put,
+        Remove
+    };
+
+    QString address;
+    QString token;                    ///< up to which the server's changes are known
+    std::map<QString, Item> items;    ///< by the name of the copy
+    std::map<QString, Change> outbox; ///< our changes that the server doesn't have, by the name of the copy
+
+    /// A missing or unreadable file is an empty mirror, all of which has to be fetched.
+    static CalDAVMirror read(const QString& folder);
+    /// True when it is on the disk.
+    bool write(const QString& folder) const;
+
+    /// The name of the copy of an event on the server: the last part of its address where that can be a file's name.
+    QString nameFor(const QUrl& event) const;
+    std::optional<QString> nameOf(const QUrl& event) const;
+    QUrl addressOf(const QString& name) const;
+    /// Sets which items there are, by the paths on the server; to be called after `items` was changed by hand.
+    void index();
+
+private:
+    std::map<QString, QString> m_names; ///< by decoded path
+};
+
+} // namespace vidora

@@ -1,0 +1,391 @@
+#include "CalDAVServer.h"
+#include "platform/CalDAVEventStore.h"
+#include "platform/DAVMultistatus.h"
+#include "platform/NetworkURLSession.h"
+#include "platform/SecretStore.h"
+
+#include <gtest/gtest.h>
+
+namespace vidora {
+namespace {
+
+using namespace testing;
+using Fault = FaultySession::Fault;
+
+const Instant start = moment("2026-11-22T19:00:00Z");
+
+class CalDAVEventStoreTest : public ::testing::Test
+{
+protected:
+    CalDAVEventStoreTest() { qputenv("no_proxy", "127.0.0.1"); }
+    std::unique_ptr<CalDAVEventStore> open(const char* device = "a", const char* password = "s3cret")
+    {
+        return std::make_unique<CalDAVEventStore>(
+            home.filePath(QString::fromLatin1(device)), QStringLiteral("Work"),
+            CalDAVAccount{server.address(), QStringLiteral("ana"), QString::fromLatin1(password)}, session, clock,
+            random, sleeper);
+    }
+    Calendar tv(EventStore& store)
+    {
+        for (const Calendar& calendar : store.calendarsForEntityType(EntityType::Event)) {
+            if (calendar.title == QStringLiteral("TV"))
+                return calendar;
+        }
+        ADD_FAILURE() << "no calendar";
+        return {};
+    }
+    std::vector<Event> all(EventStore& store)
+    {
+        return store.eventsMatchingPredicate(
+            store.predicateForEventsWithStartDate(start - dayStep * 30, start + dayStep * 30, {tv(store)}));
+    }
+    Event save(EventStore& store, const QString& title, Instant at = start)
+    {
+        Event event = broadcast(tv(store), title, at);
+        EXPECT_FALSE(store.saveEvent(event, EventSpan::ThisEvent));
+        return event;
+    }
+    /// What the server holds, by title, and how often.
+    std::map<QString, int> titles() const
+    {
+        std::map<QString, int> result;
+        for (const auto& [name, bytes] : filesOf(server.calendar("tv"))) {
+            const auto event = ICalendarEvent::read(bytes);
+            ++result[event ? event->event.title : QStringLiteral("?")];
+        }
+        return result;
+    }
+
+    static std::string text(const std::map<QString, int>& titles)
+    {
+        QString result;
+        for (const auto& [title, count] : titles)
+            result += QStringLiteral("%1 x %2, ").arg(title).arg(count);
+        return result.toStdString();
+    }
+
+    CalDAVServer server;
+    QTemporaryDir home;
+    NetworkURLSession network{32 * 1024 * 1024};
+    FaultySession session{network};
+    FixedClock clock{moment("2026-11-22T12:00:00Z")};
+    SeededRandom random{7};
+    NoSleep sleeper;
+};
+
+TEST_F(CalDAVEventStoreTest, FindsTheCalendarsOfAnAccount)
+{
+    const auto store = open();
+    EXPECT_EQ(store->authorizationStatusForEntityType(EntityType::Event), AuthorizationStatus::NotDetermined);
+    store->requestAccessToEntityType(EntityType::Event, [](bool granted, const auto& error) {
+        EXPECT_TRUE(granted);
+        EXPECT_FALSE(error) << error->localizedDescription.toStdString();
+    });
+    const auto calendars = store->calendarsForEntityType(EntityType::Event);
+    ASSERT_EQ(calendars.size(), 3U);
+    const std::vector<std::pair<const char*, bool>> expected{{"Home", true}, {"Shared", false}, {"TV", true}};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(calendars[i].title, QString::fromLatin1(expected[i].first));
+        EXPECT_EQ(calendars[i].allowsContentModifications, expected[i].second) << expected[i].first;
+    }
+    EXPECT_EQ(calendars[2].color, (CalendarColor{1, 0, 128 / 255.0, 1}));
+    EXPECT_EQ(calendars[2].source, QStringLiteral("Work"));
+}
+
+TEST_F(CalDAVEventStoreTest, CarriesEventsBetweenDevicesAndOtherPrograms)
+{
+    const auto store = open();
+    const auto other = open("b");
+    ASSERT_FALSE(store->refresh());
+    Event event = save(*store, QStringLiteral("Dnevnik, čas"));
+    save(*store, QStringLiteral("Film"), start + dayStep);
+    const QStringList lines = linesOfKhal(server.calendar("tv"));
+    ASSERT_EQ(lines.size(), 2) << lines.join(QLatin1Char('\n')).toStdString();
+    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("2026-11-22 19:00 Dnevnik, čas|Lipa 1|"))) << lines[0].toStdString();
+
+    const QByteArray foreign = foreignEvent("w", "20261122T200000Z");
+    writeRaw(server.calendar("tv") + QStringLiteral("/with space & more.ics"), foreign);
+    ASSERT_FALSE(other->refresh());
+    auto events = all(*other);
+    ASSERT_EQ(events.size(), 3U);
+    EXPECT_EQ(events[0].url, event.url);
+    EXPECT_EQ(events[0].alarms, event.alarms);
+    EXPECT_EQ(events[1].title, QStringLiteral("Dentist, \u00E9tage 2"));
+    events[0].startDate -= std::chrono::minutes(30);
+    ASSERT_FALSE(other->saveEvent(events[0], EventSpan::ThisEvent));
+    ASSERT_FALSE(other->removeEvent(events[2], EventSpan::ThisEvent, true));
+    save(*other, QStringLiteral("Dnevnik, čas")); // the address is that of the event that was moved
+    ASSERT_FALSE(store->refresh());
+    EXPECT_EQ(store->eventWithIdentifier(event.eventIdentifier)->startDate, start - std::chrono::minutes(30));
+    EXPECT_EQ(all(*store).size(), 3U);
+    EXPECT_EQ(readRaw(server.calendar("tv") + QStringLiteral("/with space & more.ics")), foreign);
+}
+
+TEST_F(CalDAVEventStoreTest, AsksLittleWhenThereIsNothingToDo)
+{
+    const auto store = open();
+    ASSERT_FALSE(store->refresh());
+    for (int i = 0; i < 5; ++i)
+        save(*store, QStringLiteral("Show %1").arg(i));
+    ASSERT_FALSE(store->refresh());
+    session.requests = 0;
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(session.requests, 0); // just asked
+    clock.advance(Seconds(3600));
+    store->refreshSourcesIfNecessary();
+    ASSERT_FALSE(store->commit());
+    EXPECT_LE(session.requests, 3) << "for three calendars";
+    const auto restarted = open();
+    session.requests = 0;
+    restarted->refreshSourcesIfNecessary();
+    EXPECT_LE(session.requests, 9) << "finding the account included";
+}
+
+TEST_F(CalDAVEventStoreTest, KeepsChangesUntilThereIsANetwork)
+{
+    auto store = open();
+    ASSERT_FALSE(store->refresh());
+    Event kept = save(*store, QStringLiteral("Kept"));
+    const Event removed = save(*store, QStringLiteral("Removed"));
+    session.fault = Fault::Silence;
+    kept.title = QStringLiteral("First");
+    ASSERT_FALSE(store->saveEvent(kept, EventSpan::ThisEvent));
+    kept.title = QStringLiteral("Second");
+    ASSERT_FALSE(store->saveEvent(kept, EventSpan::ThisEvent));
+    ASSERT_FALSE(store->removeEvent(removed, EventSpan::ThisEvent, true));
+    save(*store, QStringLiteral("New"));
+    const Event gone = save(*store, QStringLiteral("Gone again"));
+    ASSERT_FALSE(store->removeEvent(gone, EventSpan::ThisEvent, true));
+    EXPECT_EQ(store->unsentChanges(), 4);
+    store = open();
+    EXPECT_EQ(all(*store).size(), 2U);
+    EXPECT_TRUE(store->refresh());
+    EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Kept"), 1}, {QStringLiteral("Removed"), 1}}));
+    session.fault = Fault::None;
+    session.requests = 0;
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(session.requests, 0); // left alone for a while
+    clock.advance(Seconds(3600));
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(store->unsentChanges(), 0);
+    EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Second"), 1}, {QStringLiteral("New"), 1}}));
+}
+
+TEST_F(CalDAVEventStoreTest, LosesAndDoublesNothingWhateverTheServerAnswers)
+{
+    struct Case
+    {
+        Fault fault;
+        int status;
+        const char* method;
+    };
+    std::vector<Case> cases;
+    for (const Fault fault : {Fault::Silence, Fault::LostReply, Fault::Page, Fault::CutOff}) {
+        for (const char* method : {"PUT", "DELETE", "REPORT"})
+            cases.push_back({fault, 0, method});
+    }
+    for (const int status : {401, 403, 404, 409, 412, 423, 500, 507})
+        cases.push_back({Fault::Status, status, "PUT"});
+    cases.insert(cases.end(),
+                 {{Fault::Status, 404, "DELETE"}, {Fault::Status, 412, "DELETE"}, {Fault::Status, 500, ""}});
+    const QByteArray foreign = foreignEvent("w", "20261122T200000Z");
+    const QString foreignPath = server.calendar("tv") + QStringLiteral("/w.ics");
+    writeRaw(foreignPath, foreign);
+    auto store = open();
+    ASSERT_FALSE(store->refresh());
+    std::map<QString, int> expected{{QStringLiteral("Dentist, \u00E9tage 2"), 1}};
+    int number = 0;
+    for (const Case& each : cases) {
+        const std::string what =
+            std::to_string(int(each.fault)) + " " + std::to_string(each.status) + " " + each.method;
+        const Instant at = start + Seconds(++number);
+        Event changed = broadcast(tv(*store), QStringLiteral("Changed %1").arg(number), at);
+        Event removed = broadcast(tv(*store), QStringLiteral("Removed %1").arg(number), at);
+        EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
+        EXPECT_FALSE(store->saveEvent(removed, EventSpan::ThisEvent));
+        ASSERT_EQ(store->unsentChanges(), 0) << what;
+        session.fault = each.fault;
+        session.status = each.status;
+        session.method = each.method;
+        changed.title = QStringLiteral("Moved %1").arg(number);
+        EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
+        EXPECT_FALSE(store->removeEvent(removed, EventSpan::ThisEvent, false));
+        save(*store, QStringLiteral("New %1").arg(number), at);
+        clock.advance(Seconds(3600));
+        store->refreshSourcesIfNecessary();
+        store = open();
+        session.fault = Fault::None;
+        for (int again = 0; again < 2; ++again) {
+            clock.advance(Seconds(3600));
+            store->refreshSourcesIfNecessary();
+        }
+        ++expected[changed.title];
+        ++expected[QStringLiteral("New %1").arg(number)];
+        if (each.status == 404 && titles() != expected) { // believed, then seen again: it can be removed once more
+            for (const Event& event : all(*store)) {
+                const bool back = event.url == removed.url;
+                EXPECT_FALSE(back && store->removeEvent(event, EventSpan::ThisEvent, true).has_value());
+            }
+        }
+        ASSERT_EQ(text(titles()), text(expected)) << what;
+        ASSERT_EQ(all(*store).size(), expected.size()) << what;
+    }
+    EXPECT_EQ(readRaw(foreignPath), foreign);
+}
+
+TEST_F(CalDAVEventStoreTest, LeavesTheUsersOwnChangesInPlace)
+{
+    const auto store = open();
+    ASSERT_FALSE(store->refresh());
+    Event moved = save(*store, QStringLiteral("Moved by hand"));
+    Event gone = save(*store, QStringLiteral("Gone by hand"), start + dayStep);
+    const auto pathOf = [&](const Event& event) -> QString {
+        return server.calendar("tv") + event.eventIdentifier.mid(event.eventIdentifier.indexOf(QLatin1Char('/')));
+    };
+    const QByteArray byHand = readRaw(pathOf(moved)).replace("T190000Z", "T170000Z");
+    writeRaw(pathOf(moved), byHand);
+    QFile::remove(pathOf(gone));
+    moved.title = gone.title = QStringLiteral("Ours");
+    EXPECT_FALSE(store->saveEvent(moved, EventSpan::ThisEvent, false));
+    EXPECT_FALSE(store->saveEvent(gone, EventSpan::ThisEvent));
+    EXPECT_EQ(store->unsentChanges(), 0);
+    EXPECT_EQ(readRaw(pathOf(moved)), byHand);
+    ASSERT_EQ(all(*store).size(), 1U);
+    EXPECT_EQ(all(*store)[0].startDate, moment("2026-11-22T17:00:00Z"));
+}
+
+TEST_F(CalDAVEventStoreTest, DoesNotInsistOnAWrongPassword)
+{
+    const auto store = open("a", "wrong");
+    const auto error = store->refresh();
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(error->localizedDescription.contains(QStringLiteral("401")));
+    EXPECT_FALSE(error->localizedDescription.contains(QStringLiteral("wrong")));
+    session.requests = 0;
+    clock.advance(Seconds(600));
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(session.requests, 0);
+}
+
+TEST_F(CalDAVEventStoreTest, BringsBackACopyThatWasLostHere)
+{
+    const auto store = open();
+    writeRaw(server.calendar("tv") + QStringLiteral("/w.ics"), foreignEvent("w", "20261122T200000Z"));
+    ASSERT_FALSE(store->refresh());
+    const QString folder = home.filePath(QStringLiteral("a/")) + tv(*store).calendarIdentifier;
+    QFile::remove(folder + QStringLiteral("/w.ics"));
+    writeRaw(folder + QStringLiteral("/.sync"), "{\"address\": 12, \"items\"");
+    const auto restarted = open();
+    ASSERT_FALSE(restarted->refresh());
+    EXPECT_EQ(all(*restarted).size(), 1U);
+    EXPECT_EQ(filesOf(server.calendar("tv")).size(), 1U);
+}
+
+TEST_F(CalDAVEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
+{
+    for (unsigned seed = 0; seed < 2; ++seed) {
+        SeededRandom dice(seed);
+        const std::vector<const char*> devices{"a", "b"};
+        std::vector<std::unique_ptr<CalDAVEventStore>> stores;
+        for (const char* device : devices)
+            ASSERT_FALSE(stores.emplace_back(open(device))->refresh());
+        std::map<QString, QByteArray> foreign;
+        const QString folder = server.calendar("tv");
+        for (int step = 0; step < 40; ++step) {
+            auto& store = *stores[dice.uniform(2)];
+            session.fault = std::vector{Fault::None, Fault::None, Fault::Silence, Fault::LostReply}[dice.uniform(4)];
+            session.method = dice.uniform(2) ? "" : "PUT";
+            const QString name = QStringLiteral("w%1-%2.ics").arg(seed).arg(dice.uniform(5));
+            const Instant at = start + Seconds(1800) * dice.uniform(6);
+            const auto events = all(store);
+            const auto ours =
+                std::find_if(events.begin(), events.end(), [](const Event& each) { return each.url.has_value(); });
+            switch (dice.uniform(7)) {
+            case 0:
+                foreign[name] = foreignEvent(name.toUtf8(), "20261122T19" + QByteArray::number(10 + step % 50) + "00Z",
+                                             dice.uniform(2) ? "RRULE:FREQ=DAILY;COUNT=3\n" : "");
+                writeRaw(folder + QLatin1Char('/') + name, foreign[name]);
+                break;
+            case 1:
+                foreign.erase(name);
+                QFile::remove(folder + QLatin1Char('/') + name);
+                break;
+            case 2:
+            case 3:
+                save(store, QStringLiteral("Show"), at);
+                break;
+            case 4:
+                if (ours != events.end()) {
+                    Event event = *ours;
+                    event.title += QLatin1Char('!');
+                    store.saveEvent(event, EventSpan::ThisEvent);
+                }
+                break;
+            case 5:
+                if (ours != events.end())
+                    store.removeEvent(*ours, EventSpan::ThisEvent, true);
+                break;
+            default:
+                clock.advance(Seconds(3600));
+                store.refreshSourcesIfNecessary();
+            }
+        }
+        session.fault = Fault::None;
+        for (int round = 0; round < 2; ++round) {
+            for (const auto& store : stores)
+                EXPECT_FALSE(store->refresh());
+        }
+        auto present = filesOf(folder);
+        for (const auto& [name, bytes] : foreign)
+            EXPECT_EQ(present[name], bytes) << name.toStdString() << " seed " << seed;
+        std::set<QString> addresses;
+        for (const Event& event : all(*stores[0])) {
+            const bool first = !event.url || addresses.insert(event.url->text()).second;
+            EXPECT_TRUE(first) << "twice, seed " << seed;
+        }
+        EXPECT_EQ(present.size(), all(*stores[0]).size()) << "seed " << seed;
+        EXPECT_EQ(present.size(), all(*stores[1]).size()) << "seed " << seed;
+        EXPECT_EQ(present.size(), foreign.size() + addresses.size()) << "seed " << seed;
+        EXPECT_EQ(stores[0]->unsentChanges() + stores[1]->unsentChanges(), 0);
+        for (const auto& [name, bytes] : present)
+            QFile::remove(folder + QLatin1Char('/') + name);
+    }
+}
+
+TEST(DAVMultistatus, ReadsWhatServersWrite)
+{
+    const QByteArray whole =
+        "<?xml version=\"1.0\"?><multistatus xmlns=\"DAV:\" xmlns:C=\"urn:ietf:params:xml:ns:caldav\">"
+        "<response><href>/a%20b/</href><propstat><prop><resourcetype><collection/><C:calendar/></resourcetype>"
+        "<displayname>A &amp; B</displayname><C:supported-calendar-component-set><C:comp name=\"VEVENT\"/>"
+        "</C:supported-calendar-component-set></prop><status>HTTP/1.1 200 OK</status></propstat>"
+        "<propstat><prop><getetag>x</getetag></prop><status>HTTP/1.1 404 Not Found</status></propstat></response>"
+        "<response><href>/gone</href><status>HTTP/1.1 404 Not Found</status></response>"
+        "<sync-token>t</sync-token></multistatus>";
+    const auto read = DAVMultistatus::read(whole);
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->responses.size(), 2U);
+    EXPECT_EQ(read->responses[0].text("displayname"), "A & B");
+    EXPECT_TRUE(read->responses[0].has("resourcetype", "calendar"));
+    EXPECT_TRUE(read->responses[0].has("supported-calendar-component-set", "VEVENT"));
+    EXPECT_FALSE(read->responses[0].texts.contains("getetag"));
+    EXPECT_EQ(read->responses[1].status, 404);
+    EXPECT_EQ(read->syncToken, QStringLiteral("t"));
+    for (const QByteArray& broken : {whole.left(whole.size() - 5), QByteArray("<html><body/></html>"), QByteArray()})
+        EXPECT_FALSE(DAVMultistatus::read(broken));
+}
+
+TEST(SecretStore, KeepsSecretsFromOthers)
+{
+    QTemporaryDir home;
+    const QString path = home.filePath(QStringLiteral("secrets"));
+    SecretStore store(path);
+    ASSERT_TRUE(store.setSecret(QStringLiteral("ana@here"), QStringLiteral("s3cret")));
+    EXPECT_EQ(store.secret(QStringLiteral("ana@here")), QStringLiteral("s3cret"));
+    EXPECT_EQ(QFile(path).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    EXPECT_FALSE(store.secret(QStringLiteral("ana@here")));
+}
+
+} // namespace
+} // namespace vidora
