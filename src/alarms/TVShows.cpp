@@ -60,9 +60,12 @@ void TVShows::replace(Favorites favorites)
         return;
     m_names.clear();
     m_lowercasedNames.clear();
+    m_minutes.clear();
     for (const auto& favorite : favorites) {
         m_names.insert(favorite->identificator());
         m_lowercasedNames.insert(favorite->lowercasedIdentificator());
+        if (!m_minutes.contains(favorite->lowercasedIdentificator()))
+            m_minutes.insert(favorite->lowercasedIdentificator(), favorite->minutes());
     }
     m_favorites = std::move(favorites);
     if (m_access == Access::Read)
@@ -112,14 +115,10 @@ bool TVShows::containsFavoriteNamed(const QString& name) const
 std::optional<int> TVShows::scheduleTimeForFavoriteNamed(const QString& name) const
 {
     std::optional<int> minutes;
-    m_queue->sync([&, lowercased = name.toLower()] {
-        if (!m_favorites)
-            return;
-        const auto found = std::find_if(m_favorites->begin(), m_favorites->end(), [&](const auto& favorite) {
-            return favorite->lowercasedIdentificator() == lowercased;
-        });
-        if (found != m_favorites->end())
-            minutes = (*found)->minutes();
+    m_queue->sync([&] {
+        const auto found = m_minutes.constFind(name.toLower());
+        if (found != m_minutes.cend())
+            minutes = *found;
     });
     return minutes;
 }

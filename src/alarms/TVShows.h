@@ -3,7 +3,9 @@
 #include "alarms/Favorite.h"
 #include "platform/DispatchQueue.h"
 #include "platform/KeyValueStore.h"
+#include "store/StoreSurroundings.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <atomic>
@@ -14,7 +16,7 @@ namespace vidora {
 /// The user's favourites: in memory, in the file "favorites.plist" of the documents folder, and in the key-value store
 /// for the user's other devices. Any thread, guarded by the concurrent queue "favorites"; not to be called from a block
 /// of that queue. No operation fails: what can't be read is absent, what can't be written stays as it was.
-class TVShows
+class TVShows final : public FavoriteTitles
 {
 public:
     enum class Access
@@ -25,7 +27,7 @@ public:
 
     /// The key-value store outlives this object.
     TVShows(QString documentsFolder, KeyValueStore& keyValueStore, Access access = Access::Write);
-    ~TVShows();
+    ~TVShows() override;
 
     /// The favourites in the order in which they were added; nothing as long as there are none and never were. Reads
     /// the file at the first call, which then passes for a change: file and key-value store are written anew.
@@ -38,7 +40,7 @@ public:
     /// Whole titles, whatever their case.
     bool containsFavoriteNamed(const QString& name) const;
     /// The titles in lower case, for work that asks about many.
-    QSet<QString> lowercasedFavoriteNames() const;
+    QSet<QString> lowercasedFavoriteNames() const override;
     /// Lead time of the favourite's alarm in minutes; negative: it has none. Nothing for a title that is no favourite.
     std::optional<int> scheduleTimeForFavoriteNamed(const QString& name) const;
     /// Returns once all that was set so far has reached the file and the key-value store.
@@ -58,6 +60,7 @@ private:
     std::optional<Favorites> m_favorites;
     QSet<QString> m_names;
     QSet<QString> m_lowercasedNames;
+    QHash<QString, int> m_minutes; ///< by lower-case title; of two favourites of one title the first counts
     std::uint64_t m_generation = 0;
     std::atomic<bool> m_fileIsUnreadable = false; ///< to be moved aside before the next write
 

@@ -30,6 +30,12 @@ VidoraAppDelegate::VidoraAppDelegate(Environment environment)
     : m_environment(std::move(environment))
     , m_defaults(m_environment.folders.settings + QLatin1String("/settings.json"))
     , m_keyValueStore(m_environment.folders.documents + QLatin1String("/cloud.sqlite"))
+    , m_eventStore(m_environment.eventStore ? *m_environment.eventStore : m_noCalendar)
+    , m_shows(m_environment.folders.documents, m_keyValueStore,
+              m_environment.readOnly ? TVShows::Access::Read : TVShows::Access::Write)
+    , m_alarms(m_environment.folders.caches, m_environment.readOnly)
+    , m_silentHours(m_keyValueStore)
+    , m_showCounters(m_environment.publicDatabase)
     , m_cache(m_environment.clock, [this] { return intervalForCache(automaticUpdateInterval()); })
     , m_session(m_environment.network, m_cache)
     , m_userAgent(m_environment.random)
@@ -60,6 +66,7 @@ void VidoraAppDelegate::applicationDidFinishLaunching()
     loadCatalogue();
     if (!m_environment.readOnly)
         m_mainBlocks.async([this] { pruneSelection(); });
+    makeAlarms();
     makeStore();
     readSettings(); // a program that only shows what there is, is never activated
     setup();
@@ -79,13 +86,25 @@ void VidoraAppDelegate::loadCatalogue()
                                      m_channelData, m_keyValueStore);
 }
 
-void VidoraAppDelegate::makeStore()
+void VidoraAppDelegate::makeAlarms()
 {
     m_storeServices = std::make_unique<StoreServices>(*m_channels, m_channelData, m_showCount, m_environment.scheme,
                                                       m_application, m_defaults);
-    m_listings = std::make_unique<TVListings>(
-        TVListings::Surroundings{m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices,
-                                 *m_icons, *m_storeServices, *m_storeServices, *m_storeServices});
+    m_alarmServices = std::make_unique<AlarmServices>(*m_channels, m_channelData);
+    m_alarmEngine = std::make_unique<AlarmEngine>(AlarmSurroundings{
+        m_environment.clock, m_shows, m_alarms, m_silentHours, m_showCounters, m_eventStore, m_defaults,
+        m_keyValueStore, *m_storeServices, *m_alarmServices, *this, m_environment.scheme, m_environment.readOnly});
+    m_storeServices->setAlarms(m_alarmEngine.get());
+    eventCount = [this] { return m_alarmEngine->eventCount(); };
+    m_shows.favorites();
+}
+
+void VidoraAppDelegate::makeStore()
+{
+    m_listings = std::make_unique<TVListings>(TVListings::Surroundings{
+        m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices, *m_icons,
+        *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(), &m_shows});
+    m_alarmEngine->setListings(*m_listings);
     m_fetcher =
         std::make_unique<PageFetcher>(m_session, m_cache, m_environment.sleeper, m_networkActivity, m_networkAlerts);
     m_parser = std::make_unique<ListingParser>(m_environment.clock, m_environment.endpoints, *m_listings);
@@ -104,6 +123,7 @@ void VidoraAppDelegate::pruneSelection()
                  [this](const ObjectId& id) { return !m_channelData.contains(id); });
     if (removed.empty())
         return;
+    m_alarmEngine->setSynchronized(false);
     std::erase_if(selection, [this](const ObjectId& id) { return !m_channelData.contains(id); });
     m_channels->setSelected(selection);
     for (const ObjectId& id : removed)
@@ -111,6 +131,7 @@ void VidoraAppDelegate::pruneSelection()
     if (selection.empty())
         disableTabs();
     m_screens.selectedChannelsChanged();
+    m_alarmEngine->syncAlarms();
 }
 
 void VidoraAppDelegate::setup()
@@ -144,12 +165,15 @@ void VidoraAppDelegate::applicationDidBecomeActive()
     TVEntry::detectAlphabet(m_environment.clock.now());
     readSettings();
     m_screens.activated();
+    m_alarmEngine->syncAlarms();
     checkAndUpdateAllChannels();
 }
 
 void VidoraAppDelegate::applicationDidEnterBackground()
 {
     m_application.setApplicationState(Application::State::Background);
+    m_alarmEngine->commit();
+    finishAlarmsInBackground();
     if (!m_environment.readOnly) {
         m_defaults.synchronize();
         m_listings->commitFiles();
@@ -161,8 +185,18 @@ void VidoraAppDelegate::applicationDidEnterBackground()
     });
 }
 
+void VidoraAppDelegate::finishAlarmsInBackground()
+{
+    const auto task = m_application.beginBackgroundTask(QStringLiteral("alarms"), {});
+    // Behind the synchronisations that were asked for and wait for their turn on the main queue.
+    m_mainBlocks.async([this, task] {
+        m_alarmEngine->whenIdle([application = &m_application, task] { application->endBackgroundTask(task); });
+    });
+}
+
 void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
 {
+    m_alarmEngine->commit();
     if (!m_environment.readOnly) {
         if (m_application.applicationState() == Application::State::Background)
             m_defaults.synchronize();
@@ -176,10 +210,12 @@ void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
 
 void VidoraAppDelegate::applicationWillTerminate()
 {
+    m_alarmEngine->commit();
     if (!m_environment.readOnly)
         m_defaults.synchronize();
     m_application.finishBackgroundTasks();
     m_channels->waitForWrites();
+    m_shows.waitForWrites();
 }
 
 void VidoraAppDelegate::checkAndUpdateAllChannels()

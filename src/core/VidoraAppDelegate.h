@@ -1,5 +1,7 @@
 #pragma once
 
+#include "alarms/AlarmEngine.h"
+#include "core/AlarmServices.h"
 #include "core/ChannelCatalogue.h"
 #include "core/LoadPauses.h"
 #include "core/ScreenWalk.h"
@@ -16,6 +18,7 @@
 #include "platform/CachedURLSession.h"
 #include "platform/Clock.h"
 #include "platform/KeyValueStore.h"
+#include "platform/MemoryEventStore.h"
 #include "platform/NetworkActivity.h"
 #include "platform/NetworkAlerts.h"
 #include "platform/StandardFolders.h"
@@ -45,16 +48,18 @@ struct Environment
     Sleeper& sleeper;
     URLSession& network;
     bool isPad = false;
-    bool readOnly = false; ///< another process owns the home: nothing is written
+    bool readOnly = false;                    ///< another process owns the home: nothing is written
+    EventStore* eventStore = nullptr;         ///< null: the user has no calendar
+    PublicDatabase* publicDatabase = nullptr; ///< null: nobody counts
 };
 
 /// The root object: creates the central objects at launch, holds them for the whole run, is the only receiver of the
 /// life-cycle events, and spreads a change of data or settings to the open screens. Main thread, unless said otherwise.
-class VidoraAppDelegate final : public UpdateObserver
+class VidoraAppDelegate final : public UpdateObserver, private AlarmScreens
 {
 public:
     explicit VidoraAppDelegate(Environment environment);
-    ~VidoraAppDelegate();
+    ~VidoraAppDelegate() override;
 
     /// Builds catalogue, selection and store, and shows the tab bar with what is on disk. Once, ahead of everything
     /// else.
@@ -97,17 +102,21 @@ public:
     bool isPad() const { return m_isPad; }
     void setPad(bool isPad) { m_isPad = isPad; }
     /// Shows the count of alarms on the icon and on the tab of the schedule.
-    void updateBadge();
+    void updateBadge() override;
     /// Selects the last tab and turns all others off: without channels there is nothing to show.
     void disableTabs();
     void enableTabs();
     void reloadData() { m_screens.reloadData(); }
-    void favoritesUpdated() { m_screens.favoritesUpdated(); }
+    void favoritesUpdated() override { m_screens.favoritesUpdated(); }
     void recolor() { m_screens.recolor(); }
-    void notificationsSynched();
+    void notificationsSynched() override;
 
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
+    AlarmEngine& alarmEngine() { return *m_alarmEngine; }
+    TVShows& shows() { return m_shows; }
+    SilentHours& silentHours() { return m_silentHours; }
+    EventStore& eventStore() { return m_eventStore; }
     TVStationIcons& icons() { return *m_icons; }
     const ChannelData& channelData() const { return m_channelData; }
     TabBarController& tabBarController() { return m_tabBarController; }
@@ -132,8 +141,10 @@ public:
 
 private:
     void loadCatalogue();
+    void makeAlarms();
     void makeStore();
     void pruneSelection();
+    void finishAlarmsInBackground();
     void readSettings();
 
     // UpdateObserver
@@ -146,6 +157,12 @@ private:
     Application m_application;
     UserDefaults m_defaults;
     KeyValueStore m_keyValueStore;
+    MemoryEventStore m_noCalendar{{}, AuthorizationStatus::Denied};
+    EventStore& m_eventStore;
+    TVShows m_shows;
+    Alarms m_alarms;
+    SilentHours m_silentHours;
+    ShowCounters m_showCounters;
     URLCache m_cache;
     CachedURLSession m_session;
     HTTPUserAgent m_userAgent;
@@ -159,7 +176,9 @@ private:
     ChannelData m_channelData;
     std::unique_ptr<TVChannels> m_channels;
     std::unique_ptr<StoreServices> m_storeServices;
-    std::unique_ptr<TVListings> m_listings;
+    std::unique_ptr<AlarmServices> m_alarmServices;
+    std::unique_ptr<AlarmEngine> m_alarmEngine;
+    std::unique_ptr<TVListings> m_listings; ///< behind the engine, whose queries it runs
     std::unique_ptr<PageFetcher> m_fetcher;
     std::unique_ptr<ListingParser> m_parser;
     std::unique_ptr<UpdateCycle> m_updateCycle;

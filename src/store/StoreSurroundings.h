@@ -3,6 +3,7 @@
 #include "content/ObjectId.h"
 #include "platform/Instant.h"
 
+#include <QSet>
 #include <QString>
 
 #include <cstdint>
@@ -45,6 +46,15 @@ public:
     virtual int showCount() const = 0;
     /// Scheme of the application's own addresses.
     virtual QString scheme() const = 0;
+};
+
+/// The titles that the user follows.
+class FavoriteTitles
+{
+public:
+    virtual ~FavoriteTitles() = default;
+    /// All of them, in lower case.
+    virtual QSet<QString> lowercasedFavoriteNames() const = 0;
 };
 
 /// The alarms, which follow the lists.

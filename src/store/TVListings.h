@@ -14,6 +14,8 @@
 
 namespace vidora {
 
+using ShowsByURL = std::unordered_map<URL, Show>;
+
 /// The one store of shows: the list of each channel in memory and in a file, the merged list of all channels, and every
 /// query over them.
 ///
@@ -40,10 +42,13 @@ public:
         AlarmSynchronisation& alarms;
         ApplicationLife& application;
         FileLayer& files = FileLayer::system();
+        const FavoriteTitles* favorites = nullptr; ///< null: there are none
     };
     using Completion = std::function<void()>;
     using ShowsBlock = std::function<void(SharedShowList)>;
     using CompoundBlock = std::function<void(const CompoundListing&)>;
+    /// `byURL` leads from the address of a broadcast in the application's scheme to its element in the list.
+    using URLBlock = std::function<void(SharedShowList shows, std::shared_ptr<const ShowsByURL> byURL)>;
     /// Told of the merged list when the popular list is to be made anew. Called in a barrier block: returns at once.
     using PopularRefresh = std::function<void(SharedShowList merged)>;
 
@@ -113,6 +118,13 @@ public:
     void showScheduleForTitle(const QString& title, QualityOfService priority, CompoundBlock mainBlock);
     /// Whether there is a broadcast of this raw title that is, or is not, a repeat.
     void broadcastForTitle(const QString& title, bool previouslyShown, std::function<void(bool)> mainBlock);
+    /// Broadcasts of favourite titles that have not ended. The block is called in a plain block of the access queue:
+    /// it returns soon and asks the store nothing.
+    void favoritesScheduleWithBlock(ShowsBlock block);
+    void favoritesScheduleWithPriority(QualityOfService priority, CompoundBlock mainBlock);
+    /// Broadcasts of favourite titles that have not begun, called back like the above. What
+    /// `partialAllowed` says makes no difference: without favourites both answers are empty.
+    void favoritesScheduleWithPartialAllowed(bool partialAllowed, URLBlock block);
     /// Groups shows by day on the global queue of the priority; the block is called on the main queue.
     void compoundListingsWithShows(SharedShowList shows, QualityOfService priority, CompoundBlock mainBlock);
 

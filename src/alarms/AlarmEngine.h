@@ -1,0 +1,121 @@
+#pragma once
+
+#include "alarms/AlarmSurroundings.h"
+#include "alarms/CalendarEvents.h"
+#include "alarms/CalendarSynchronisation.h"
+#include "alarms/SelectedCalendar.h"
+#include "platform/BlockOwner.h"
+#include "platform/DispatchQueue.h"
+#include "store/TVListings.h"
+
+namespace vidora {
+
+/// Favourites and their alarms: sets and removes events in the user's calendar, which rings them, and keeps the
+/// calendar in agreement with favourites and listings. All work on the event store is done by the serial queue
+/// "ostrel.tv.alarm.sync".
+///
+/// Operations return at once, and are for the main thread unless they say otherwise. Without permission to write the
+/// calendar, or without one that can be written, they change no event and say nothing; the favourites and the counters
+/// follow all the same.
+///
+/// `manual`: the user acted on this very show. Its counter changes, and silent hours are not looked at. `sync`: the
+/// calendar is committed and the screens are told at the end; who makes many changes commits once.
+class AlarmEngine final : public AlarmSynchronisation
+{
+public:
+    /// What is set on all broadcasts of a title.
+    struct Recurrence
+    {
+        int minutes;
+        std::optional<bool> previouslyShown; ///< only repeats, or only what is none; empty: any broadcast
+    };
+
+    explicit AlarmEngine(AlarmSurroundings surroundings);
+    /// On the main thread, after the store of shows is gone. Waits for the work on the calendar.
+    ~AlarmEngine() override;
+
+    /// The store that the queries go to, which ends ahead of this object. Set ahead of the first turn of the main loop.
+    void setListings(TVListings& listings) { m_listings = &listings; }
+
+    // Favourites.
+
+    /// Drops one blank at the end of the title. A title that is a favourite already, in whatever case, stays as it is.
+    void addFavorite(QString title);
+    /// Takes the favourite away, and all alarms on its broadcasts.
+    void removeFavorite(const QString& title);
+
+    // Alarms.
+
+    /// Sets an alarm on all broadcasts of a favourite, so many minutes ahead. Makes events only where the alarm is
+    /// still to come; a title that is no favourite gets none.
+    void setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown, bool manual);
+    /// Sets an alarm on one broadcast, unless it would have had to sound already.
+    void setAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at, std::optional<Instant> until,
+                          int minutes, bool sync, bool manual);
+    /// Removes the alarms on all coming broadcasts of a title, in whatever case. A favourite stays one.
+    void removeAlarmForTitle(const QString& title, bool sync, bool manual);
+    /// Removes the alarm on one coming broadcast of exactly this title.
+    void removeAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at, bool sync, bool manual);
+    /// Lead time of the broadcast's alarm in minutes, -1 without one. Waits for the work on the calendar.
+    int alarmedEntry(const TVEntry& entry);
+    /// What is set on the broadcasts of a favourite; nothing when it has no alarm, or there is none.
+    std::optional<Recurrence> alarmedIdentificatorType(const QString& title);
+    /// The shows for which an alarm will sound. As the store's compound queries.
+    void alertsScheduleWithPriority(QualityOfService priority, TVListings::CompoundBlock mainBlock);
+
+    // The calendar.
+
+    /// Makes the calendar agree with favourites and listings. On any thread.
+    void syncAlarms() override;
+    void setSynchronized(bool isSynchronized) override { m_surroundings.alarms.setSynchronized(isSynchronized); }
+    bool hasEvents() const { return eventCount() > 0; }
+    int eventCount() const { return m_calendarEvents.eventCount(); }
+    /// The calendar in which alarms are made, chosen if it was not yet. Waits for the work on the calendar.
+    std::optional<Calendar> selectedCalendar();
+    /// Takes the calendar that the user has chosen. Events stay where they are: only while there are none.
+    void saveCalendar(const Calendar& calendar);
+    /// Queues a commit of the calendar, for the end of the process and the way into the background.
+    void commit();
+    /// Queues the block on the main queue once nothing that was begun is going on.
+    void whenIdle(DispatchQueue::Block block) { m_activity->notify(DispatchQueue::main(), std::move(block)); }
+
+private:
+    /// Keeps the engine from being idle for as long as one of its owners lives.
+    using Activity = std::shared_ptr<void>;
+    struct Run;
+
+    Activity begin() const;
+    bool isAuthorized() const;
+    /// Whether events may be made and removed.
+    bool mayWrite() const { return isAuthorized() && !m_surroundings.readOnly; }
+    /// Runs work on the calendar that may throw; false when it did.
+    bool guarded(const std::function<void()>& work) const;
+    /// Replaces the first favourite of a title; false when there is none.
+    bool replaceFavorite(const QString& title, int minutes, std::optional<bool> previouslyShown);
+    void setAlarms(const ShowList& shows, const QString& title, int minutes, std::optional<bool> previouslyShown,
+                   std::uint64_t changes, const Activity& activity);
+    /// Saves an event and remembers its lead time, which is the next one offered.
+    void saveAlarm(Event& event, int minutes, bool commit);
+    /// Enters the event of a broadcast that was just saved into the index, and tells the screens.
+    void enterEvent(const Event& saved, const Activity& activity);
+    /// Removes events of a period that fit; their identifiers, whether or not they could be removed.
+    QStringList removeEvents(Instant from, Instant to, const std::function<bool(const Event&)>& fits, bool& removed);
+    ShowList alertedShows(const ShowList& shows, const ShowsByURL& byURL);
+    void commitOnQueue();
+
+    void requestAccess();
+    void ensureSelectedCalendarIsSet();
+    void runFirstStages(const std::shared_ptr<Run>& run);
+    void runLastStages(const std::shared_ptr<Run>& run, const FavoriteSchedule& schedule);
+    void endRun(Run& run);
+
+    const AlarmSurroundings m_surroundings;
+    SelectedCalendar m_selectedCalendar; ///< belongs to the queue
+    CalendarEvents m_calendarEvents;     ///< belongs to the main thread
+    TVListings* m_listings = nullptr;
+    const std::shared_ptr<DispatchGroup> m_activity = std::make_shared<DispatchGroup>();
+    const std::shared_ptr<DispatchQueue> m_alarmSyncQueue;
+    BlockOwner m_mainBlocks;
+};
+
+} // namespace vidora

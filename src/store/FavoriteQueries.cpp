@@ -1,0 +1,77 @@
+// Queries by the titles that the user follows.
+#include "store/TVListings.h"
+
+namespace vidora {
+
+namespace {
+
+constexpr std::size_t maximumShows = 2000;
+
+bool isFavorite(const TVEntry& entry, const QSet<QString>& lowercasedNames)
+{
+    if (!entry.title())
+        return false;
+    // The record keeps the lower-case form of its raw title, which most titles are shown in.
+    const bool isRaw = entry.title() == entry.identificator();
+    return lowercasedNames.contains(isRaw ? *entry.lowercasedIdentificator() : entry.title()->toLower());
+}
+
+QSet<QString> namesOf(const FavoriteTitles* favorites)
+{
+    return favorites ? favorites->lowercasedFavoriteNames() : QSet<QString>();
+}
+
+/// The favourites' broadcasts whose rows fit, in order, up to the maximum.
+template<typename Fits>
+ShowList favoriteShows(const MergedShows& merged, const QSet<QString>& lowercasedNames, Fits fits)
+{
+    ShowList result;
+    if (lowercasedNames.isEmpty())
+        return result;
+    for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
+        const Show& show = (*merged.shows)[i];
+        if (fits(merged.rows[i]) && isFavorite(*show->entry, lowercasedNames))
+            result.push_back(show);
+    }
+    return result;
+}
+
+} // namespace
+
+void TVListings::favoritesScheduleWithBlock(ShowsBlock block)
+{
+    m_listingsDictionaryAccessQueue->async([this, block = std::move(block)] {
+        const Instant now = m_surroundings.clock.now();
+        block(std::make_shared<const ShowList>(
+            favoriteShows(dictionary()->merged(), namesOf(m_surroundings.favorites),
+                          [now](const MergedShows::Row& row) { return row.end > now; })));
+    });
+}
+
+void TVListings::favoritesScheduleWithPriority(QualityOfService priority, CompoundBlock mainBlock)
+{
+    const auto query = [favorites = m_surroundings.favorites](const ListingsDictionary& lists, Instant now) {
+        return favoriteShows(lists.merged(), namesOf(favorites),
+                             [now](const MergedShows::Row& row) { return row.end > now; });
+    };
+    compoundQuery(query, priority, std::move(mainBlock));
+}
+
+void TVListings::favoritesScheduleWithPartialAllowed(bool, URLBlock block)
+{
+    // Without favourites no show is looked at, whether or not the caller would take part of the answer.
+    m_listingsDictionaryAccessQueue->async([this, scheme = m_surroundings.settings.scheme(), block = std::move(block)] {
+        const Instant now = m_surroundings.clock.now();
+        auto shows = std::make_shared<const ShowList>(
+            favoriteShows(dictionary()->merged(), namesOf(m_surroundings.favorites),
+                          [now](const MergedShows::Row& row) { return row.start > now; }));
+        auto byURL = std::make_shared<ShowsByURL>();
+        for (const Show& show : *shows) {
+            if (const auto url = show->entry->urlDigestWithScheme(scheme))
+                byURL->insert_or_assign(*url, show);
+        }
+        block(std::move(shows), std::move(byURL));
+    });
+}
+
+} // namespace vidora

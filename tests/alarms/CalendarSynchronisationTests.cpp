@@ -1,0 +1,315 @@
+#include "alarms/AlarmFixture.h"
+#include "platform/DeviceSettings.h"
+
+namespace vidora {
+
+namespace {
+
+const QString news = QStringLiteral("Dnevnik");
+
+} // namespace
+
+TEST_F(AlarmTest, AnEventFollowsItsBroadcastAtTheNextUpdate)
+{
+    update(one, {{news, 60, 90}, {QStringLiteral("Film"), 90, 200}});
+    favorite(news, 10);
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 60 on One -10")});
+    EXPECT_TRUE(alarms->synchronized());
+    EXPECT_EQ(engine->eventCount(), 1);
+    const Event made = calendars.committedEvents().front();
+    EXPECT_EQ(made.endDate - made.startDate, std::chrono::minutes(30));
+    EXPECT_FALSE(made.allDay);
+    EXPECT_EQ(made.url, TVEntry::urlDigestFromChannel(one, made.startDate, news, QStringLiteral("vidora")));
+
+    // By half an hour: the same event, its offset kept although the user has changed it meanwhile.
+    Event changed = made;
+    changed.alarms = {{Seconds{-300}}};
+    put(changed);
+    update(one, {{news, 90, 125}});
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 90 on One -5")});
+    EXPECT_EQ(calendars.committedEvents().front().eventIdentifier, made.eventIdentifier);
+    EXPECT_EQ(calendars.committedEvents().front().endDate, testNow + std::chrono::minutes(125));
+
+    // To another channel, nearest first; by five hours it is another broadcast.
+    update(one, {});
+    update(two, {{news, 0, 20}, {news, 80, 110}, {news, 110, 140}});
+    EXPECT_EQ(seen(),
+              (QStringList{QStringLiteral("Dnevnik at 80 on Two -5"), QStringLiteral("Dnevnik at 110 on Two -10")}));
+    update(two, {{news, 420, 440}});
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 420 on Two -10")});
+
+    // With nothing to change, nothing is written.
+    const int writes = calendars.writeCount();
+    sync();
+    start();
+    EXPECT_EQ(calendars.writeCount(), writes);
+    EXPECT_EQ(engine->eventCount(), 1);
+}
+
+TEST_F(AlarmTest, ABroadcastShownTwiceHasOneEvent)
+{
+    update(one, {{news, 60, 90}, {news, 60, 90}, {news, 300, 330}});
+    engine->addFavorite(news);
+    shows->setFavorites({std::make_shared<const Favorite>(news, 10, testNow),
+                         std::make_shared<const Favorite>(news.toUpper(), 20, testNow)});
+    sync();
+    EXPECT_EQ(seen(),
+              (QStringList{QStringLiteral("Dnevnik at 60 on One -10"), QStringLiteral("Dnevnik at 300 on One -10")}));
+}
+
+TEST_F(AlarmTest, AVanishedBroadcastTakesItsEventAlongOnlyWhereTheListIsFresh)
+{
+    update(one, {{news, 60, 90}});
+    update(two, {{news, 2000, 2030}});
+    favorite(news, 10);
+    ASSERT_EQ(seen().size(), 2);
+
+    fresh = {two};
+    update(one, {});
+    EXPECT_EQ(seen().size(), 2) << "the list may only not be loaded";
+    titles.erase(one);
+    sync();
+    EXPECT_EQ(seen().size(), 2) << "the channel has left the catalogue";
+    titles[one] = QStringLiteral("One");
+    fresh = {one, two};
+    sync();
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 2000 on Two -10")});
+
+    // With no broadcast of a favourite in memory nothing is judged.
+    update(two, {});
+    EXPECT_EQ(seen().size(), 1);
+
+    // Nor without favourites.
+    engine->removeFavorite(news);
+    settle();
+    EXPECT_TRUE(seen().isEmpty());
+    put(event(news, 60, QStringLiteral("One"), QStringLiteral("vidora://left/over")));
+    sync();
+    EXPECT_EQ(seen().size(), 1);
+}
+
+TEST_F(AlarmTest, CleansUpItsOwnBrokenAndDoubleEventsAndNobodyElses)
+{
+    const QStringList foreign{QStringLiteral("https://example.org/1"), QString(), QStringLiteral("vidorax://x/1")};
+    for (const QString& url : foreign) {
+        put(event(news, 60, QString(), url, {}));
+        put(event(news, 60, QString(), url, {}));
+    }
+    engine->addFavorite(news);
+    const QString ours = QStringLiteral("vidora://host/1");
+    put(event(QStringLiteral("No place"), 100, QString(), ours));
+    put(event(QStringLiteral("No alarm"), 110, QStringLiteral("One"), ours, {}));
+    put(event(QStringLiteral("Twice"), -120, QStringLiteral("One"), ours));
+    put(event(QStringLiteral("TWICE"), -120, QStringLiteral("One"), ours));
+    put(event(QStringLiteral("Twice"), -120, QStringLiteral("Two"), ours));
+    sync();
+    QStringList left = seen();
+    EXPECT_EQ(left.removeAll(QStringLiteral("Dnevnik at 60 on ")), 6);
+    EXPECT_EQ(left,
+              (QStringList{QStringLiteral("Twice at -120 on One -10"), QStringLiteral("Twice at -120 on Two -10")}));
+}
+
+TEST_F(AlarmTest, SilentHoursTakeFavouriteAlarmsAwayAndLeaveThoseSetByHand)
+{
+    update(one, {{news, 60, 90}, {QStringLiteral("Film"), 90, 200}, {news, 600, 630}});
+    favorite(news, 10);
+    engine->setAlarmForTitle(QStringLiteral("Film"), one, testNow + std::chrono::minutes(90),
+                             testNow + std::chrono::minutes(200), 15, true, true);
+    settle();
+    ASSERT_EQ(seen().size(), 3);
+
+    const QTimeZone zone = DeviceSettings::timeZone();
+    const auto setSilent = [&](int from, int to) {
+        const QTime now = SilentHours::timeOf(testNow, zone);
+        silentHours.setFromTimestamp(SilentHours::timestampOf(now.addSecs(from * 60), zone));
+        silentHours.setToTimestamp(SilentHours::timestampOf(now.addSecs(to * 60), zone));
+        silentHours.setEnabled(true);
+    };
+    setSilent(40, 80); // 19:00 UTC is 15:30 at the device
+    sync();
+    EXPECT_EQ(seen(),
+              (QStringList{QStringLiteral("Film at 90 on One -15"), QStringLiteral("Dnevnik at 600 on One -10")}));
+    sync();
+    EXPECT_EQ(seen().size(), 2);
+    engine->setAlarmForTitle(news, one, testNow + std::chrono::minutes(60), testNow + std::chrono::minutes(90), 10,
+                             true, false);
+    settle();
+    EXPECT_EQ(seen().size(), 2) << "not by hand";
+
+    silentHours.setEnabled(false);
+    sync();
+    EXPECT_EQ(seen().front(), QStringLiteral("Dnevnik at 60 on One -10"));
+}
+
+TEST_F(AlarmTest, AManualAlarmOfNoFavouriteGoesWithItsBroadcast)
+{
+    update(one, {{QStringLiteral("Film"), 90, 200}, {news, 300, 330}});
+    engine->addFavorite(news);
+    engine->setAlarmForTitle(QStringLiteral("Film"), one, testNow + std::chrono::minutes(90),
+                             testNow + std::chrono::minutes(200), 15, true, true);
+    settle();
+    EXPECT_EQ(seen().size(), 1);
+    sync(); // the address is none of a favourite's
+    EXPECT_TRUE(seen().isEmpty());
+}
+
+TEST_F(AlarmTest, AFailureLeavesTheWorkForTheNextTime)
+{
+    update(one, {{news, 60, 90}});
+    favorite(news, 10);
+    calendars.setUnreadable(true);
+    update(one, {{news, 70, 90}});
+    EXPECT_FALSE(alarms->synchronized());
+    EXPECT_EQ(engine->eventCount(), 1);
+    calendars.setUnreadable(false);
+    engine->syncAlarms();
+    settle();
+    EXPECT_TRUE(alarms->synchronized());
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 70 on One -10")});
+
+    // Refused: nothing is pending, no event is made, the favourite is one all the same.
+    calendars.setAuthorizationStatus(AuthorizationStatus::Denied, false);
+    engine->setSynchronized(false);
+    favorite(QStringLiteral("Film"), 5);
+    sync();
+    EXPECT_TRUE(alarms->synchronized());
+    EXPECT_TRUE(shows->containsFavoriteNamed(QStringLiteral("Film")));
+    // Granted later.
+    calendars.setAuthorizationStatus(AuthorizationStatus::NotDetermined, true);
+    update(one, {{news, 80, 90}});
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 80 on One -10")});
+}
+
+TEST_F(AlarmTest, AChangeDuringASynchronisationIsNotCoveredUp)
+{
+    update(one, {{news, 60, 90}});
+    favorite(news, 10);
+    const std::uint64_t before = alarms->changes();
+    alarms->setSynchronized(false);
+    alarms->setSynchronizedUnlessChanged(before);
+    EXPECT_FALSE(alarms->synchronized());
+    EXPECT_FALSE(Alarms(folder.path()).synchronized());
+    sync();
+    EXPECT_TRUE(Alarms(folder.path()).synchronized());
+}
+
+TEST_F(AlarmTest, TheCalendarIsFoundAgainByItsLooks)
+{
+    const auto calendar = [](const char* id, const char* title, const char* source, double red, bool writable = true) {
+        return Calendar{QString::fromLatin1(id), QString::fromLatin1(title), QString::fromLatin1(source),
+                        CalendarColor{red, 0, 0, 1}, writable};
+    };
+    const Calendar work = calendar("w", "Work", "A", 0.25);
+    EXPECT_EQ(SelectedCalendar::colorStringForCalendar(work),
+              QStringLiteral("Work:A:0.250000:0.000000:0.000000:1.000000"));
+    Calendar plain = work;
+    plain.color.reset();
+    EXPECT_TRUE(SelectedCalendar::colorStringForCalendar(plain).endsWith(
+        QStringLiteral(":0.500000:0.500000:0.500000:0.500000")));
+
+    MemoryEventStore store;
+    const std::vector<std::pair<std::vector<Calendar>, const char*>> cases{
+        {{calendar("a", "Work", "B", 1), calendar("b", "Work", "A", 0.5), calendar("c", "Work", "A", 0.25)}, "c"},
+        {{calendar("a", "Work", "B", 1), calendar("b", "Work", "A", 0.5)}, "b"},
+        {{calendar("0", "Another", "A", 0.25), calendar("a", "Work", "B", 1)}, "a"},
+        {{calendar("0", "Another", "A", 0.25), calendar("c", "Work", "A", 0.25, false)}, "0"},
+    };
+    for (const auto& [present, expected] : cases) {
+        store.setCalendars(present);
+        defaults.setObject(SelectedCalendar::colorStringForCalendar(work), SelectedCalendar::key);
+        SelectedCalendar selected(store, defaults);
+        EXPECT_TRUE(selected.ensureSelectedCalendarIsSet());
+        EXPECT_EQ(selected.calendar()->calendarIdentifier, QLatin1String(expected));
+        EXPECT_FALSE(selected.ensureSelectedCalendarIsSet());
+    }
+    calendars.setCalendars({home, work});
+    engine->saveCalendar(work);
+    settle();
+    EXPECT_EQ(engine->selectedCalendar(), work);
+    EXPECT_EQ(keyValueStore.stringForKey(SelectedCalendar::key), defaults.stringForKey(SelectedCalendar::key));
+    start();
+    EXPECT_EQ(engine->selectedCalendar(), work);
+}
+
+/// Random sequences of the user's doings here and of what happens to the calendar elsewhere.
+TEST_F(AlarmTest, WhateverHappensOthersEventsStayAndOursAreNotDoubled)
+{
+    std::uint32_t state = 7;
+    const auto draw = [&](std::uint32_t bound) { return (state = state * 1664525 + 1013904223) / 65536 % bound; };
+    const QStringList names = QStringLiteral("Dnevnik Film Vesti").split(QLatin1Char(' '));
+    std::map<QString, QString> foreign;
+    const auto text = [](const Event& event) {
+        return QStringLiteral("%1|%2|%3|%4")
+            .arg(event.title, event.location, isoText(event.startDate))
+            .arg(event.alarms.size());
+    };
+    for (int step = 0; step < 300; ++step) {
+        const QString name = names[draw(3)];
+        const ObjectId channel = draw(2) ? one : two;
+        const int minute = 30 * int(1 + draw(40));
+        const Instant at = testNow + std::chrono::minutes(minute);
+        switch (draw(9)) {
+        case 0:
+        case 1:
+        case 2: {
+            std::vector<TestShow> list;
+            for (int from = minute; from < minute + 90 * int(draw(6)); from += 90)
+                list.push_back({names[draw(3)], from, from + 90});
+            listings->storeList(channel, listOf(channel, list));
+            listings->saveAllShows();
+            listings->listingsStored();
+            break;
+        }
+        case 3:
+            engine->addFavorite(name);
+            engine->setAlarmForTitle(name, int(draw(30)), std::nullopt, true);
+            break;
+        case 4:
+            draw(2) ? engine->removeFavorite(name) : engine->removeAlarmForTitle(name, true, true);
+            break;
+        case 5:
+            engine->setAlarmForTitle(name, channel, at, at + std::chrono::minutes(30), 5, true, true);
+            break;
+        case 6:
+            engine->removeAlarmForTitle(name, channel, at, true, true);
+            break;
+        case 7: {
+            Event others = event(name, minute, titles[channel], QLatin1String(draw(2) ? "https://a.example/" : ""),
+                                 draw(2) ? std::vector<int>{-10} : std::vector<int>{});
+            put(others);
+            for (const Event& stored : calendars.committedEvents()) {
+                if (!isOurs(stored, QStringLiteral("vidora")))
+                    foreign[stored.eventIdentifier] = text(stored);
+            }
+            break;
+        }
+        default: // one of ours is moved by hand, or doubled by a calendar program
+            for (Event event : calendars.committedEvents()) {
+                if (!isOurs(event, QStringLiteral("vidora")) || draw(3))
+                    continue;
+                if (draw(2))
+                    event.eventIdentifier.clear();
+                else
+                    event.startDate = event.endDate = event.startDate + std::chrono::minutes(15);
+                put(event);
+                break;
+            }
+        }
+        if (draw(3) == 0)
+            settle();
+    }
+    engine->addFavorite(news);
+    sync();
+    sync();
+    std::set<QString> places;
+    std::size_t othersSeen = 0;
+    for (const Event& event : calendars.committedEvents()) {
+        if (isOurs(event, QStringLiteral("vidora")))
+            EXPECT_TRUE(places.insert(text(event).toLower()).second);
+        else
+            othersSeen += foreign.at(event.eventIdentifier) == text(event);
+    }
+    EXPECT_EQ(othersSeen, foreign.size());
+}
+
+} // namespace vidora
