@@ -2,6 +2,7 @@
 #include "platform/CachedURLSession.h"
 #include "platform/NetworkURLSession.h"
 
+#include <QCryptographicHash>
 #include <QTemporaryDir>
 
 #include <condition_variable>
@@ -110,6 +111,44 @@ TEST_F(NetworkURLSessionTest, DeliversBodyStatusAndFieldsWhateverTheStatus)
     EXPECT_EQ(missing.response->statusCode, 404);
     EXPECT_EQ(missing.data, QByteArray(""));
     EXPECT_FALSE(missing.error);
+}
+
+TEST_F(NetworkURLSessionTest, SendsBodiesAndProvesWhoItIsToWhomItIsTold)
+{
+    const auto md5 = [](const QByteArray& text) -> QByteArray {
+        return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
+    };
+    server.Put("/basic", [](const httplib::Request& asked, httplib::Response& answer) {
+        answer.set_content(asked.get_header_value("Authorization") + "|" + asked.body, "text/plain");
+    });
+    server.Put("/digest", [&](const httplib::Request& asked, httplib::Response& answer) {
+        const QByteArray given = QByteArray::fromStdString(asked.get_header_value("Authorization"));
+        const QByteArray expected = md5(md5("ana:home:s3:cret") + ":n0nce:" + md5("PUT:/digest"));
+        answer.status = given.contains(expected) ? 201 : 401;
+        if (answer.status == 401)
+            answer.set_header("WWW-Authenticate", "Digest realm=\"home\", nonce=\"n0nce\", algorithm=MD5");
+        answer.set_content(asked.body, "text/plain");
+    });
+    server.Get("/plain", [](const httplib::Request& asked, httplib::Response& answer) {
+        answer.set_content(asked.get_header_value("Authorization") + asked.body, "text/plain");
+    });
+    URLRequest put = request("/basic");
+    put.httpMethod = "PUT";
+    put.httpBody = QByteArray("a\0b", 3);
+    put.credentials = URLCredentials{QStringLiteral("ana"), QStringLiteral("s3:cret"), URLAuthentication::Basic};
+    EXPECT_EQ(session.perform(put).data.value_or("none"),
+              "Basic " + QByteArray("ana:s3:cret").toBase64() + "|" + *put.httpBody);
+    URLRequest digest = request("/digest");
+    digest.httpMethod = "PUT";
+    digest.headerFields.set("Content-Type", "text/calendar");
+    digest.httpBody = QByteArray(50'000, 'x');
+    digest.credentials = put.credentials;
+    digest.credentials->authentication = URLAuthentication::Digest;
+    const URLResult answered = session.perform(digest);
+    ASSERT_TRUE(answered.response);
+    EXPECT_EQ(answered.response->statusCode, 201);
+    EXPECT_EQ(answered.data, digest.httpBody);
+    EXPECT_EQ(session.perform(request("/plain")).data, QByteArray(""));
 }
 
 TEST_F(NetworkURLSessionTest, UndoesATransferEncodingButNotACompressedFile)
