@@ -4,6 +4,7 @@
 #include "platform/Log.h"
 
 #include <algorithm>
+#include <atomic>
 #include <unordered_set>
 
 namespace vidora {
@@ -95,8 +96,10 @@ void UpdateCycle::checkAndUpdateAllChannels()
 
 void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
 {
-    m_listingsUpdateTask =
-        m_services.application.beginBackgroundTask(QStringLiteral("listings update"), [this] { endBackgroundTask(); });
+    // Of its own for each pass: the next one may begin before the main thread has ended this one's.
+    const auto task = std::make_shared<std::atomic<Application::BackgroundTaskIdentifier>>();
+    const auto endTask = [&application = m_services.application, task] { application.endBackgroundTask(*task); };
+    *task = m_services.application.beginBackgroundTask(QStringLiteral("listings update"), endTask);
 
     Pass pass;
     for (const ObjectId& id : m_services.channels.selected()) {
@@ -116,7 +119,7 @@ void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
     for (const URLSet& urls : pass.inOrder())
         update(pass, urls);
 
-    m_mainBlocks.async([this] { endBackgroundTask(); });
+    m_mainBlocks.async(endTask);
     if (pass.parsedAnything)
         m_services.loadQueue.sync([this] { m_services.listings.updatePopularList(); });
     m_mainBlocks.async(
@@ -235,14 +238,6 @@ void UpdateCycle::setLoading(const ChannelItems& items, bool loading) const
         if (const auto channel = m_services.channels.channelWithChannelId(item.channel))
             channel->setLoading(loading);
     }
-}
-
-void UpdateCycle::endBackgroundTask()
-{
-    if (m_listingsUpdateTask == Application::backgroundTaskInvalid)
-        return;
-    m_services.application.endBackgroundTask(m_listingsUpdateTask);
-    m_listingsUpdateTask = Application::backgroundTaskInvalid;
 }
 
 } // namespace vidora

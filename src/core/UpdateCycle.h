@@ -90,13 +90,11 @@ private:
     QString parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
     void publish(Pass& pass, const ListingParser::Result& result);
     void setLoading(const ChannelItems& items, bool loading) const;
-    void endBackgroundTask();
 
     const Services m_services;
     UpdateObserver& m_observer;
     BlockOwner m_mainBlocks;
     DispatchGroup m_passes; ///< asked for and not over yet
-    Application::BackgroundTaskIdentifier m_listingsUpdateTask = Application::backgroundTaskInvalid;
 };
 
 } // namespace vidora
