@@ -67,6 +67,8 @@ private:
             line.log = true;
         else if (equals < 0 && name == QLatin1String("--help"))
             line.help = true;
+        else if (equals < 0 && name == QLatin1String("--self-test"))
+            line.selfTest = true;
         else if (name == QLatin1String("--home"))
             line.home = valueOf(name, argument, equals);
         else if (name == QLatin1String("--clock"))
@@ -97,7 +99,7 @@ private:
     void checkCommand()
     {
         const CommandLine& line = m_result.line;
-        if (line.command.isEmpty())
+        if (line.command.isEmpty() || line.opensAddress())
             return;
         const auto arity = commands().constFind(line.command);
         if (arity == commands().cend())
@@ -129,7 +131,8 @@ QString commandLineHelp()
     return QCoreApplication::translate("vidora",
                                        "Usage: vidora [COMMAND] [OPTION]...\n"
                                        "\n"
-                                       "Without a command: what is on now, after an update where one is due.\n"
+                                       "Without a command: the window; without a display, what is on now, after an\n"
+                                       "update where one is due.\n"
                                        "\n"
                                        "  now               what is on now and next on the chosen channels\n"
                                        "  channel X         all coming shows of a channel, by days\n"
@@ -146,7 +149,8 @@ QString commandLineHelp()
                                        "  --json            answers for programs\n"
                                        "  --home DIR        keep everything in this folder\n"
                                        "  --clock TIME      the guide as at another moment: 2026-11-22T19:00:00Z\n"
-                                       "  --log             say on standard error what was fetched and found\n");
+                                       "  --log             say on standard error what was fetched and found\n"
+                                       "  --self-test       load every part of the window and quit\n");
 }
 
 } // namespace vidora

@@ -17,8 +17,12 @@ struct CommandLine
     bool json = false;
     bool log = false;
     bool help = false;
+    bool selfTest = false; ///< load every part of the window, show nothing
     std::optional<QString> home;
     std::optional<Instant> clock;
+
+    /// Whether the one argument is an address in the application's own scheme, as the desktop hands it over.
+    bool opensAddress() const { return command.startsWith(QLatin1String("vidora:")) && arguments.isEmpty(); }
 };
 
 /// The command line, or a message that says what is wrong with it.

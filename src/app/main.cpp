@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/Commands.h"
+#include "app/WindowProgram.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -18,6 +19,12 @@ int main(int argc, char** argv)
     if (read.line.help) {
         std::fputs(qUtf8Printable(vidora::commandLineHelp()), stdout);
         return 0;
+    }
+    if (vidora::wantsWindow(read.line))
+        vidora::becomeWindow(argv);
+    if (read.line.selfTest || read.line.opensAddress()) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(QCoreApplication::translate("vidora", "There is no window here.")));
+        return 1;
     }
     return vidora::runCommand(read.line);
 }

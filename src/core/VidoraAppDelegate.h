@@ -124,6 +124,10 @@ public:
     KeyValueStore& keyValueStore() { return m_keyValueStore; }
     Application& application() { return m_application; }
     PageFetcher& fetcher() { return *m_fetcher; }
+    /// The network behind the shared response cache. Any thread but the main one.
+    URLSession& session() { return m_session; }
+    HTTPUserAgent& userAgent() { return m_userAgent; }
+    NetworkActivity& networkActivity() { return m_networkActivity; }
     AlarmSynchronisation& alarmSynchronisation() { return *m_storeServices; }
     NetworkAlerts& networkAlerts() { return m_networkAlerts; }
     const Environment& environment() const { return m_environment; }

@@ -27,12 +27,14 @@ TEST(CommandLine, TakesOptionsAnywhere)
     EXPECT_FALSE(ended.json);
     EXPECT_TRUE(readCommandLine({}).line.command.isEmpty());
     EXPECT_TRUE(readCommandLine(words("nonsense|-h")).line.help);
+    EXPECT_TRUE(readCommandLine(words("vidora://x")).line.opensAddress());
+    EXPECT_FALSE(readCommandLine(words("search|vidora://x")).line.opensAddress());
 }
 
 TEST(CommandLine, SaysWhatIsWrong)
 {
-    for (const char* text : {"nonsense", "now|later", "import", "import|a|b", "search", "select", "--nonsense",
-                             "--home", "now|--home=", "now|--json=1", "--clock|yesterday", "--clock"})
+    for (const char* text : {"nonsense", "now|later", "import", "import|a|b", "search", "vidora://x|y", "select",
+                             "--nonsense", "--home", "now|--home=", "now|--json=1", "--clock|yesterday", "--clock"})
         EXPECT_TRUE(readCommandLine(words(text)).error) << text;
 }
 

@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <map>
@@ -43,6 +44,11 @@ public:
 
     void start(QProcess& process, const QStringList& arguments) const
     {
+        // Without a display: a start without a command would open the window else.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QString::fromLatin1(name));
+        process.setProcessEnvironment(environment);
         process.start(QStringLiteral(VIDORA_PROGRAM),
                       QStringList{QStringLiteral("--home"), path(), QStringLiteral("--clock"),
                                   QStringLiteral("2026-11-22T19:00:00Z")} +

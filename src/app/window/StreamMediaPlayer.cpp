@@ -1,0 +1,83 @@
+#include "app/window/StreamMediaPlayer.h"
+
+#include <QAudioOutput>
+#include <QUrl>
+
+namespace vidora {
+
+StreamMediaPlayer::StreamMediaPlayer(const URL& url)
+    : m_audio(new QAudioOutput(this))
+{
+    m_player.setAudioOutput(m_audio);
+    connect(&m_player, &QMediaPlayer::mediaStatusChanged, this, &StreamMediaPlayer::stateChanged);
+    connect(&m_player, &QMediaPlayer::playbackStateChanged, this, &StreamMediaPlayer::stateChanged);
+    connect(&m_player, &QMediaPlayer::errorChanged, this, &StreamMediaPlayer::stateChanged);
+    connect(m_audio, &QAudioOutput::volumeChanged, this, &StreamMediaPlayer::volumeChanged);
+    const QUrl source(url.text());
+    m_isRefused = source.scheme() != QLatin1String("http") && source.scheme() != QLatin1String("https");
+    if (!m_isRefused)
+        m_player.setSource(source);
+}
+
+StreamMediaPlayer::~StreamMediaPlayer()
+{
+    m_player.stop();
+}
+
+StreamPlayer::Status StreamMediaPlayer::status() const
+{
+    if (m_isRefused || m_player.error() != QMediaPlayer::NoError)
+        return Status::Failed;
+    switch (m_player.mediaStatus()) {
+    case QMediaPlayer::LoadedMedia:
+    case QMediaPlayer::BufferingMedia:
+    case QMediaPlayer::BufferedMedia:
+    case QMediaPlayer::EndOfMedia:
+        return Status::ReadyToPlay;
+    case QMediaPlayer::InvalidMedia:
+        return Status::Failed;
+    case QMediaPlayer::NoMedia:
+    case QMediaPlayer::LoadingMedia:
+    case QMediaPlayer::StalledMedia:
+        break;
+    }
+    return Status::Unknown;
+}
+
+void StreamMediaPlayer::play()
+{
+    m_player.play();
+}
+
+void StreamMediaPlayer::pause()
+{
+    m_player.pause();
+}
+
+void StreamMediaPlayer::seekToStart()
+{
+    m_player.setPosition(0);
+}
+
+void StreamMediaPlayer::setVideoOutput(QObject* output)
+{
+    m_player.setVideoOutput(output);
+    Q_EMIT videoOutputChanged();
+}
+
+qreal StreamMediaPlayer::volume() const
+{
+    return m_audio->volume();
+}
+
+void StreamMediaPlayer::setVolume(qreal volume)
+{
+    m_audio->setVolume(static_cast<float>(volume));
+}
+
+void StreamMediaPlayer::toggle()
+{
+    isPlaying() ? m_player.pause() : m_player.play();
+}
+
+} // namespace vidora

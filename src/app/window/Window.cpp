@@ -1,0 +1,174 @@
+#include "app/window/Window.h"
+
+#include "app/Device.h"
+#include "app/window/Appearance.h"
+#include "app/window/ShowPictureLoader.h"
+#include "app/window/SingleInstance.h"
+#include "app/window/WindowImages.h"
+#include "app/window/WindowModel.h"
+#include "platform/Log.h"
+#include "platform/MemoryWarnings.h"
+#include "platform/Signals.h"
+#include "platform/SignificantTimeChange.h"
+
+#include <QDirIterator>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QScreen>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace vidora {
+
+namespace {
+
+const QString modules = QStringLiteral("qrc:/qt/qml");
+const QString files = QStringLiteral(":/qt/qml/Vidora");
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+} // namespace
+
+void prepareEngine(QQmlEngine& engine)
+{
+    if (QQuickStyle::name() != QLatin1String("Basic")) // it can't be set again once it is in use
+        QQuickStyle::setStyle(QStringLiteral("Basic"));
+    engine.addImportPath(modules);
+    engine.addImageProvider(QStringLiteral("symbols"), new SymbolImages);
+    engine.addImageProvider(QStringLiteral("icons"), new IconImages);
+}
+
+namespace {
+
+/// The open window, from its first frame to its last.
+class OpenWindow
+{
+public:
+    explicit OpenWindow(Device& device)
+        : m_device(device)
+        , m_pictures(delegate(), pictureLimit(), QGuiApplication::primaryScreen()->devicePixelRatio())
+        , m_model(delegate())
+        , m_appearance([this](bool dark) { m_model.setDark(chosenAppearance().value_or(dark)); })
+        , m_memoryWarnings([this] { memoryWarning(); }, device.clock())
+        , m_timeChange([this] { delegate().applicationSignificantTimeChange(); })
+        , m_signals([](int) { QCoreApplication::quit(); })
+    {
+        ShowServices services = delegate().showServices();
+        services.pictures = &m_pictures;
+        delegate().setShowServices(services);
+        prepareEngine(m_engine);
+        m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures.shelf()));
+        m_engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue<QObject*>(&m_model)}});
+        m_engine.load(QUrl(modules + QLatin1String("/Vidora/Main.qml")));
+    }
+
+    ~OpenWindow() { delegate().setShowServices({}); }
+
+    bool isOpen() const { return !m_engine.rootObjects().isEmpty(); }
+
+    void receive(const QString& address)
+    {
+        if (auto* window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0))) {
+            window->show();
+            window->raise();
+            window->requestActivate();
+        }
+        m_model.openAddress(address);
+    }
+
+private:
+    VidoraAppDelegate& delegate() { return m_device.delegate(); }
+
+    /// What the user set by hand, whatever the desktop says.
+    std::optional<bool> chosenAppearance()
+    {
+        const std::optional<QString> chosen = delegate().defaults().stringForKey(QStringLiteral("appearance"));
+        if (chosen == QLatin1String("dark"))
+            return true;
+        return chosen == QLatin1String("light") ? std::optional(false) : std::nullopt;
+    }
+
+    void memoryWarning()
+    {
+        delegate().applicationDidReceiveMemoryWarning();
+        m_pictures.shelf()->clear();
+        m_engine.trimComponentCache();
+    }
+
+    /// Longest side of a show's picture: a part of the screen, and no more than a row has room for.
+    static double pictureLimit()
+    {
+        constexpr double part = 0.3125, roomOfRow = 99;
+        const QSize screen = QGuiApplication::primaryScreen()->size();
+        return std::min(std::min(screen.width(), screen.height()) * part - 1, roomOfRow);
+    }
+
+    Device& m_device;
+    ShowPictureLoader m_pictures;
+    WindowModel m_model;
+    Appearance m_appearance;
+    MemoryWarnings m_memoryWarnings;
+    SignificantTimeChange m_timeChange;
+    Signals m_signals;
+    QQmlApplicationEngine m_engine;
+};
+
+QString homeOf(const CommandLine& line)
+{
+    return line.home ? QFileInfo(*line.home).absoluteFilePath() : QStringLiteral("user");
+}
+
+} // namespace
+
+int runWindow(const CommandLine& line)
+{
+    const QString address = line.opensAddress() ? line.command : QString();
+    if (line.log)
+        Log::setSink(say);
+    SingleInstance instance(homeOf(line));
+    if (instance.handOver(address))
+        return 0;
+    Device device(line, Device::Access::Write, true);
+    int status = 1;
+    {
+        OpenWindow window(device);
+        if (window.isOpen()) {
+            instance.listen([&](const QString& message) { window.receive(message); });
+            DispatchQueue::main().async([&] { device.delegate().applicationDidBecomeActive(); });
+            if (!address.isEmpty())
+                DispatchQueue::main().async([&] { window.receive(address); });
+            status = QCoreApplication::exec();
+        }
+    }
+    device.quit();
+    return status;
+}
+
+int testWindow()
+{
+    QQmlEngine engine;
+    prepareEngine(engine);
+    int tested = 0, wrong = 0;
+    QDirIterator at(files, {QStringLiteral("*.qml")}, QDir::Files);
+    while (at.hasNext()) {
+        const QString path = at.next();
+        if (path.endsWith(QLatin1String("/Theme.qml")))
+            continue; // a singleton, which all the others load
+        QQmlComponent component(&engine, QUrl(QLatin1String("qrc") + path));
+        ++tested;
+        if (component.isReady())
+            continue;
+        ++wrong;
+        say(component.errorString());
+    }
+    return tested > 0 && wrong == 0 ? 0 : 1;
+}
+
+} // namespace vidora

@@ -1,0 +1,182 @@
+#include "app/window/WindowModel.h"
+
+#include <QFontInfo>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace vidora {
+
+namespace {
+
+const QString selectedTabKey = QStringLiteral("window.tab");
+const QString widthKey = QStringLiteral("window.width");
+const QString heightKey = QStringLiteral("window.height");
+
+} // namespace
+
+WindowModel::WindowModel(VidoraAppDelegate& delegate)
+    : m_delegate(delegate)
+    , m_tabs(delegate)
+{
+    m_tabs.tabsChanged = [this] { followTabs(); };
+    m_tabs.visibleScreenChanged = [this] { followTabs(); };
+    m_tabs.alertPresented = [this](Alert alert) {
+        m_alerts.push_back(std::move(alert));
+        if (m_alerts.size() == 1)
+            showNextAlert();
+    };
+    m_tabs.stream().playerWithURL = [this](const URL& url) {
+        m_player = std::make_shared<StreamMediaPlayer>(url);
+        return m_player;
+    };
+    m_tabs.stream().playerChanged = [this] { followPlayer(); };
+    m_delegate.setUpdateObserver(&m_progress);
+    restoreTab();
+    followTabs();
+}
+
+WindowModel::~WindowModel()
+{
+    m_delegate.setUpdateObserver(nullptr);
+    m_tabs.tabsChanged = m_tabs.visibleScreenChanged = m_tabs.stream().playerChanged = {};
+    m_tabs.alertPresented = {};
+}
+
+QVariantList WindowModel::tabs() const
+{
+    QVariantList list;
+    for (const auto& tab : m_tabs.tabs()) {
+        list << QVariantMap{{QStringLiteral("title"), tab.title},
+                            {QStringLiteral("symbol"), tab.name},
+                            {QStringLiteral("badge"), tab.badge.value_or(QString())},
+                            {QStringLiteral("enabled"), tab.enabled}};
+    }
+    return list;
+}
+
+qreal WindowModel::fontScale() const
+{
+    constexpr qreal usualPixels = 13; // ten points at 96 dots an inch
+    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / usualPixels, 0.85, 2.5);
+}
+
+QSize WindowModel::windowSize() const
+{
+    constexpr int least = 320, most = 10'000, width = 1024, height = 768;
+    const auto kept = [this](const QString& key, int usual) {
+        const auto value = static_cast<int>(m_delegate.defaults().integerForKey(key));
+        return value < least || value > most ? usual : value;
+    };
+    return {kept(widthKey, width), kept(heightKey, height)};
+}
+
+void WindowModel::keepWindowSize(int width, int height)
+{
+    m_delegate.defaults().setInteger(width, widthKey);
+    m_delegate.defaults().setInteger(height, heightKey);
+}
+
+void WindowModel::setDark(bool dark)
+{
+    if (dark == m_isDark)
+        return;
+    m_isDark = dark;
+    Q_EMIT darkChanged();
+}
+
+void WindowModel::openAddress(const QString& address)
+{
+    if (const auto url = URL::fromText(address))
+        m_tabs.openURL(*url);
+}
+
+void WindowModel::setPad(bool isPad)
+{
+    m_tabs.setPad(isPad);
+}
+
+void WindowModel::selectTab(int index)
+{
+    const std::vector<PersistentAdTabBarController::Tab> tabs = m_tabs.tabs();
+    const auto wanted = static_cast<std::size_t>(index);
+    if (index < 0 || wanted >= tabs.size() || !tabs[wanted].enabled)
+        return;
+    m_tabs.selectTab(wanted);
+    m_delegate.defaults().setObject(tabs[wanted].name, selectedTabKey);
+}
+
+void WindowModel::restoreTab()
+{
+    const std::optional<QString> name = m_delegate.defaults().stringForKey(selectedTabKey);
+    const std::vector<PersistentAdTabBarController::Tab> tabs = m_tabs.tabs();
+    const auto at = std::find_if(tabs.begin(), tabs.end(), [&](const auto& tab) { return tab.name == name; });
+    if (at != tabs.end() && at->enabled)
+        m_tabs.selectTab(static_cast<std::size_t>(at - tabs.begin()));
+}
+
+void WindowModel::followTabs()
+{
+    std::vector<ScreenList::Stack> stacks;
+    for (const auto& tab : m_delegate.tabBarController().viewControllers()) {
+        const auto navigation = std::dynamic_pointer_cast<NavigationController>(tab);
+        if (!navigation)
+            continue;
+        ScreenList::Stack stack;
+        for (const auto& controller : navigation->viewControllers()) {
+            if (auto screen = std::dynamic_pointer_cast<ScreenModel>(controller))
+                stack.push_back(std::move(screen));
+        }
+        stacks.push_back(std::move(stack));
+    }
+    m_screens.follow(stacks, m_tabs.visibleScreen().get());
+    Q_EMIT visibleScreenChanged();
+    Q_EMIT tabsChanged();
+}
+
+void WindowModel::followPlayer()
+{
+    if (!m_tabs.stream().player())
+        m_player.reset();
+    Q_EMIT playerChanged();
+}
+
+void WindowModel::closePlayer()
+{
+    m_tabs.stream().moviePlayerPlaybackDidFinish();
+}
+
+void WindowModel::setColours(const QVariantMap& colours)
+{
+    RichTextStyle style;
+    for (auto at = colours.cbegin(); at != colours.cend(); ++at)
+        style.colours.insert(at.key(), at.value().toString());
+    style.scale = fontScale();
+    m_screens.setStyle(style);
+}
+
+void WindowModel::showNextAlert()
+{
+    const Alert& alert = m_alerts.front();
+    QStringList actions;
+    for (const AlertAction& action : alert.actions)
+        actions << action.title;
+    Q_EMIT alertPresented({{QStringLiteral("title"), alert.title},
+                           {QStringLiteral("message"), alert.message},
+                           {QStringLiteral("actions"), actions}});
+}
+
+void WindowModel::answerAlert(int action)
+{
+    if (m_alerts.empty())
+        return;
+    const Alert alert = std::move(m_alerts.front());
+    m_alerts.pop_front();
+    const auto chosen = static_cast<std::size_t>(action);
+    if (action >= 0 && chosen < alert.actions.size() && alert.actions[chosen].handler)
+        alert.actions[chosen].handler();
+    if (!m_alerts.empty())
+        showNextAlert();
+}
+
+} // namespace vidora

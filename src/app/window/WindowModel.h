@@ -1,0 +1,86 @@
+#pragma once
+
+#include "app/window/PassProgress.h"
+#include "app/window/ScreenList.h"
+#include "app/window/StreamMediaPlayer.h"
+#include "screens/PersistentAdTabBarController.h"
+
+#include <QObject>
+#include <QSize>
+#include <QVariant>
+
+#include <deque>
+
+namespace vidora {
+
+/// The window as QML sees it: tabs, screens, the running pass, messages, the stream that plays. Main thread.
+class WindowModel final : public QObject
+{
+    Q_OBJECT
+    /// Maps of "title", "symbol", "badge" and "enabled".
+    Q_PROPERTY(QVariantList tabs READ tabs NOTIFY tabsChanged)
+    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY tabsChanged)
+    Q_PROPERTY(QAbstractItemModel* screens READ screens CONSTANT)
+    Q_PROPERTY(QObject* visibleScreen READ visibleScreen NOTIFY visibleScreenChanged)
+    Q_PROPERTY(QObject* progress READ progress CONSTANT)
+    /// The open player, or null.
+    Q_PROPERTY(QObject* player READ player NOTIFY playerChanged)
+    Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
+    Q_PROPERTY(qreal fontScale READ fontScale CONSTANT)
+    Q_PROPERTY(QSize windowSize READ windowSize CONSTANT)
+
+public:
+    /// The delegate has been launched and outlives this object.
+    explicit WindowModel(VidoraAppDelegate& delegate);
+    ~WindowModel() override;
+
+    QVariantList tabs() const;
+    int selectedTab() const { return static_cast<int>(m_tabs.selectedIndex()); }
+    QAbstractItemModel* screens() { return &m_screens; }
+    QObject* visibleScreen() const { return m_screens.visible(); }
+    QObject* progress() { return &m_progress; }
+    QObject* player() const { return m_player.get(); }
+    bool isDark() const { return m_isDark; }
+    qreal fontScale() const;
+    /// The size that the window had when it was last closed.
+    QSize windowSize() const;
+
+    void setDark(bool dark);
+    /// Shows the broadcast of an address in the application's scheme; any other leaves everything as it is.
+    void openAddress(const QString& address);
+
+    /// Phone or pad, by the width of the window.
+    Q_INVOKABLE void setPad(bool isPad);
+    Q_INVOKABLE void selectTab(int index);
+    Q_INVOKABLE void back() { m_tabs.back(); }
+    Q_INVOKABLE void closePlayer();
+    /// The colours of the theme by the name of the role.
+    Q_INVOKABLE void setColours(const QVariantMap& colours);
+    Q_INVOKABLE void answerAlert(int action);
+    Q_INVOKABLE void keepWindowSize(int width, int height);
+
+Q_SIGNALS:
+    void tabsChanged();
+    void visibleScreenChanged();
+    void playerChanged();
+    void darkChanged();
+    /// A message with "title", "message" and the titles of its "actions"; the next comes once this one is answered.
+    void alertPresented(const QVariantMap& alert);
+
+private:
+    void followTabs();
+    void followPlayer();
+    void showNextAlert();
+    void restoreTab();
+
+    VidoraAppDelegate& m_delegate;
+    PersistentAdTabBarController m_tabs;
+    ScreenList m_screens;
+    PassProgress m_progress;
+    std::shared_ptr<StreamMediaPlayer> m_player;
+    std::deque<Alert> m_alerts; ///< the first is the one that is shown
+    bool m_isDark = false;
+    bool m_isRestored = false;
+};
+
+} // namespace vidora

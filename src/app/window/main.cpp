@@ -1,0 +1,26 @@
+#include "app/CommandLine.h"
+#include "app/window/Window.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+int main(int argc, char** argv)
+{
+    const bool isSelfTest = std::any_of(argv + 1, argv + argc,
+                                        [](const char* argument) { return std::strcmp(argument, "--self-test") == 0; });
+    if (isSelfTest) // nothing is shown, so no display is needed
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("vidora"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tv.ostrel.vidora"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Vidora"));
+    const vidora::CommandLineResult read = vidora::readCommandLine(QCoreApplication::arguments().mid(1));
+    if (read.error) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(*read.error));
+        return 2;
+    }
+    return read.line.selfTest ? vidora::testWindow() : vidora::runWindow(read.line);
+}

@@ -1,0 +1,119 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// The window: the tabs beside or below the screens, and over them what needs the whole of it.
+ApplicationWindow {
+    id: window
+
+    required property var app
+    readonly property bool pad: width >= 700
+
+    title: app.visibleScreen ? qsTranslate("vidora", "%1 - Vidora").arg(app.visibleScreen.title) : "Vidora"
+    width: app.windowSize.width
+    height: app.windowSize.height
+    minimumWidth: 320
+    minimumHeight: 400
+    visible: true
+    color: Theme.groupedBackground
+
+    onPadChanged: app.setPad(pad)
+    onClosing: app.keepWindowSize(width, height)
+    Component.onCompleted: {
+        Theme.scale = app.fontScale
+        app.setPad(pad)
+        app.setColours(Theme.colours)
+    }
+    Binding {
+        target: Theme
+        property: "dark"
+        value: window.app.dark
+    }
+    Connections {
+        target: Theme
+        function onColoursChanged() { window.app.setColours(Theme.colours) }
+    }
+    Connections {
+        target: window.app
+        function onAlertPresented(alert) { alertPanel.show(alert) }
+    }
+
+    GridLayout {
+        anchors.fill: parent
+        columns: window.pad ? 2 : 1
+        rowSpacing: 0
+        columnSpacing: 0
+        layoutDirection: window.pad ? Qt.RightToLeft : Qt.LeftToRight
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 0
+            Item {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Repeater {
+                    id: screens
+                    model: window.app.screens
+                    ScreenSlot {
+                        anchors.fill: parent
+                        onBack: window.app.back()
+                    }
+                }
+            }
+            UpdateBar {
+                Layout.fillWidth: true
+                progress: window.app.progress
+            }
+        }
+        TabStrip {
+            app: window.app
+            rail: window.pad
+            Layout.fillWidth: !window.pad
+            Layout.fillHeight: window.pad
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: window.app.player !== null
+        sourceComponent: PlayerScreen {
+            player: window.app.player
+            onClosed: window.app.closePlayer()
+        }
+    }
+    AlertPanel {
+        id: alertPanel
+        onAnswered: index => window.app.answerAlert(index)
+    }
+
+    // Keys of the whole window.
+    function visibleTable() {
+        for (let i = 0; i < screens.count; ++i) {
+            const slot = screens.itemAt(i)
+            if (slot && slot.screen.visible)
+                return slot.table
+        }
+        return null
+    }
+    function goBack() {
+        if (app.player)
+            app.closePlayer()
+        else
+            app.back()
+    }
+    Shortcut { sequences: [StandardKey.Find]; onActivated: window.visibleTable()?.find() }
+    Shortcut { sequences: [StandardKey.Refresh, "F5", "Ctrl+R"]; onActivated: window.visibleTable()?.refresh() }
+    Shortcut { sequences: ["Esc", StandardKey.Back, "Back"]; onActivated: window.goBack() }
+    Shortcut { sequences: [StandardKey.Quit]; onActivated: window.close() }
+    Repeater {
+        model: 6
+        Item {
+            required property int index
+            Shortcut {
+                sequence: "Ctrl+" + (index + 1)
+                onActivated: window.app.selectTab(index)
+            }
+        }
+    }
+}

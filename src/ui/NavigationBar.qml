@@ -1,0 +1,79 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// Title of a screen, the way back, and the screen's buttons.
+Rectangle {
+    id: bar
+
+    required property var screen
+    property bool canGoBack: false
+    signal back()
+
+    implicitHeight: 52
+    color: Theme.barBackground
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: 4
+        anchors.rightMargin: 8
+        spacing: 2
+        SymbolButton {
+            visible: bar.canGoBack
+            symbol: "back"
+            text: qsTranslate("vidora", "Back")
+            onClicked: bar.back()
+        }
+        Text {
+            Layout.fillWidth: true
+            Layout.leftMargin: bar.canGoBack ? 0 : Theme.margin - 4
+            text: bar.screen.title
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            maximumLineCount: 1
+            font.pixelSize: Theme.points(20)
+            font.weight: Font.Bold
+            color: Theme.label
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Repeater {
+            model: bar.screen.barButtons
+            Loader {
+                id: place
+                required property var modelData
+                required property int index
+                sourceComponent: modelData.busy ? busy : modelData.symbol !== "" ? drawn : written
+                Component {
+                    id: busy
+                    Item {
+                        implicitWidth: Theme.touchTarget
+                        implicitHeight: Theme.touchTarget
+                        ActivityIndicator { anchors.centerIn: parent }
+                    }
+                }
+                Component {
+                    id: drawn
+                    SymbolButton {
+                        symbol: place.modelData.symbol
+                        text: place.modelData.title
+                        onClicked: bar.screen.pressBarButton(place.index)
+                    }
+                }
+                Component {
+                    id: written
+                    TextButton {
+                        text: place.modelData.title
+                        onClicked: bar.screen.pressBarButton(place.index)
+                    }
+                }
+            }
+        }
+    }
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: Theme.separator
+    }
+}

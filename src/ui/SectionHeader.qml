@@ -1,0 +1,27 @@
+import QtQuick
+
+// The title above a card of rows.
+Item {
+    id: header
+
+    property string title
+    property int side: 0
+
+    height: title === "" ? 0 : words.implicitHeight + 14
+    visible: title !== ""
+    Accessible.role: Accessible.Heading
+    Accessible.name: title
+
+    Text {
+        id: words
+        x: header.side + 14
+        y: 4
+        width: parent.width - x - header.side
+        text: header.title
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        font.pixelSize: Theme.body
+        font.weight: Font.Bold
+        color: Theme.sectionHeader
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Controls
+
+// A button that is only a drawing. `text` is what it is called, shown as a hint and read out.
+AbstractButton {
+    id: button
+
+    property string symbol
+    property color color: Theme.accent
+    property int symbolSize: 24
+
+    implicitWidth: Theme.touchTarget
+    implicitHeight: Theme.touchTarget
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.4
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    ToolTip.visible: hovered && text !== ""
+    ToolTip.delay: 700
+    ToolTip.text: text
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: button.pressed || button.hovered ? Theme.pressed : "transparent"
+        border.width: button.visualFocus ? 2 : 0
+        border.color: Theme.focus
+    }
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: button.symbol
+            size: button.symbolSize
+            color: button.color
+        }
+    }
+}

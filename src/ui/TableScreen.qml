@@ -1,0 +1,173 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// A screen that is a table: its bar, a search field where it can be searched, the rows in cards by section.
+FocusScope {
+    id: table
+
+    required property var screen
+    readonly property bool canGoBack: !screen.root
+    signal back()
+
+    readonly property int side: Math.max(width < 700 ? 10 : Theme.margin, (width - Theme.readableWidth) / 2)
+    readonly property bool refreshPulled: list.dragging && list.contentY - list.originY < -76
+
+    function refresh() {
+        if (screen.refreshable)
+            screen.refresh()
+    }
+    function find() {
+        if (screen.searchable)
+            field.focusField()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        NavigationBar {
+            Layout.fillWidth: true
+            screen: table.screen
+            canGoBack: table.canGoBack
+            onBack: table.back()
+        }
+        SearchField {
+            id: field
+            Layout.fillWidth: true
+            Layout.leftMargin: table.side
+            Layout.rightMargin: table.side
+            Layout.topMargin: 10
+            visible: table.screen.searchable
+            onTextChanged: table.screen.searchText = text
+            onFinished: list.forceActiveFocus(Qt.TabFocusReason)
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            ActivityIndicator {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 14
+                running: table.screen.refreshable && list.contentY - list.originY < -40
+                scale: table.refreshPulled ? 1.25 : 1
+            }
+            ListView {
+                id: list
+                anchors.fill: parent
+                anchors.rightMargin: letters.visible ? letters.width : 0
+                focus: true
+                activeFocusOnTab: true
+                clip: true
+                topMargin: 10
+                bottomMargin: 16
+                model: table.screen.rows
+                reuseItems: true
+                cacheBuffer: 400
+                keyNavigationEnabled: true
+                currentIndex: -1
+                highlightFollowsCurrentItem: false
+                boundsBehavior: table.screen.refreshable ? Flickable.DragOverBounds : Flickable.StopAtBounds
+                Accessible.role: Accessible.List
+                Accessible.name: table.screen.title
+                ScrollBar.vertical: ScrollBar { visible: !letters.visible }
+
+                section.property: "section"
+
+                delegate: Item {
+                    id: place
+                    required property int index
+                    required property var model
+                    readonly property bool first: ListView.previousSection !== ListView.section
+                    readonly property bool last: ListView.nextSection !== ListView.section
+                    width: ListView.view.width
+                    height: heading.height + row.implicitHeight + (last ? 14 : 0)
+                    SectionHeader {
+                        id: heading
+                        width: parent.width
+                        side: table.side
+                        title: place.first ? place.model.sectionTitle : ""
+                    }
+                    TableRow {
+                        id: row
+                        x: table.side
+                        y: heading.height
+                        height: implicitHeight
+                        first: place.first
+                        last: place.last
+                        width: parent.width - 2 * table.side
+                        index: place.index
+                        model: place.model
+                        screen: table.screen
+                        highlightedByKeys: place.ListView.isCurrentItem && list.activeFocus
+                        view: list
+                        onChosen: table.choose(place.index)
+                        onAccessoryPressed: table.screen.pressAccessory(place.index)
+                        onDeletePressed: table.screen.removeRow(place.index)
+                        Component.onCompleted: table.screen.rowDisplayed(place.index)
+                        onMoved: to => table.screen.moveRow(place.index, to)
+                    }
+                }
+
+                property bool wasPulled: false
+                onDraggingChanged: {
+                    if (!dragging && wasPulled)
+                        table.refresh()
+                    wasPulled = false
+                }
+                onContentYChanged: if (table.refreshPulled) wasPulled = true
+
+                Keys.onReturnPressed: table.choose(currentIndex)
+                Keys.onEnterPressed: table.choose(currentIndex)
+                Keys.onSpacePressed: table.choose(currentIndex)
+                Keys.onDeletePressed: if (currentIndex >= 0) table.screen.removeRow(currentIndex)
+                Keys.onPressed: event => {
+                    const page = Math.max(1, Math.floor(height / 80))
+                    const moving = event.modifiers & Qt.AltModifier
+                    if (moving && event.key === Qt.Key_Up && currentIndex > 0)
+                        table.screen.moveRow(currentIndex, currentIndex - 1)
+                    else if (moving && event.key === Qt.Key_Down && currentIndex >= 0 && currentIndex < count - 1)
+                        table.screen.moveRow(currentIndex, currentIndex + 1)
+                    else if (event.key === Qt.Key_PageDown)
+                        currentIndex = Math.min(count - 1, currentIndex + page)
+                    else if (event.key === Qt.Key_PageUp)
+                        currentIndex = Math.max(0, currentIndex - page)
+                    else if (event.key === Qt.Key_Home)
+                        currentIndex = 0
+                    else if (event.key === Qt.Key_End)
+                        currentIndex = count - 1
+                    else
+                        return
+                    event.accepted = true
+                }
+                onCurrentIndexChanged: if (currentIndex >= 0) positionViewAtIndex(currentIndex, ListView.Contain)
+            }
+            SectionIndex {
+                id: letters
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                anchors.margins: 4
+                titles: table.screen.sectionIndexTitles
+                onChosen: section => {
+                    const at = table.screen.rowOfSection(section)
+                    if (at >= 0)
+                        list.positionViewAtIndex(at, ListView.Beginning)
+                }
+            }
+            EmptyNote {
+                anchors.centerIn: parent
+                width: Math.min(parent.width - 48, 420)
+                visible: list.count === 0 && text !== ""
+                text: table.screen.placeholder
+            }
+        }
+    }
+
+    function choose(index) {
+        if (index < 0)
+            return
+        list.currentIndex = index
+        screen.select(index)
+    }
+}
