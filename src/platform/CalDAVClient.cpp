@@ -57,6 +57,14 @@ CalDAVClient::Outcome outcomeOf(int status)
     return status / 100 == 4 ? Outcome::Rejected : Outcome::Failed;
 }
 
+/// Whether a password may go there as it stands: encrypted, or not out of this machine.
+bool keepsSecrets(const QUrl& address)
+{
+    const QString host = address.host();
+    return address.scheme() == QLatin1String("https") || host == QLatin1String("localhost") ||
+           host == QLatin1String("127.0.0.1") || host == QLatin1String("::1");
+}
+
 bool isPage(const HeaderFields& fields)
 {
     return fields.value("Content-Type").value_or(QByteArray()).trimmed().toLower().startsWith("text/html");
@@ -84,13 +92,13 @@ CalDAVClient::CalDAVClient(URLSession& session, Sleeper& sleeper, CalDAVAccount 
 {
 }
 
-bool CalDAVClient::learnAuthentication(const HeaderFields& fields)
+bool CalDAVClient::learnAuthentication(const HeaderFields& fields, const QUrl& address)
 {
     const QByteArray offers = fields.value("WWW-Authenticate").value_or(QByteArray()).toLower();
     std::optional<URLAuthentication> offered;
     if (offers.contains("digest"))
         offered = URLAuthentication::Digest;
-    else if (offers.contains("basic"))
+    else if (offers.contains("basic") && keepsSecrets(address))
         offered = URLAuthentication::Basic;
     if (!offered || m_authentication == offered)
         return false;
@@ -123,7 +131,7 @@ CalDAVClient::Answer CalDAVClient::askOnce(const Query& query)
         if (!request.headerFields.value("Content-Type"))
             request.headerFields.set("Content-Type", "application/xml; charset=utf-8");
     }
-    if (m_authentication)
+    if (m_authentication && (m_authentication == URLAuthentication::Digest || keepsSecrets(query.address)))
         request.credentials = URLCredentials{m_account.user, m_account.password, *m_authentication};
     ++m_requestCount;
     URLResult result = m_session.perform(request);
@@ -144,7 +152,8 @@ CalDAVClient::Answer CalDAVClient::ask(Query query)
     bool introduced = false;
     for (int redirects = 0;;) {
         Answer answer = askOnce(query);
-        if (answer.outcome == Outcome::Refused && !introduced && learnAuthentication(answer.headerFields)) {
+        if (answer.outcome == Outcome::Refused && !introduced &&
+            learnAuthentication(answer.headerFields, query.address)) {
             introduced = true;
             continue;
         }

@@ -22,7 +22,8 @@ struct CalDAVAccount
 /// without memory of calendars. Blocks; one thread at a time, never the main one.
 ///
 /// Redirects are followed within the host that the account names and the hosts below it, and never from HTTPS to HTTP:
-/// a password goes nowhere else. An answer that doesn't come, or the server's own trouble, is tried once more.
+/// a password goes nowhere else, and as it stands only over HTTPS or to this machine. An answer that doesn't come, or
+/// the server's own trouble, is tried once more.
 class CalDAVClient
 {
 public:
@@ -107,7 +108,7 @@ private:
 
     Answer ask(Query query);
     Answer askOnce(const Query& query);
-    bool learnAuthentication(const HeaderFields& fields);
+    bool learnAuthentication(const HeaderFields& fields, const QUrl& address);
     bool mayFollow(const QUrl& from, const QUrl& to) const;
     Answer askMultistatus(const Query& query, std::vector<DAVResponse>& responses, QString& syncToken);
     Links linksIn(const QUrl& address);

@@ -134,11 +134,11 @@ TEST_F(CalDAVEventStoreTest, AsksLittleWhenThereIsNothingToDo)
     clock.advance(Seconds(3600));
     store->refreshSourcesIfNecessary();
     ASSERT_FALSE(store->commit());
-    EXPECT_LE(session.requests, 3) << "for three calendars";
+    EXPECT_EQ(session.requests, 1) << "for three calendars";
     const auto restarted = open();
     session.requests = 0;
     restarted->refreshSourcesIfNecessary();
-    EXPECT_LE(session.requests, 9) << "finding the account included";
+    EXPECT_LE(session.requests, 2) << "the question who asks included";
 }
 
 TEST_F(CalDAVEventStoreTest, KeepsChangesUntilThereIsANetwork)
@@ -349,6 +349,55 @@ TEST_F(CalDAVEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
         EXPECT_EQ(stores[0]->unsentChanges() + stores[1]->unsentChanges(), 0);
         for (const auto& [name, bytes] : present)
             QFile::remove(folder + QLatin1Char('/') + name);
+    }
+}
+
+/// A server that asks for a password, or sends whoever asks elsewhere.
+class GreedySession final : public URLSession
+{
+public:
+    URLResult perform(const URLRequest& request) override
+    {
+        addresses << request.url.text();
+        credentials = credentials || request.credentials.has_value();
+        URLResponse response;
+        response.statusCode = elsewhere.isEmpty() ? 401 : 301;
+        if (elsewhere.isEmpty())
+            response.headerFields.set("WWW-Authenticate", "Basic realm=\"x\"");
+        else
+            response.headerFields.set("Location", elsewhere);
+        return {QByteArray(), response, std::nullopt};
+    }
+
+    QByteArray elsewhere;
+    QStringList addresses;
+    bool credentials = false;
+};
+
+TEST(CalDAVClient, GivesAPasswordToNobodyElse)
+{
+    const std::vector<std::pair<const char*, bool>> hosts{{"calendar.example", true},
+                                                          {"https://calendar.example/x", true},
+                                                          {"http://calendar.example", false},
+                                                          {"http://127.0.0.1.calendar.example", false}};
+    NoSleep sleeper;
+    for (const auto& [address, given] : hosts) {
+        GreedySession session;
+        QUrl home;
+        CalDAVClient client(session, sleeper,
+                            {QString::fromLatin1(address), QStringLiteral("ana"), QStringLiteral("p")});
+        EXPECT_EQ(client.discover(home), CalDAVClient::Outcome::Refused);
+        EXPECT_EQ(session.credentials, given) << address;
+    }
+    for (const char* target : {"https://evil.example/", "http://calendar.example/", "https://xcalendar.example/",
+                               "file:///etc/passwd", "//evil.example"}) {
+        GreedySession session;
+        session.elsewhere = target;
+        QUrl home;
+        CalDAVClient client(session, sleeper, {QStringLiteral("calendar.example"), QStringLiteral("ana"), {}});
+        EXPECT_NE(client.discover(home), CalDAVClient::Outcome::Done);
+        for (const QString& address : session.addresses)
+            EXPECT_TRUE(address.startsWith(QStringLiteral("https://calendar.example/"))) << address.toStdString();
     }
 }
 
