@@ -6,6 +6,7 @@
 #include <arpa/inet.h>
 #include <functional>
 #include <sys/socket.h>
+#include <thread>
 #include <unistd.h>
 
 namespace vidora::testing {
@@ -38,22 +39,13 @@ public:
                      "\n[rights]\ntype = from_file\nfile = " + folder.filePath(QStringLiteral("rights")).toUtf8() +
                      "\n[storage]\nfilesystem_folder = " + folder.filePath(QStringLiteral("store")).toUtf8() +
                      "\n[logging]\nlevel = warning\n");
-        // Into a file: nobody reads a pipe while a test runs, and a full one would hold up the server.
-        process.setStandardErrorFile(folder.filePath(QStringLiteral("log")));
-        process.start(QStringLiteral("radicale"),
-                      {QStringLiteral("--config"), folder.filePath(QStringLiteral("config"))});
-        for (int tries = 0; tries < 3000 && !answers() && !process.waitForFinished(10); ++tries) {
-        }
+        process.emplace(QByteArrayList{"radicale", "--config", folder.filePath(QStringLiteral("config")).toUtf8()},
+                        folder.filePath(QStringLiteral("log")));
+        while (!answers() && process->runs())
+            std::this_thread::yield();
         EXPECT_TRUE(answers()) << "radicale doesn't start: "
                                << readRaw(folder.filePath(QStringLiteral("log"))).toStdString();
     }
-    ~CalDAVServer()
-    {
-        process.terminate();
-        if (!process.waitForFinished(10'000))
-            process.kill();
-    }
-
     QString address() const { return QStringLiteral("http://127.0.0.1:%1").arg(port); }
     QString calendar(const char* name) const
     {
@@ -90,7 +82,7 @@ private:
 
     int port = 0;
     QTemporaryDir folder;
-    QProcess process;
+    std::optional<ChildProcess> process;
 };
 
 /// A session between the store and the server that can answer in its place, or lose what the server answered.

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "ChildProcess.h"
 #include "platform/Clock.h"
 #include "platform/EventStore.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -90,14 +90,12 @@ inline QStringList linesOfKhal(const QString& folder)
                  "dateformat = %Y-%m-%d\nlongdateformat = %Y-%m-%d\ndatetimeformat = %Y-%m-%d %H:%M\n"
                  "longdatetimeformat = %Y-%m-%d %H:%M\n[default]\nhighlight_event_days = False\n[sqlite]\npath = " +
                  home.filePath(QStringLiteral("khal.db")).toUtf8() + "\n");
-    QProcess khal;
-    khal.start(QStringLiteral("khal"), {QStringLiteral("-c"), conf, QStringLiteral("list"), QStringLiteral("--once"),
-                                        QStringLiteral("--day-format"), QString(), QStringLiteral("--format"),
-                                        QStringLiteral("{start-long} {title}|{location}|{alarm-symbol}"),
-                                        QStringLiteral("2026-11-22"), QStringLiteral("8d")});
-    EXPECT_TRUE(khal.waitForFinished(60'000)) << "khal is missing or hangs";
-    EXPECT_EQ(khal.exitCode(), 0) << khal.readAllStandardError().toStdString();
-    return QString::fromUtf8(khal.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QString output = home.filePath(QStringLiteral("output"));
+    ChildProcess khal({"khal", "-c", conf.toUtf8(), "list", "--once", "--day-format", "", "--format",
+                       "{start-long} {title}|{location}|{alarm-symbol}", "2026-11-22", "8d"},
+                      output);
+    EXPECT_EQ(khal.wait(), 0) << readRaw(output).toStdString();
+    return QString::fromUtf8(readRaw(output)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 } // namespace vidora::testing
