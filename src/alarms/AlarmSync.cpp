@@ -18,6 +18,8 @@ struct AlarmEngine::Run
 
 void AlarmEngine::requestAccess()
 {
+    if (m_surroundings.readOnly)
+        return;
     m_surroundings.eventStore.requestAccessToEntityType(EntityType::Event,
                                                         [this](bool granted, const std::optional<EventStoreError>&) {
                                                             if (granted && isAuthorized())

@@ -18,13 +18,43 @@ constexpr qsizetype any = 1'000'000;
 const QHash<QString, Arity>& commands()
 {
     static const QHash<QString, Arity> table{
-        {QStringLiteral("update"), {0, 0}},    {QStringLiteral("now"), {0, 0}},
-        {QStringLiteral("channel"), {1, any}}, {QStringLiteral("category"), {1, any}},
-        {QStringLiteral("search"), {1, any}},  {QStringLiteral("channels"), {0, 0}},
-        {QStringLiteral("select"), {1, any}},  {QStringLiteral("unselect"), {1, any}},
-        {QStringLiteral("import"), {1, 1}},
+        {QStringLiteral("update"), {0, 0}},        {QStringLiteral("now"), {0, 0}},
+        {QStringLiteral("channel"), {1, any}},     {QStringLiteral("category"), {1, any}},
+        {QStringLiteral("search"), {1, any}},      {QStringLiteral("channels"), {0, 0}},
+        {QStringLiteral("select"), {1, any}},      {QStringLiteral("unselect"), {1, any}},
+        {QStringLiteral("import"), {1, 1}},        {QStringLiteral("favourite"), {1, any}},
+        {QStringLiteral("unfavourite"), {1, any}}, {QStringLiteral("favourites"), {0, 0}},
+        {QStringLiteral("alarm"), {1, any}},       {QStringLiteral("unalarm"), {1, any}},
+        {QStringLiteral("alerts"), {0, 0}},        {QStringLiteral("silent-hours"), {0, 2}},
+        {QStringLiteral("calendars"), {0, any}},
     };
     return table;
+}
+
+/// The options of single commands, and whether they take a value.
+const QHash<QString, QHash<QString, bool>>& optionsOfCommands()
+{
+    static const QHash<QString, QHash<QString, bool>> table{
+        {QStringLiteral("favourite"),
+         {{QStringLiteral("--alarm"), true},
+          {QStringLiteral("--premieres"), false},
+          {QStringLiteral("--replays"), false}}},
+        {QStringLiteral("alarm"),
+         {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}, {QStringLiteral("--before"), true}}},
+        {QStringLiteral("unalarm"), {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}}},
+    };
+    return table;
+}
+
+/// Whether an option of any command takes a value; nothing for one that there is not.
+std::optional<bool> takesValue(const QString& name)
+{
+    for (const auto& options : optionsOfCommands()) {
+        const auto found = options.constFind(name);
+        if (found != options.cend())
+            return *found;
+    }
+    return std::nullopt;
 }
 
 class Reader
@@ -73,6 +103,8 @@ private:
             line.home = valueOf(name, argument, equals);
         else if (name == QLatin1String("--clock"))
             readClock(valueOf(name, argument, equals));
+        else if (const auto hasValue = takesValue(name); hasValue && (*hasValue || equals < 0))
+            line.options.insert(name, *hasValue ? valueOf(name, argument, equals).value_or(QString()) : QString());
         else
             fail(QCoreApplication::translate("vidora", "Unknown option %1.").arg(name));
     }
@@ -109,6 +141,11 @@ private:
         else if (line.arguments.size() > arity->most)
             fail(QCoreApplication::translate("vidora", "%1 does not take \"%2\".")
                      .arg(line.command, line.arguments.at(arity->most)));
+        const auto allowed = optionsOfCommands().value(line.command);
+        for (auto option = line.options.keyBegin(); option != line.options.keyEnd(); ++option) {
+            if (!allowed.contains(*option))
+                fail(QCoreApplication::translate("vidora", "%1 does not take %2.").arg(line.command, *option));
+        }
     }
 
     void fail(const QString& message) { m_result.error = message; }
@@ -143,6 +180,19 @@ QString commandLineHelp()
                                        "  unselect X...     give channels up\n"
                                        "  update            fetch what is missing or old\n"
                                        "  import ADDRESS    use an XMLTV guide of your own: an address or a file\n"
+                                       "\n"
+                                       "  favourite X       follow a title; --alarm MINUTES rings ahead of each\n"
+                                       "                    broadcast, of --premieres or --replays only\n"
+                                       "  unfavourite X     follow it no longer, and remove its alarms\n"
+                                       "  favourites        the titles that are followed\n"
+                                       "  alarm X --at TIME [--on CHANNEL] [--before MINUTES]\n"
+                                       "                    ring ahead of one broadcast\n"
+                                       "  unalarm X [--at TIME] [--on CHANNEL]\n"
+                                       "                    remove the alarm of one broadcast, or of all\n"
+                                       "  alerts            the broadcasts of favourites that will ring\n"
+                                       "  silent-hours [off | FROM TO]\n"
+                                       "                    when favourites must not ring\n"
+                                       "  calendars [X]     the calendars, or choose the one for alarms\n"
                                        "\n"
                                        "X is a title, a part of it that only one has, or an id.\n"
                                        "\n"

@@ -2,6 +2,7 @@
 
 #include "platform/Instant.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +19,9 @@ struct CommandLine
     bool log = false;
     bool help = false;
     bool selfTest = false; ///< load every part of the window, show nothing
+    /// The options that only some commands take, by name: "--alarm", "--at", "--before", "--on" with their values,
+    /// "--premieres" and "--replays" with empty ones.
+    QHash<QString, QString> options;
     std::optional<QString> home;
     std::optional<Instant> clock;
 

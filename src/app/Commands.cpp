@@ -1,5 +1,6 @@
 #include "app/Commands.h"
 
+#include "app/AlarmCommands.h"
 #include "app/ChannelNames.h"
 #include "app/Device.h"
 #include "app/GuideImportCommand.h"
@@ -339,7 +340,7 @@ bool fetches(const QString& command)
 bool changes(const QString& command)
 {
     return fetches(command) || command == QLatin1String("select") || command == QLatin1String("unselect") ||
-           command == QLatin1String("import");
+           command == QLatin1String("import") || isAlarmCommand(command);
 }
 
 } // namespace
@@ -356,7 +357,9 @@ int runCommand(const CommandLine& line)
 
     int status = 1;
     if (!changes(line.command) || fetches(line.command) || device.keepsChanges())
-        status = line.command == QLatin1String("import") ? importGuide(line, device) : CommandRun(line, device).run();
+        status = line.command == QLatin1String("import") ? importGuide(line, device)
+                 : isAlarmCommand(line.command)          ? runAlarmCommand(line, device)
+                                                         : CommandRun(line, device).run();
     device.quit();
     // What a shell reports of a process that a signal ended.
     constexpr int endedBySignal = 128;

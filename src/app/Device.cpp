@@ -2,6 +2,7 @@
 
 #include "core/GuideImport.h"
 #include "platform/AtomicFile.h"
+#include "platform/FolderEventStore.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -57,6 +58,10 @@ QString Device::ownCatalogue(const StandardFolders& folders)
 {
     return folders.documents + QLatin1String("/Data.plist");
 }
+QString Device::calendars(const StandardFolders& folders)
+{
+    return folders.documents + QLatin1String("/calendars");
+}
 QString Device::ownIcons(const StandardFolders& folders)
 {
     return folders.documents + QLatin1String("/icons");
@@ -83,11 +88,17 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
         say(QCoreApplication::translate("vidora",
                                         "The catalogue of your guide can't be read; import the guide again."));
     m_guideSession = std::make_unique<OwnGuideSession>(m_network, guide);
-    m_delegate = std::make_unique<VidoraAppDelegate>(
-        Environment{m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
-                    own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
-                    readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper,
-                    *m_guideSession, false, m_lock->outcome() == HomeLock::Outcome::Second});
+    // A look at another moment must not change the user's own calendars, where the past would pass for the future.
+    if (!line.clock || line.home)
+        m_eventStore = std::make_unique<FolderEventStore>(
+            calendars(m_folders), QCoreApplication::translate("vidora", "This device"), *m_clock, m_random);
+    m_publicDatabase =
+        std::make_unique<EmbeddedPublicDatabase>(m_folders.documents + QLatin1String("/public.sqlite"), *m_clock);
+    m_delegate = std::make_unique<VidoraAppDelegate>(Environment{
+        m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
+        own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
+        readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper, *m_guideSession,
+        false, m_lock->outcome() == HomeLock::Outcome::Second, m_eventStore.get(), m_publicDatabase.get()});
     m_delegate->applicationDidFinishLaunching();
     watchSystem();
 }

@@ -6,6 +6,8 @@
 #include "core/VidoraAppDelegate.h"
 #include "platform/BlockOwner.h"
 #include "platform/Clock.h"
+#include "platform/EmbeddedPublicDatabase.h"
+#include "platform/EventStore.h"
 #include "platform/HomeLock.h"
 #include "platform/MemoryWarnings.h"
 #include "platform/NetworkURLSession.h"
@@ -50,6 +52,8 @@ public:
     /// Where the application's own files lie: beside the program where it is installed, else in the source tree.
     static QString resources();
     static QString ownCatalogue(const StandardFolders& folders);
+    /// The folder whose folders are calendars, to be shared with other calendar programs.
+    static QString calendars(const StandardFolders& folders);
     static QString ownIcons(const StandardFolders& folders);
     /// Addresses of providers that the user sets by hand.
     static QString ownEndpoints(const StandardFolders& folders);
@@ -69,6 +73,8 @@ private:
     std::unique_ptr<OwnGuideSession> m_guideSession;
     std::unique_ptr<HomeLock> m_lock;
     SampleRegionProcess m_region;
+    std::unique_ptr<EventStore> m_eventStore;
+    std::unique_ptr<EmbeddedPublicDatabase> m_publicDatabase;
     std::unique_ptr<VidoraAppDelegate> m_delegate;
     std::atomic<int> m_endSignal = 0;
     const SystemClock m_machineClock; ///< whatever moment the guide is shown for

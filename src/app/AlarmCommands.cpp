@@ -1,0 +1,429 @@
+#include "app/AlarmCommands.h"
+
+#include "app/ChannelNames.h"
+#include "app/ShowPrinter.h"
+#include "platform/DeviceSettings.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace vidora {
+
+namespace {
+
+constexpr int mostMinutes = 7 * 24 * 60;
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("vidora", text);
+}
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+/// Thrown where a command can't do what was asked; says why.
+struct Refusal
+{
+    QString message;
+};
+
+class AlarmRun
+{
+public:
+    AlarmRun(const CommandLine& line, Device& device)
+        : m_line(line)
+        , m_device(device)
+        , m_delegate(device.delegate())
+        , m_engine(m_delegate.alarmEngine())
+    {
+    }
+
+    using Handler = void (AlarmRun::*)();
+    static const QHash<QString, Handler>& handlers()
+    {
+        static const QHash<QString, Handler> table{
+            {QStringLiteral("favourite"), &AlarmRun::favourite},
+            {QStringLiteral("unfavourite"), &AlarmRun::unfavourite},
+            {QStringLiteral("favourites"), &AlarmRun::favourites},
+            {QStringLiteral("alarm"), &AlarmRun::alarm},
+            {QStringLiteral("unalarm"), &AlarmRun::unalarm},
+            {QStringLiteral("alerts"), &AlarmRun::alerts},
+            {QStringLiteral("silent-hours"), &AlarmRun::silentHours},
+            {QStringLiteral("calendars"), &AlarmRun::calendars},
+        };
+        return table;
+    }
+
+    int run()
+    {
+        settle();
+        try {
+            (this->*handlers().value(m_line.command))();
+            return 0;
+        } catch (const Refusal& refusal) {
+            say(refusal.message);
+            return 1;
+        }
+    }
+
+private:
+    void favourite();
+    void unfavourite();
+    void favourites();
+    void alarm();
+    void unalarm();
+    void alerts();
+    void silentHours();
+    void calendars();
+
+    QString argument() const { return m_line.arguments.join(QLatin1Char(' ')); }
+    /// Waits until nothing is being done to the calendar.
+    void settle();
+    void answer(const QString& text, const QJsonObject& json) const;
+    int minutes(const QString& option, int otherwise) const;
+    /// The one among these texts that the user named.
+    QString named(QStringList texts) const;
+    ShowList showsNamedLike(const QString& text);
+    /// The broadcast that the user named by title, time and channel.
+    Show broadcast();
+    bool startsAt(const TVEntry& entry, const QString& time) const;
+    QString described(const Favorite& favorite) const;
+    static QJsonObject json(const Favorite& favorite);
+    QString lineOf(const Show& show) const;
+
+    const CommandLine& m_line;
+    Device& m_device;
+    VidoraAppDelegate& m_delegate;
+    AlarmEngine& m_engine;
+};
+
+void AlarmRun::settle()
+{
+    bool isIdle = false;
+    DispatchQueue::main().async([&] { m_engine.whenIdle([&] { isIdle = true; }); });
+    DispatchQueue::runMain([&] { return isIdle; });
+}
+
+void AlarmRun::answer(const QString& text, const QJsonObject& json) const
+{
+    printText(m_line.json ? QString::fromUtf8(QJsonDocument(json).toJson()) : text + QLatin1Char('\n'));
+}
+
+int AlarmRun::minutes(const QString& option, int otherwise) const
+{
+    if (!m_line.options.contains(option))
+        return otherwise;
+    bool isNumber = false;
+    const int minutes = m_line.options.value(option).toInt(&isNumber);
+    if (!isNumber || minutes < 0 || minutes > mostMinutes)
+        throw Refusal{translated("%1 takes a number of minutes from 0 to %2.").arg(option).arg(mostMinutes)};
+    return minutes;
+}
+
+QString AlarmRun::named(QStringList texts) const
+{
+    texts.removeDuplicates();
+    const QStringList candidates = candidatesFor(argument(), texts);
+    if (candidates.size() != 1)
+        throw Refusal{ambiguousName(argument(), candidates, texts)};
+    return candidates.front();
+}
+
+ShowList AlarmRun::showsNamedLike(const QString& text)
+{
+    std::optional<ShowList> shows;
+    m_delegate.listings().showsContainingPattern(
+        text, [&](const SharedShowList& found) { DispatchQueue::main().async([&shows, found] { shows = *found; }); });
+    DispatchQueue::runMain([&] { return shows.has_value(); });
+    QStringList titles;
+    for (const Show& show : *shows)
+        titles << show->entry->title().value_or(QString());
+    const QStringList candidates = candidatesFor(text, titles);
+    std::erase_if(*shows,
+                  [&](const Show& show) { return !candidates.contains(show->entry->title().value_or(QString())); });
+    return std::move(*shows);
+}
+
+QString AlarmRun::described(const Favorite& favorite) const
+{
+    if (favorite.minutes() < 0)
+        return favorite.identificator();
+    const QString text = !favorite.previouslyShown()   ? translated("%1: alarm %2 minutes ahead of each broadcast")
+                         : *favorite.previouslyShown() ? translated("%1: alarm %2 minutes ahead of each replay")
+                                                       : translated("%1: alarm %2 minutes ahead of each premiere");
+    return text.arg(favorite.identificator()).arg(favorite.minutes());
+}
+
+QJsonObject AlarmRun::json(const Favorite& favorite)
+{
+    return {{QStringLiteral("title"), favorite.identificator()},
+            {QStringLiteral("minutes"), favorite.minutes() < 0 ? QJsonValue() : QJsonValue(favorite.minutes())},
+            {QStringLiteral("previouslyShown"),
+             favorite.previouslyShown() ? QJsonValue(*favorite.previouslyShown()) : QJsonValue()}};
+}
+
+void AlarmRun::favourite()
+{
+    const bool premieres = m_line.options.contains(QStringLiteral("--premieres"));
+    const bool replays = m_line.options.contains(QStringLiteral("--replays"));
+    const int lead = minutes(QStringLiteral("--alarm"), -1);
+    if (premieres && replays)
+        throw Refusal{translated("--premieres and --replays exclude each other.")};
+    if ((premieres || replays) && lead < 0)
+        throw Refusal{translated("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
+    QStringList titles;
+    for (const Show& show : showsNamedLike(argument()))
+        titles << show->entry->title().value_or(QString());
+    const QString title = titles.isEmpty() ? argument() : named(titles);
+    m_engine.addFavorite(title);
+    if (lead >= 0) {
+        // What was set before would keep its lead time.
+        if (m_engine.alarmedIdentificatorType(title))
+            m_engine.removeAlarmForTitle(title, true, true);
+        settle();
+        m_engine.setAlarmForTitle(title, lead, premieres || replays ? std::optional(replays) : std::nullopt, true);
+    }
+    settle();
+    const Favorites favorites = m_delegate.shows().favorites().value_or(Favorites());
+    const auto added = std::find_if(favorites.begin(), favorites.end(), [&](const auto& favorite) {
+        return favorite->lowercasedIdentificator() == title.toLower();
+    });
+    if (added == favorites.end())
+        throw Refusal{translated("%1 could not be added.").arg(title)};
+    QString text = translated("A favourite: %1").arg(described(**added));
+    if (titles.isEmpty())
+        text += QLatin1Char('\n') + translated("No broadcast of this title is listed at present.");
+    if (lead >= 0 && (*added)->minutes() < 0)
+        throw Refusal{
+            translated("%1 is a favourite, but there is no calendar that can be written for its alarms.").arg(title)};
+    answer(text, {{QStringLiteral("favourite"), json(**added)}, {QStringLiteral("events"), m_engine.eventCount()}});
+}
+
+void AlarmRun::unfavourite()
+{
+    QStringList names;
+    for (const QString& name : m_delegate.shows().favoriteNames())
+        names << name;
+    const QString title = named(names);
+    m_engine.removeFavorite(title);
+    settle();
+    answer(translated("No longer a favourite: %1").arg(title), {{QStringLiteral("removed"), title}});
+}
+
+void AlarmRun::favourites()
+{
+    Favorites favorites = m_delegate.shows().favorites().value_or(Favorites());
+    std::stable_sort(favorites.begin(), favorites.end(), [](const auto& a, const auto& b) {
+        return a->identificator().compare(b->identificator(), Qt::CaseInsensitive) < 0;
+    });
+    QJsonArray array;
+    QStringList lines;
+    for (const auto& favorite : favorites) {
+        array.append(json(*favorite));
+        lines << described(*favorite);
+    }
+    if (lines.isEmpty())
+        lines << translated("No favourites yet. \"vidora favourite X\" adds one.");
+    answer(lines.join(QLatin1Char('\n')), {{QStringLiteral("favourites"), array}});
+}
+
+bool AlarmRun::startsAt(const TVEntry& entry, const QString& time) const
+{
+    if (!entry.dateTime())
+        return false;
+    if (const auto instant = instantFromIsoText(time))
+        return entry.dateTime() == instant;
+    const QTime clockTime = QTime::fromString(time, QStringLiteral("H:mm"));
+    if (!clockTime.isValid())
+        throw Refusal{translated("--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.")};
+    return SilentHours::timeOf(*entry.dateTime(), DeviceSettings::timeZone()) == clockTime;
+}
+
+QString AlarmRun::lineOf(const Show& show) const
+{
+    const Instant start = show->entry->dateTime().value_or(Instant());
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(unixMilliseconds(start), DeviceSettings::timeZone());
+    return DeviceSettings::locale().toString(local.date(), QLocale::ShortFormat) + QLatin1Char(' ') +
+           ShowPrinter(m_delegate.channelData()).lineWithChannel(show);
+}
+
+Show AlarmRun::broadcast()
+{
+    if (!m_line.options.contains(QStringLiteral("--at")))
+        throw Refusal{translated("--at TIME is missing: when the broadcast starts.")};
+    const QString time = m_line.options.value(QStringLiteral("--at"));
+    std::optional<ObjectId> channel;
+    if (m_line.options.contains(QStringLiteral("--on"))) {
+        const NamedChannel found = channelNamed(m_line.options.value(QStringLiteral("--on")), m_delegate.channelData());
+        if (const auto* message = std::get_if<QString>(&found))
+            throw Refusal{*message};
+        channel = std::get<ObjectId>(found);
+    }
+    ShowList shows = showsNamedLike(argument());
+    std::erase_if(shows, [&](const Show& show) {
+        return (channel && show->entry->channel() != *channel) || !startsAt(*show->entry, time) ||
+               *show->entry->dateTime() < m_device.clock().now();
+    });
+    if (shows.empty())
+        throw Refusal{translated("No coming broadcast of \"%1\" starts then.").arg(argument())};
+    // A time of day means the first day that has it.
+    std::erase_if(shows, [first = shows.front()->entry->dateTime()](const Show& show) {
+        return show->entry->dateTime() != first;
+    });
+    if (shows.size() > 1) {
+        QStringList lines{translated("More than one broadcast fits; --on CHANNEL or more of the title tells which:")};
+        for (const Show& show : shows)
+            lines << lineOf(show);
+        throw Refusal{lines.join(QLatin1Char('\n'))};
+    }
+    return shows.front();
+}
+
+void AlarmRun::alarm()
+{
+    const auto last = m_delegate.keyValueStore().longLongForKey(QStringLiteral("lastAlarmMinutes"));
+    const int lead =
+        minutes(QStringLiteral("--before"), static_cast<int>(std::clamp<std::int64_t>(last, 0, mostMinutes)));
+    const Show show = broadcast();
+    const TVEntry& entry = *show->entry;
+    const Instant start = *entry.dateTime();
+    if (start - std::chrono::minutes(lead) <= m_device.clock().now())
+        throw Refusal{translated("It is too late for an alarm %1 minutes ahead.").arg(lead)};
+    const QString title = entry.title().value_or(QString());
+    m_engine.removeAlarmForTitle(title, entry.channel(), start, true, m_engine.alarmedEntry(entry) >= 0);
+    settle();
+    m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
+    settle();
+    if (m_engine.alarmedEntry(entry) < 0)
+        throw Refusal{translated("No alarm was set: no calendar can be written.")};
+    answer(translated("Alarm %1 minutes ahead: %2").arg(lead).arg(lineOf(show)),
+           {{QStringLiteral("minutes"), lead},
+            {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
+}
+
+void AlarmRun::unalarm()
+{
+    if (!m_line.options.contains(QStringLiteral("--at"))) {
+        QStringList titles;
+        for (const Show& show : showsNamedLike(argument()))
+            titles << show->entry->title().value_or(QString());
+        const QString title = titles.isEmpty() ? argument() : named(titles);
+        m_engine.removeAlarmForTitle(title, true, true);
+        settle();
+        answer(translated("No alarms any more: %1").arg(title), {{QStringLiteral("removed"), title}});
+        return;
+    }
+    const Show show = broadcast();
+    const TVEntry& entry = *show->entry;
+    m_engine.removeAlarmForTitle(entry.title().value_or(QString()), entry.channel(), *entry.dateTime(), true, true);
+    settle();
+    answer(translated("No alarm any more: %1").arg(lineOf(show)),
+           {{QStringLiteral("removed"), entry.title().value_or(QString())},
+            {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
+}
+
+void AlarmRun::alerts()
+{
+    std::optional<ShowList> shows;
+    m_engine.alertsScheduleWithPriority(QualityOfService::UserInitiated, [&](const CompoundListing& listing) {
+        shows.emplace();
+        for (const QString& date : listing.dates)
+            shows->insert(shows->end(), listing.sections.at(date).begin(), listing.sections.at(date).end());
+    });
+    DispatchQueue::runMain([&] { return shows.has_value(); });
+    const ShowPrinter printer(m_delegate.channelData());
+    QJsonArray array;
+    for (const Show& show : *shows) {
+        QJsonObject object = printer.json({show}).first().toObject();
+        object.insert(QStringLiteral("minutes"), m_engine.alarmedEntry(*show->entry));
+        array.append(object);
+    }
+    answer(shows->empty() ? translated("No alarms.") : printer.byDays(*shows, true).trimmed(),
+           {{QStringLiteral("alerts"), array}});
+}
+
+void AlarmRun::silentHours()
+{
+    SilentHours& hours = m_delegate.silentHours();
+    const QTimeZone zone = DeviceSettings::timeZone();
+    const QStringList& times = m_line.arguments;
+    if (times.size() == 1 && times.front() == QLatin1String("off")) {
+        hours.setEnabled(false);
+    } else if (!times.isEmpty()) {
+        const QTime from = QTime::fromString(times.front(), QStringLiteral("H:mm"));
+        const QTime to = QTime::fromString(times.back(), QStringLiteral("H:mm"));
+        if (times.size() != 2 || !from.isValid() || !to.isValid())
+            throw Refusal{translated("silent-hours takes two times such as 00:00 07:00, or \"off\".")};
+        hours.setFromTimestamp(SilentHours::timestampOf(from, zone));
+        hours.setToTimestamp(SilentHours::timestampOf(to, zone));
+        hours.setEnabled(true);
+    }
+    if (!times.isEmpty()) {
+        m_engine.setSynchronized(false);
+        m_engine.syncAlarms();
+        settle();
+    }
+    const QString from = SilentHours::timeOf(hours.fromTimestamp(), zone).toString(QStringLiteral("HH:mm"));
+    const QString to = SilentHours::timeOf(hours.toTimestamp(), zone).toString(QStringLiteral("HH:mm"));
+    QString text = hours.enabled() ? translated("Favourites do not ring between %1 and %2.").arg(from, to)
+                                   : translated("No silent hours.");
+    const SilentPeriod period = hours.period();
+    if (period.enabled && period.from >= period.to)
+        text += QLatin1Char('\n') + translated("A period that crosses midnight, or has no length, silences them at "
+                                               "every time of the day.");
+    answer(text,
+           {{QStringLiteral("enabled"), hours.enabled()}, {QStringLiteral("from"), from}, {QStringLiteral("to"), to}});
+}
+
+void AlarmRun::calendars()
+{
+    const std::vector<Calendar> all = m_delegate.eventStore().calendarsForEntityType(EntityType::Event);
+    if (!m_line.arguments.isEmpty()) {
+        if (m_engine.hasEvents())
+            throw Refusal{translated("You have to remove all your alerts before changing calendar")};
+        QStringList titles;
+        for (const Calendar& calendar : all) {
+            if (calendar.allowsContentModifications)
+                titles << calendar.title;
+        }
+        const QString title = named(titles);
+        m_engine.saveCalendar(*std::find_if(all.begin(), all.end(), [&](const Calendar& calendar) {
+            return calendar.allowsContentModifications && calendar.title == title;
+        }));
+        settle();
+    }
+    const auto selected = m_engine.selectedCalendar();
+    QJsonArray array;
+    QStringList lines;
+    for (const Calendar& calendar : all) {
+        const bool isSelected = selected == calendar;
+        array.append(QJsonObject{{QStringLiteral("title"), calendar.title},
+                                 {QStringLiteral("source"), calendar.source},
+                                 {QStringLiteral("writable"), calendar.allowsContentModifications},
+                                 {QStringLiteral("selected"), isSelected}});
+        lines << (isSelected ? QStringLiteral("* ") : QStringLiteral("  ")) + calendar.title + QLatin1String("  (") +
+                     calendar.source + QLatin1Char(')');
+    }
+    lines << translated("Calendars lie in %1.").arg(Device::calendars(m_device.folders()));
+    answer(lines.join(QLatin1Char('\n')), {{QStringLiteral("calendars"), array}});
+}
+
+} // namespace
+
+bool isAlarmCommand(const QString& command)
+{
+    return AlarmRun::handlers().contains(command);
+}
+
+int runAlarmCommand(const CommandLine& line, Device& device)
+{
+    return AlarmRun(line, device).run();
+}
+
+} // namespace vidora

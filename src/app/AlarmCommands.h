@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/CommandLine.h"
+#include "app/Device.h"
+
+namespace vidora {
+
+/// Whether a command is about favourites, alarms or calendars.
+bool isAlarmCommand(const QString& command);
+
+/// Runs such a command to its end, the work on the calendar included, and says what it did. The exit status.
+int runAlarmCommand(const CommandLine& line, Device& device);
+
+} // namespace vidora
