@@ -38,7 +38,7 @@ Rectangle {
             placeholderTextColor: Theme.secondaryLabel
             color: Theme.label
             selectionColor: Theme.accent
-            selectedTextColor: Theme.onAccent
+            selectedTextColor: Theme.accentText
             font.pixelSize: Theme.body
             maximumLength: 200
             background: null

@@ -80,6 +80,8 @@ FocusScope {
                     required property var model
                     readonly property bool first: ListView.previousSection !== ListView.section
                     readonly property bool last: ListView.nextSection !== ListView.section
+                    Component.onCompleted: table.screen.rowDisplayed(index)
+                    ListView.onReused: table.screen.rowDisplayed(index)
                     width: ListView.view.width
                     height: heading.height + row.implicitHeight + (last ? 14 : 0)
                     SectionHeader {
@@ -104,7 +106,6 @@ FocusScope {
                         onChosen: table.choose(place.index)
                         onAccessoryPressed: table.screen.pressAccessory(place.index)
                         onDeletePressed: table.screen.removeRow(place.index)
-                        Component.onCompleted: table.screen.rowDisplayed(place.index)
                         onMoved: to => table.screen.moveRow(place.index, to)
                     }
                 }

@@ -35,6 +35,6 @@ AbstractButton {
         elide: Text.ElideRight
         font.pixelSize: Theme.body
         font.weight: Font.DemiBold
-        color: button.prominent ? Theme.onAccent : Theme.accent
+        color: button.prominent ? Theme.accentText : Theme.accent
     }
 }

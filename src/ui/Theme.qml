@@ -20,7 +20,7 @@ QtObject {
     readonly property color favouriteOrange: dark ? "#ffa64d" : "#a35200"
     readonly property color sectionHeader: dark ? "#dfc15a" : "#776006"
     readonly property color accent: indigo
-    readonly property color onAccent: dark ? "#17171c" : "#ffffff"
+    readonly property color accentText: dark ? "#17171c" : "#ffffff"
     readonly property color pressed: dark ? "#2c2c34" : "#ececf3"
     readonly property color focus: accent
     readonly property color scrim: "#99000000"

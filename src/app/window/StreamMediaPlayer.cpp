@@ -11,6 +11,7 @@ StreamMediaPlayer::StreamMediaPlayer(const URL& url)
     m_player.setAudioOutput(m_audio);
     connect(&m_player, &QMediaPlayer::mediaStatusChanged, this, &StreamMediaPlayer::stateChanged);
     connect(&m_player, &QMediaPlayer::playbackStateChanged, this, &StreamMediaPlayer::stateChanged);
+    connect(&m_player, &QMediaPlayer::tracksChanged, this, &StreamMediaPlayer::stateChanged);
     connect(&m_player, &QMediaPlayer::errorChanged, this, &StreamMediaPlayer::stateChanged);
     connect(m_audio, &QAudioOutput::volumeChanged, this, &StreamMediaPlayer::volumeChanged);
     const QUrl source(url.text());
@@ -32,8 +33,8 @@ StreamPlayer::Status StreamMediaPlayer::status() const
     case QMediaPlayer::LoadedMedia:
     case QMediaPlayer::BufferingMedia:
     case QMediaPlayer::BufferedMedia:
-    case QMediaPlayer::EndOfMedia:
-        return Status::ReadyToPlay;
+    case QMediaPlayer::EndOfMedia: // also said of an address where there was nothing to play
+        return m_player.hasVideo() || m_player.hasAudio() ? Status::ReadyToPlay : Status::Unknown;
     case QMediaPlayer::InvalidMedia:
         return Status::Failed;
     case QMediaPlayer::NoMedia:

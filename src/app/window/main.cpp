@@ -13,6 +13,8 @@ int main(int argc, char** argv)
                                         [](const char* argument) { return std::strcmp(argument, "--self-test") == 0; });
     if (isSelfTest) // nothing is shown, so no display is needed
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND")) // the other one ends the program where its plugins are missing
+        qputenv("QT_MEDIA_BACKEND", "ffmpeg");
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vidora"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tv.ostrel.vidora"));
