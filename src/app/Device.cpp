@@ -166,6 +166,10 @@ void Device::endBySignal(int signal)
 
 void Device::quit()
 {
+    // What a pass brought last may still be on its way to the calendar.
+    bool calendarIsSettled = false;
+    DispatchQueue::main().async([&] { m_delegate->alarmEngine().whenIdle([&] { calendarIsSettled = true; }); });
+    DispatchQueue::runMain([&] { return calendarIsSettled; });
     m_delegate->applicationDidEnterBackground();
     m_delegate->applicationWillTerminate();
 }
