@@ -160,6 +160,8 @@ void TVListings::setPopularShows(SharedShowList shows)
 void TVListings::listingsStored()
 {
     m_surroundings.alarms.setSynchronized(false);
+    // The synchronisation reads the merged list, and must find the new shows there however soon its turn comes.
+    saveAllShows();
     onMain([this] {
         if (m_surroundings.application.isInBackground())
             m_surroundings.application.synchronizeSettings();
