@@ -6,6 +6,11 @@
 
 #include <algorithm>
 #include <atomic>
+#include <bit>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace vidora {
 
@@ -79,16 +84,60 @@ std::size_t roomFor(const ShowElement& show)
     return room;
 }
 
-std::uint8_t* fold(QStringView text, std::uint8_t* out)
+std::uint8_t* foldOneByOne(const char16_t* units, const char16_t* end, std::uint8_t* out)
 {
     const ByteTable& table = byteTable();
-    const char16_t* units = text.utf16();
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const std::uint8_t byte = table[units[i]];
+    for (; units != end; ++units) {
+        const std::uint8_t byte = table[*units];
         *out = byte;
         out += byte != noByte;
     }
     return out;
+}
+
+#ifdef __SSE2__
+constexpr qsizetype unitsAtOnce = 16;
+
+__m128i lowerCaseOfAscii(__m128i units)
+{
+    const __m128i isUpper =
+        _mm_and_si128(_mm_cmpgt_epi16(units, _mm_set1_epi16('A' - 1)), _mm_cmplt_epi16(units, _mm_set1_epi16('Z' + 1)));
+    const __m128i lower = _mm_add_epi16(units, _mm_and_si128(isUpper, _mm_set1_epi16('a' - 'A')));
+    return _mm_max_epi16(lower, _mm_set1_epi16(1));
+}
+
+/// Folds 16 units as if they were ASCII, then mends those that are not. Where one of these is dropped, the bytes would
+/// move, so all are folded one by one.
+std::uint8_t* foldAtOnce(const char16_t* units, std::uint8_t* out)
+{
+    const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units));
+    const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units + 8));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_packus_epi16(lowerCaseOfAscii(low), lowerCaseOfAscii(high)));
+    const __m128i beyondAscii = _mm_set1_epi16(static_cast<std::int16_t>(0xff80));
+    const __m128i isAscii = _mm_packs_epi16(_mm_cmpeq_epi16(_mm_and_si128(low, beyondAscii), _mm_setzero_si128()),
+                                            _mm_cmpeq_epi16(_mm_and_si128(high, beyondAscii), _mm_setzero_si128()));
+    auto others = static_cast<std::uint32_t>(_mm_movemask_epi8(isAscii)) ^ 0xffffU;
+    const ByteTable& table = byteTable();
+    for (; others != 0; others &= others - 1) {
+        const int at = std::countr_zero(others);
+        const std::uint8_t byte = table[units[at]];
+        if (byte == noByte)
+            return foldOneByOne(units, units + unitsAtOnce, out);
+        out[at] = byte;
+    }
+    return out + unitsAtOnce;
+}
+#endif
+
+std::uint8_t* fold(QStringView text, std::uint8_t* out)
+{
+    const char16_t* units = text.utf16();
+    const char16_t* const end = units + text.size();
+#ifdef __SSE2__
+    for (; end - units >= unitsAtOnce; units += unitsAtOnce)
+        out = foldAtOnce(units, out);
+#endif
+    return foldOneByOne(units, end, out);
 }
 
 std::uint8_t* fold(const ShowElement& show, std::uint8_t* out)
