@@ -120,8 +120,11 @@ void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
         update(pass, urls);
 
     m_mainBlocks.async(endTask);
-    if (pass.parsedAnything)
+    if (pass.parsedAnything) {
         m_services.loadQueue.sync([this] { m_services.listings.updatePopularList(); });
+        // Alarms leave the events of a channel alone while it is loading, and would not come back to them.
+        m_services.listings.listingsStored();
+    }
     m_mainBlocks.async(
         [this, shows = pass.shows, failed = std::vector<ObjectId>(pass.missing.begin(), pass.missing.end())] {
             m_observer.passEnded(shows, failed);
