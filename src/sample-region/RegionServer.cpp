@@ -132,7 +132,7 @@ struct RegionServer::Site
 RegionServer::RegionServer(const Clock& clock, Sleeper& sleeper, const Options& options)
     : m_clock(clock)
     , m_sleeper(sleeper)
-    , m_schedule(options.seed)
+    , m_schedule(options.seed, options.changes)
     , m_faults(options.faults)
 {
     std::vector<std::string> origins;
@@ -171,15 +171,17 @@ void RegionServer::answer(const Provider& provider, const std::string& origin, c
 {
     const std::string target = std::string(provider.name) + request.target;
     Faults faults;
+    std::optional<Schedule> schedule;
     {
         const std::lock_guard lock(m_mutex);
+        schedule = m_schedule;
         m_requests.push_back(target);
         for (const Fault& fault : m_faults)
             if (fault.matches(target))
                 faults.push_back(fault);
     }
-    DocumentRequest wanted{m_schedule, m_clock.now(), 0, request.path, dateParameter(request), keyParameter(request),
-                           origin,     false};
+    DocumentRequest wanted{*schedule, m_clock.now(), 0, request.path, dateParameter(request), keyParameter(request),
+                           origin,    false};
     for (const Fault& fault : faults)
         spoil(wanted, fault);
     wanted.now += wanted.dayShift * dayStep;
@@ -220,6 +222,12 @@ std::string RegionServer::origin(std::string_view provider) const
         if (site->provider == provider)
             return site->origin;
     return {};
+}
+
+void RegionServer::setChanges(Changes changes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_schedule = Schedule(m_schedule.seed(), std::move(changes));
 }
 
 void RegionServer::setFaults(Faults faults)

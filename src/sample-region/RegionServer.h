@@ -33,6 +33,7 @@ public:
         /// channels of that address are left to their second sources.
         bool fixedAddress = false;
         Faults faults = {};
+        Changes changes = {};
     };
 
     /// `clock` says for which days documents are made, `sleeper` waits where a fault asks for it; both outlive the
@@ -47,6 +48,8 @@ public:
     /// Origin of a provider ("n", "r.0", "-hbo.hu", ...); empty for an unknown one.
     std::string origin(std::string_view provider) const;
     void setFaults(Faults faults);
+    /// What the provider has changed, from the next answer on.
+    void setChanges(Changes changes);
     /// What was asked for since the start or the last `clearRequests`, in order: "PROVIDER/path?query".
     std::vector<std::string> requests() const;
     void clearRequests();

@@ -138,14 +138,72 @@ QDateTime local(const QTimeZone& zone, Instant moment)
 
 } // namespace
 
+std::optional<Change> Change::fromText(std::string_view text)
+{
+    const std::size_t equals = text.rfind('=');
+    if (equals == std::string_view::npos || equals == 0)
+        return std::nullopt;
+    Change change{std::string(text.substr(0, equals)), Kind::Drop};
+    const std::string_view kind = text.substr(equals + 1);
+    if (kind == "drop")
+        return change;
+    if (kind == "twice") {
+        change.kind = Kind::Twice;
+        return change;
+    }
+    constexpr std::string_view rename = "rename:", move = "move:";
+    if (kind.starts_with(rename) && kind.size() > rename.size()) {
+        change.kind = Kind::Rename;
+        change.newTitle = kind.substr(rename.size());
+        return change;
+    }
+    constexpr int furthest = 24 * 60;
+    bool isNumber = false;
+    const int minutes =
+        kind.starts_with(move) ? QByteArray(kind.data(), qsizetype(kind.size())).mid(move.size()).toInt(&isNumber) : 0;
+    if (!isNumber || std::abs(minutes) > furthest)
+        return std::nullopt;
+    change.kind = Kind::Move;
+    change.by = std::chrono::minutes(minutes);
+    return change;
+}
+
+Broadcasts Schedule::changed(Broadcasts shows) const
+{
+    for (const Change& change : m_changes) {
+        Broadcasts result;
+        for (Broadcast& show : shows) {
+            const bool isMeant = show.title == change.title;
+            if (isMeant && change.kind == Change::Kind::Drop)
+                continue;
+            if (isMeant && change.kind == Change::Kind::Rename)
+                show.title = change.newTitle;
+            if (isMeant && change.kind == Change::Kind::Move) {
+                show.start += change.by;
+                show.end += change.by;
+            }
+            if (isMeant && change.kind == Change::Kind::Twice)
+                result.push_back(show);
+            result.push_back(std::move(show));
+        }
+        shows = std::move(result);
+    }
+    return shows;
+}
+
 Broadcasts Schedule::between(const RegionChannel& channel, Instant from, Instant to) const
 {
     const QTimeZone zone = zoneNamed(vocabulary(channel.speech).zone);
     Broadcasts found;
-    for (QDate date = dateIn(zone, from).addDays(-1); momentOf(zone, date, dayStartHour) < to; date = date.addDays(1))
-        for (Broadcast& show : day(channel, zone, date))
+    // A change moves a broadcast by a day at most.
+    const QDate first = dateIn(zone, from).addDays(m_changes.empty() ? -1 : -2);
+    const Instant end = m_changes.empty() ? to : to + dayStep;
+    for (QDate date = first; momentOf(zone, date, dayStartHour) < end; date = date.addDays(1))
+        for (Broadcast& show : changed(day(channel, zone, date)))
             if (show.start >= from && show.start < to)
                 found.push_back(std::move(show));
+    std::stable_sort(found.begin(), found.end(),
+                     [](const Broadcast& a, const Broadcast& b) { return a.start < b.start; });
     return found;
 }
 

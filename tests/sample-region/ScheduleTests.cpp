@@ -63,4 +63,32 @@ TEST(Schedule, TitlesHoldNothingThatProvidersGiveAMeaning)
 }
 
 } // namespace
+TEST(Schedule, ChangesMoveDropRenameAndRepeatTheBroadcastsOfATitle)
+{
+    const RegionChannel& channel = regionChannels().front();
+    const auto shows = [&](const char* change) {
+        Changes changes;
+        if (*change)
+            changes.push_back(Change::fromText(change).value());
+        return Schedule(1, changes).between(channel, present, present + 2 * dayStep);
+    };
+    const Broadcasts plain = shows("");
+    const std::string title = plain[3].title;
+    const auto count = [](const Broadcasts& list, const std::string& name) {
+        return std::count_if(list.begin(), list.end(), [&](const Broadcast& show) { return show.title == name; });
+    };
+    EXPECT_EQ(count(shows((title + "=drop").c_str()), title), 0);
+    EXPECT_EQ(count(shows((title + "=twice").c_str()), title), 2 * count(plain, title));
+    EXPECT_EQ(count(shows((title + "=rename:Another").c_str()), "Another"), count(plain, title));
+    const Broadcasts moved = shows((title + "=move:45").c_str());
+    EXPECT_TRUE(std::any_of(moved.begin(), moved.end(), [&](const Broadcast& show) {
+        return show.title == title && show.start == plain[3].start + std::chrono::minutes(45) &&
+               show.end == plain[3].end + std::chrono::minutes(45);
+    }));
+    EXPECT_TRUE(std::is_sorted(moved.begin(), moved.end(),
+                               [](const Broadcast& a, const Broadcast& b) { return a.start < b.start; }));
+    for (const char* text : {"", "drop", "=drop", "a=move:x", "a=move:99999", "a=rename:", "a=other"})
+        EXPECT_FALSE(Change::fromText(text)) << text;
+}
+
 } // namespace vidora::region

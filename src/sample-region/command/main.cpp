@@ -66,6 +66,18 @@ region::Faults faults(const QStringList& texts)
     return read;
 }
 
+region::Changes changes(const QStringList& texts)
+{
+    region::Changes read;
+    for (const QString& text : texts) {
+        const auto change = region::Change::fromText(text.toStdString());
+        if (!change)
+            throw Usage(QStringLiteral("--change: not TITLE=KIND[:ARGUMENT]: %1").arg(text));
+        read.push_back(*change);
+    }
+    return read;
+}
+
 /// Reads the arguments; nothing where only help was asked for.
 std::optional<Options> options(const QStringList& arguments)
 {
@@ -75,9 +87,9 @@ std::optional<Options> options(const QStringList& arguments)
         "The first line on standard output is the endpoint configuration that leads to it.\n"
         "The address 127.0.0.1:26418, which stands in the catalogue, is served too where it is free."));
     const QString port = QStringLiteral("port"), seed = QStringLiteral("seed"), clock = QStringLiteral("clock"),
-                  fault = QStringLiteral("fault"), endpoints = QStringLiteral("endpoints-file"),
-                  parent = QStringLiteral("with-parent"), catalogue = QStringLiteral("write-catalogue"),
-                  helpName = QStringLiteral("help");
+                  fault = QStringLiteral("fault"), change = QStringLiteral("change"),
+                  endpoints = QStringLiteral("endpoints-file"), parent = QStringLiteral("with-parent"),
+                  catalogue = QStringLiteral("write-catalogue"), helpName = QStringLiteral("help");
     constexpr std::uint64_t mostPort = 65'000;
     parser.addOption({{QStringLiteral("h"), helpName}, QStringLiteral("This text.")});
     parser.addOption({port, QStringLiteral("Port of the first provider, the others follow; 0 takes free ones."),
@@ -88,6 +100,10 @@ std::optional<Options> options(const QStringList& arguments)
                       QStringLiteral("TIME")});
     parser.addOption({fault, QStringLiteral("A defect in some answers; may be given more than once."),
                       QStringLiteral("PATTERN=KIND")});
+    parser.addOption({change,
+                      QStringLiteral("What becomes of the broadcasts of a title: move:MINUTES, drop, rename:TITLE, "
+                                     "twice; may be given more than once."),
+                      QStringLiteral("TITLE=KIND")});
     parser.addOption(
         {endpoints, QStringLiteral("Writes the endpoint configuration there, too."), QStringLiteral("FILE")});
     parser.addOption({parent, QStringLiteral("Ends when standard input ends.")});
@@ -106,6 +122,7 @@ std::optional<Options> options(const QStringList& arguments)
     read.server.seed = number(parser, seed, UINT64_MAX);
     read.server.fixedAddress = true;
     read.server.faults = faults(parser.values(fault));
+    read.server.changes = changes(parser.values(change));
     if (parser.isSet(clock) && !(read.clock = instantFromIsoText(parser.value(clock))))
         throw Usage(QStringLiteral("--clock: not a time like 2026-11-22T19:00:00Z: %1").arg(parser.value(clock)));
     read.endpointsFile = parser.value(endpoints);
