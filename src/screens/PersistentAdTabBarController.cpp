@@ -79,8 +79,10 @@ void PersistentAdTabBarController::fill(bool isPad)
         m_tabs.push_back({localized(content.title), QString::fromLatin1(content.name), true, std::nullopt});
     }
     m_tabBar.setViewControllers(std::move(stacks));
-    for (std::size_t index = 0; index < m_tabs.size(); ++index)
+    for (std::size_t index = 0; index < m_tabs.size(); ++index) { // the items outlive their tabs
         m_tabBar.setEnabled(index, true);
+        m_tabBar.setBadgeValue(index, std::nullopt);
+    }
     m_delegate.updateBadge();
 }
 

@@ -272,13 +272,15 @@ void RootViewController::reloadChannel(const ObjectId& channel, const ShowList& 
     m_showImages.erase(channel);
     ShowList& present = m_channelEntries[*section];
     const std::size_t before = present.size() + 1, after = entries.size() + 1;
-    const auto replace = [&] { present = entries; };
-    if (before == after)
-        replace();
-    else if (before > after)
-        removeRows(*section, after, before - after, replace);
-    else
-        insertRows(*section, before, after - before, replace);
+    // Rows that stay change only after those that come or go: a view takes them for the same until it is told.
+    if (before > after)
+        removeRows(*section, after, before - after, [&] { present.resize(entries.size()); });
+    else if (before < after)
+        insertRows(*section, before, after - before, [&] {
+            const auto shown = static_cast<std::ptrdiff_t>(present.size());
+            present.insert(present.end(), entries.begin() + shown, entries.end());
+        });
+    present = entries;
     reloadRows(*section, 0, std::min(before, after));
 }
 
