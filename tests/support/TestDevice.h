@@ -126,6 +126,7 @@ struct TestChannel
     QString id;
     QString title;
     QStringList sources;
+    QString stream = {};
 };
 
 /// A device in a folder of its own, with a scripted network and a clock that stands still. May be started again and
@@ -157,6 +158,8 @@ public:
                                {QStringLiteral("Language"), QStringLiteral("sr")}};
             for (qsizetype i = 0; i < channel.sources.size(); ++i)
                 record.insert(QStringLiteral("Location%1").arg(i + 1), channel.sources[i]);
+            if (!channel.stream.isEmpty())
+                record.insert(QStringLiteral("Stream"), channel.stream);
             records.append(record);
         }
         QFile::remove(folders.caches + QStringLiteral("/5b65e9d23afbe36684bdfe2c.plist"));

@@ -1,0 +1,142 @@
+#include "ScreensFixture.h"
+#include "screens/AllChannelsViewController.h"
+#include "screens/ChannelViewController.h"
+#include "screens/EditChannelListViewController.h"
+
+#include <QAbstractItemModelTester>
+
+namespace vidora {
+namespace {
+
+// A Qt model under the eyes of Qt's own tester, which ends the process at the first broken promise.
+struct WatchedModel
+{
+    explicit WatchedModel(const std::shared_ptr<ScreenModel>& screen)
+        : model(screen)
+        , tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal)
+    {
+    }
+    QStringList texts() const
+    {
+        QStringList texts;
+        for (int row = 0; row < model.rowCount(); ++row)
+            texts
+                << model.data(model.index(row), ScreenItemModel::TextRole).toString().section(QLatin1Char('\n'), 0, 0);
+        return texts;
+    }
+    ScreenItemModel model;
+    QAbstractItemModelTester tester;
+};
+
+QStringList words(const char* text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+}
+
+using ModelChangesTest = test::ScreensTest;
+
+TEST_F(ModelChangesTest, HomeFollowsAPassChannelByChannel)
+{
+    const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
+    broadcast(1, words("a|b|c"));
+    start({one, two});
+    WatchedModel watched(tabs->visibleScreen());
+    EXPECT_EQ(watched.texts(), words("One|Two"));
+    device.update(); // rows come
+    EXPECT_EQ(watched.texts(), words("One|08:30 a|09:30 b|10:30 c|Two"));
+
+    device.clock.advance(Seconds(86'401)); // the same number of rows, then fewer
+    silence();
+    broadcast(1, words("d|e|f"));
+    broadcast(2, words("g|h"));
+    device.update();
+    EXPECT_EQ(watched.texts(), words("One|08:30 d|09:30 e|10:30 f|Two|08:30 g|09:30 h"));
+    device.clock.advance(Seconds(86'401));
+    silence();
+    broadcast(1, words("i"));
+    device.update();
+    EXPECT_EQ(watched.texts(), words("One|08:30 i|Two|08:30 g|09:30 h"));
+
+    home().reloadChannel(idOf(one), {});
+    EXPECT_EQ(watched.model.rowCount(), 5) << "an empty list leaves the old rows";
+    home().reloadChannel(ObjectId::initWithHex(u"58f4ded60befe78cb3369999"), home().channelEntries()[0]);
+    EXPECT_EQ(watched.model.rowCount(), 5);
+}
+
+TEST_F(ModelChangesTest, ChannelIsReadAgainWhenItsPassIsOver)
+{
+    broadcast(1, words("a|b"));
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    home().selectRow({0, 0});
+    const auto screen = awaited<ChannelViewController>();
+    WatchedModel watched(screen);
+    int changes = 0;
+    watched.model.onSurroundingsChanged = [&] { ++changes; };
+    EXPECT_FALSE(screen->isRefreshing());
+
+    device.clock.advance(Seconds(86'401)); // the document is not kept for longer than a list
+    silence();
+    broadcast(1, words("c|d|e"));
+    screen->refresh();
+    EXPECT_TRUE(screen->isRefreshing());
+    EXPECT_EQ(screen->rightBarButtonItems().front().kind, BarButton::Kind::Activity);
+    screen->reloadChannelData();
+    EXPECT_EQ(watched.model.rowCount(), 2) << "the old list stands until the new one is here";
+    DispatchQueue::runMain([&] { return !screen->isRefreshing(); });
+    EXPECT_EQ(watched.texts(), words("08:30 c|09:30 d|10:30 e"));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(ModelChangesTest, EditorMovesAndDeletes)
+{
+    const std::vector<test::TestChannel> all{channel(1, QStringLiteral("One")), channel(2, QStringLiteral("Two")),
+                                             channel(3, QStringLiteral("Three")), channel(4, QStringLiteral("Four"))};
+    start(all);
+    tabs->selectTab(4);
+    const auto editor = visible<EditChannelListViewController>();
+    WatchedModel watched(editor);
+    editor->moveRow({0, 0}, {0, 2});
+    EXPECT_EQ(watched.texts(), words("Two|Three|One|Four"));
+    editor->moveRow({0, 3}, {0, 0});
+    EXPECT_EQ(watched.texts(), words("Four|Two|Three|One"));
+    editor->deleteRow({0, 1});
+    EXPECT_EQ(watched.texts(), words("Four|Three|One"));
+    const ChannelIds expected{idOf(all[3]), idOf(all[2]), idOf(all[0])};
+    EXPECT_EQ(device.delegate->channels().selected(), expected);
+    editor->trash();
+    EXPECT_EQ(watched.model.rowCount(), 0);
+    EXPECT_EQ(tabs->selectedIndex(), 4U);
+    EXPECT_EQ(enabledTabs(), (std::vector<bool>{false, false, false, false, true}));
+}
+
+TEST_F(ModelChangesTest, ChooserTogglesAndSearches)
+{
+    const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
+    broadcast(1, words("a"));
+    start({one, two}, {});
+    EXPECT_EQ(tabs->selectedIndex(), 4U) << "without channels there is nothing to see but how to choose them";
+    EXPECT_FALSE(enabledTabs()[0]);
+    visible<EditChannelListViewController>()->add();
+    const auto chooser = visible<AllChannelsViewController>();
+    WatchedModel watched(chooser);
+    chooser->setSearchText(QStringLiteral("ON"));
+    EXPECT_EQ(watched.texts(), words("One"));
+    chooser->selectRow({0, 0});
+    EXPECT_EQ(watched.model.data(watched.model.index(0), ScreenItemModel::AccessoryRole), QStringLiteral("checkmark"));
+    EXPECT_EQ(enabledTabs(), std::vector<bool>(5, true));
+    chooser->setSearchText({});
+    EXPECT_EQ(watched.texts(), words("One|Two"));
+
+    tabs->selectTab(0);
+    DispatchQueue::runMain([&] { return home().hasShows(idOf(one)); });
+
+    tabs->selectTab(4);
+    chooser->selectRow({0, 0});
+    EXPECT_TRUE(device.delegate->channels().selected().empty());
+    EXPECT_FALSE(enabledTabs()[0]);
+    EXPECT_EQ(watched.model.data(watched.model.index(0), ScreenItemModel::AccessoryRole), QStringLiteral("none"));
+}
+
+} // namespace
+} // namespace vidora
