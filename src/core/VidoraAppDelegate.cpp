@@ -190,7 +190,7 @@ void VidoraAppDelegate::finishAlarmsInBackground()
     const auto task = m_application.beginBackgroundTask(QStringLiteral("alarms"), {});
     // Behind the synchronisations that were asked for and wait for their turn on the main queue.
     m_mainBlocks.async([this, task] {
-        m_alarmEngine->whenIdle([application = &m_application, task] { application->endBackgroundTask(task); });
+        m_alarmEngine->whenIdle(m_mainBlocks.guarded([this, task] { m_application.endBackgroundTask(task); }));
     });
 }
 
