@@ -20,8 +20,30 @@ bool opensElement(std::string_view rest, std::string_view name)
            (rest[name.size()] == '>' || rest[name.size()] == ' ');
 }
 
+// The library ends the process on a text that holds a zero character; XML can name one only by a reference.
+bool namesZero(std::string_view reference)
+{
+    const bool isHex = !reference.empty() && (reference.front() == 'x' || reference.front() == 'X');
+    const std::string_view digits = reference.substr(isHex ? 1 : 0, 8);
+    const std::size_t end = std::min(digits.find(';'), digits.size());
+    return end == digits.size() || digits.substr(0, end).find_first_not_of('0') == std::string_view::npos;
+}
+
+bool xmlHasZero(std::string_view xml)
+{
+    if (xml.find('\0') != std::string_view::npos)
+        return true;
+    for (std::size_t at = xml.find("&#"); at != std::string_view::npos; at = xml.find("&#", at + 2)) {
+        if (namesZero(xml.substr(at + 2)))
+            return true;
+    }
+    return false;
+}
+
 bool xmlIsBounded(std::string_view xml)
 {
+    if (xmlHasZero(xml))
+        return false;
     int depth = 0;
     for (std::size_t at = xml.find('<'); at != std::string_view::npos; at = xml.find('<', at + 1)) {
         const std::string_view rest = xml.substr(at + 1);
@@ -88,9 +110,12 @@ private:
         // own expansion, so keep the two together.
         if (m_expanded[object] != 0 && depth + m_height[object] <= maximumDepth)
             return m_expanded[object];
+        const std::uint64_t at = number(m_table + object * m_offsetSize, m_offsetSize);
+        if (!textIsSound(at))
+            return std::nullopt;
         std::uint64_t values = 1;
         std::uint8_t height = 0;
-        for (const std::uint64_t child : children(number(m_table + object * m_offsetSize, m_offsetSize))) {
+        for (const std::uint64_t child : children(at)) {
             const auto inner = expandedValues(child, depth + 1);
             if (!inner || (values += *inner) > maximumValues)
                 return std::nullopt;
@@ -100,13 +125,9 @@ private:
         return m_expanded[object] = values;
     }
 
-    std::vector<std::uint64_t> children(std::uint64_t at) const
+    // The size of the object at this place, which is moved to its content.
+    std::uint64_t sizeOf(std::uint64_t& at) const
     {
-        if (at >= m_bytes.size())
-            return {};
-        const int kind = m_bytes[at] >> 4;
-        if (kind != 0xa && kind != 0xc && kind != 0xd)
-            return {};
         std::uint64_t size = m_bytes[at] & 15;
         ++at;
         if (size == 15 && at < m_bytes.size()) {
@@ -114,6 +135,38 @@ private:
             size = number(at + 1, width);
             at += 1 + width;
         }
+        return size;
+    }
+
+    // The library ends the process on a text that holds a zero character, and can't convert half a surrogate pair.
+    bool textIsSound(std::uint64_t at) const
+    {
+        if (at >= m_bytes.size())
+            return true;
+        const int kind = m_bytes[at] >> 4;
+        if (kind != 0x5 && kind != 0x6)
+            return true;
+        const std::uint64_t width = kind == 0x5 ? 1 : 2;
+        const std::uint64_t size = sizeOf(at);
+        bool pairIsOpen = false;
+        for (std::uint64_t i = 0; i < size && at + width <= m_bytes.size(); ++i, at += width) {
+            const std::uint64_t unit = number(at, width);
+            const bool isLow = unit >= 0xdc00 && unit < 0xe000;
+            if (unit == 0 || isLow != pairIsOpen)
+                return false;
+            pairIsOpen = unit >= 0xd800 && unit < 0xdc00;
+        }
+        return !pairIsOpen;
+    }
+
+    std::vector<std::uint64_t> children(std::uint64_t at) const
+    {
+        if (at >= m_bytes.size())
+            return {};
+        const int kind = m_bytes[at] >> 4;
+        if (kind != 0xa && kind != 0xc && kind != 0xd)
+            return {};
+        const std::uint64_t size = sizeOf(at);
         if (size > m_bytes.size())
             return {};
         std::vector<std::uint64_t> result;

@@ -81,6 +81,7 @@ private:
             m_byId.emplace(m_channel->id, m_summary.channels.size());
             m_summary.channels.push_back(std::move(*m_channel));
             m_channel.reset();
+            m_insideName = false; // a channel may end inside its own name in a document of another kind
         }
         m_stream.setTextWanted(m_insideName);
     }
