@@ -344,7 +344,7 @@ void AlarmRun::alerts()
         object.insert(QStringLiteral("minutes"), m_engine.alarmedEntry(*show->entry));
         array.append(object);
     }
-    answer(shows->empty() ? translated("No alarms.") : printer.byDays(*shows, true).trimmed(),
+    answer(shows->empty() ? translated("No alarms.") : printer.byDays(*shows).trimmed(),
            {{QStringLiteral("alerts"), array}});
 }
 

@@ -8,6 +8,9 @@
 #include "app/ShowPrinter.h"
 #include "content/TVListingsCategory.h"
 #include "platform/Log.h"
+#include "screens/AllChannelsViewController.h"
+#include "screens/ChannelViewController.h"
+#include "screens/RootViewController.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -15,7 +18,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <unordered_set>
 
 namespace vidora {
 
@@ -89,7 +91,7 @@ private:
 
     bool hasSelection();
     std::optional<std::vector<ObjectId>> namedChannels();
-    int printShows(const ShowList& shows, bool withChannels);
+    int printShows(const ShowList& shows);
     ShowList showsOfCategory(TVListingsCategory category);
     void chooseFirstChannels();
 
@@ -164,32 +166,27 @@ int CommandRun::now()
 {
     if (!hasSelection() && !m_line.json)
         return 0;
-    const auto selection = delegate().channels().selected();
-    const auto rows = waitFor<std::vector<ShowList>>([this](std::function<void(std::vector<ShowList>)> answer) {
-        delegate().listings().onAirShowsWithQueue(DispatchQueue::main(), std::move(answer));
-    });
+    RootViewController home(delegate());
+    home.viewWillAppear();
+    home.selectedChannelsChanged();
+    DispatchQueue::runMain([&] { return home.hasContent(); });
     const ShowPrinter printer(catalogue());
-    QJsonArray array;
-    QString text;
-    for (std::size_t i = 0; i < rows.size() && i < selection.size(); ++i) {
-        const QString title = titleOf(selection[i], catalogue());
-        array.append(QJsonObject{{QStringLiteral("channel"), selection[i].hex()},
-                                 {QStringLiteral("channelTitle"), title},
-                                 {QStringLiteral("shows"), printer.json(rows[i])}});
-        text += title + QLatin1Char('\n');
-        for (const Show& show : rows[i])
-            text += QLatin1String("  ") + printer.line(show) + QLatin1Char('\n');
-        if (rows[i].empty())
-            text += QLatin1String("  ") + translated("No listings.") + QLatin1Char('\n');
+    if (!m_line.json) {
+        printText(printer.screen(home));
+        return 0;
     }
-    if (m_line.json)
-        printJson({{QStringLiteral("channels"), array}});
-    else
-        printText(text);
+    QJsonArray array;
+    for (std::size_t i = 0; i < home.numberOfSections(); ++i) {
+        const ObjectId& channel = home.selectedChannelsArray()[i];
+        array.append(QJsonObject{{QStringLiteral("channel"), channel.hex()},
+                                 {QStringLiteral("channelTitle"), titleOf(channel, catalogue())},
+                                 {QStringLiteral("shows"), printer.json(home.channelEntries()[i])}});
+    }
+    printJson({{QStringLiteral("channels"), array}});
     return 0;
 }
 
-int CommandRun::printShows(const ShowList& shows, bool withChannels)
+int CommandRun::printShows(const ShowList& shows)
 {
     const ShowPrinter printer(catalogue());
     if (m_line.json)
@@ -197,7 +194,7 @@ int CommandRun::printShows(const ShowList& shows, bool withChannels)
     else if (shows.empty())
         say(translated("No shows."));
     else
-        printText(printer.byDays(shows, withChannels));
+        printText(printer.byDays(shows));
     return 0;
 }
 
@@ -208,11 +205,15 @@ int CommandRun::channel()
         say(*message);
         return 1;
     }
+    const ObjectId& id = std::get<ObjectId>(named);
     const auto list = waitFor<SharedShowList>([&](std::function<void(SharedShowList)> answer) {
-        delegate().listings().cachedListForChannel(std::get<ObjectId>(named), QualityOfService::UserInitiated,
-                                                   std::move(answer));
+        delegate().listings().cachedListForChannel(id, QualityOfService::UserInitiated, std::move(answer));
     });
-    return printShows(*list, false);
+    if (m_line.json || list->empty())
+        return printShows(*list);
+    const ChannelViewController screen(delegate(), titleOf(id, catalogue()), *list, {}, id);
+    printText(ShowPrinter(catalogue()).screen(screen));
+    return 0;
 }
 
 ShowList CommandRun::showsOfCategory(TVListingsCategory category)
@@ -252,7 +253,7 @@ int CommandRun::category()
         return 1;
     }
     const qsizetype index = std::max(labels.indexOf(candidates.front()), keys.indexOf(candidates.front()));
-    return printShows(showsOfCategory(values[static_cast<std::size_t>(index)]), true);
+    return printShows(showsOfCategory(values[static_cast<std::size_t>(index)]));
 }
 
 int CommandRun::search()
@@ -262,29 +263,28 @@ int CommandRun::search()
             DispatchQueue::main().async([answer, found] { answer(found); });
         });
     });
-    return printShows(*shows, true);
+    return printShows(*shows);
 }
 
 int CommandRun::channels()
 {
-    const auto selection = delegate().channels().selected();
-    const std::unordered_set<ObjectId> chosen(selection.begin(), selection.end());
+    const AllChannelsViewController chooser(
+        delegate(), std::make_shared<const std::vector<ChannelGroup>>(channelGroups(catalogue())));
+    if (!m_line.json) {
+        printText(ShowPrinter(catalogue()).screen(chooser));
+        return 0;
+    }
     QJsonArray array;
-    QString text;
+    // All of them: the chooser offers only one of several that bear the same title.
     for (const ObjectId& id : channelsByTitle(catalogue())) {
         const ChannelDictionary& channel = catalogue().at(id);
-        const QString title = titleOf(id, catalogue());
         array.append(QJsonObject{{QStringLiteral("channel"), id.hex()},
-                                 {QStringLiteral("channelTitle"), title},
+                                 {QStringLiteral("channelTitle"), titleOf(id, catalogue())},
                                  {QStringLiteral("language"), channel.language().value_or(QString())},
                                  {QStringLiteral("hasStream"), channel.stream().has_value()},
-                                 {QStringLiteral("selected"), chosen.contains(id)}});
-        text += (chosen.contains(id) ? QLatin1String("* ") : QLatin1String("  ")) + title + QLatin1Char('\n');
+                                 {QStringLiteral("selected"), chooser.isSelected(id)}});
     }
-    if (m_line.json)
-        printJson({{QStringLiteral("channels"), array}});
-    else
-        printText(text);
+    printJson({{QStringLiteral("channels"), array}});
     return 0;
 }
 

@@ -2,6 +2,7 @@
 
 #include "content/ShowElement.h"
 #include "core/ChannelCatalogue.h"
+#include "screens/ScreenModel.h"
 
 #include <QJsonArray>
 #include <QString>
@@ -20,16 +21,24 @@ public:
     QString line(const Show& show) const;
     /// The same with the channel ahead of it.
     QString lineWithChannel(const Show& show) const;
-    /// Lines under a heading for each day.
-    QString byDays(const ShowList& shows, bool withChannels) const;
+    /// The rows of a screen: shows as lines below the channel or the heading that they belong to. In the colours of the
+    /// screen where standard output is a terminal that has some.
+    QString screen(const ScreenModel& screen) const;
+    /// Shows of several channels, under a heading for each day.
+    QString byDays(const ShowList& shows) const;
     /// The shows as objects, each with the title of its channel as "channelTitle".
     QJsonArray json(const ShowList& shows) const;
 
 private:
     QString time(std::optional<Instant> instant) const;
+    QString times(const TVEntry& entry) const;
+    QString titleAndRemarks(const TVEntry& entry) const;
+    QString row(const ScreenRow& row) const;
+    QString painted(const QString& text, const AttributedText& like) const;
 
     const ChannelData& m_channels;
     const QTimeZone m_zone;
+    const bool m_isColoured;
 };
 
 /// Writes a text to standard output.
