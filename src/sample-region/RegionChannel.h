@@ -42,6 +42,8 @@ struct RegionChannel
 /// Where sources and streams stand whose whole address is part of the catalogue. The region serves it beside its
 /// changing ports whenever the port is free.
 inline constexpr int fixedPort = 26418;
+/// Where the one stream stands whose server takes connections and never answers.
+inline constexpr int silentPort = 26419;
 /// The source id of the one channel page that is addressed by its provider's host.
 inline constexpr std::string_view primaMaxSourceId = "max.prima.example";
 

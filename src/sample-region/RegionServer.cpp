@@ -2,6 +2,7 @@
 
 #include "sample-region/Pictures.h"
 #include "sample-region/Provider.h"
+#include "sample-region/Streams.h"
 
 #include <atomic>
 #include <httplib.h>
@@ -34,7 +35,8 @@ std::string keyParameter(const httplib::Request& request)
     return request.get_param_value(request.has_param("kanal_id") ? "kanal_id" : "channel_id");
 }
 
-std::optional<Document> image(const std::string& path)
+/// What every site has: pictures of shows, icons, streams.
+std::optional<Document> media(const std::string& path)
 {
     constexpr std::string_view pictures = "/images/", icons = "/icons/";
     if (path.rfind(pictures, 0) == 0)
@@ -43,7 +45,7 @@ std::optional<Document> image(const std::string& path)
         for (const RegionChannel& channel : regionChannels())
             if (channel.icon() == path.substr(icons.size()))
                 return Document{channelIcon(channel), "image/svg+xml"};
-    return std::nullopt;
+    return streamDocument(path);
 }
 
 void removeAll(std::string& text, const std::string& marker)
@@ -143,6 +145,7 @@ RegionServer::RegionServer(const Clock& clock, Sleeper& sleeper, const Options& 
     }
     m_endpoints = endpointsJson(origins);
     if (options.fixedAddress) {
+        m_silent = std::make_unique<SilentAddress>(silentPort);
         try {
             open(fixedProvider(), fixedPort);
         } catch (const std::runtime_error&) {
@@ -187,7 +190,7 @@ void RegionServer::answer(const Provider& provider, const std::string& origin, c
     wanted.now += wanted.dayShift * dayStep;
     std::optional<Document> document = provider.document(wanted);
     if (!document)
-        document = image(request.path);
+        document = media(request.path);
     response.status = document ? 200 : 404;
     if (!document)
         document = Document{"<html><body><h1>404</h1></body></html>\n", "text/html; charset=utf-8"};

@@ -18,6 +18,7 @@ namespace vidora::region {
 
 struct Document;
 struct Provider;
+class SilentAddress;
 
 /// The made-up region as HTTP sites on the loopback, one port for each provider. Serves from the constructor's end to
 /// the destructor; all operations may be called on any thread.
@@ -29,8 +30,8 @@ public:
         std::uint64_t seed = 1;
         /// Port of the first provider; the others follow. 0 takes free ports.
         int port = 0;
-        /// Whether to serve the address that stands in the catalogue, too. Without it, or where its port is taken, the
-        /// channels of that address are left to their second sources.
+        /// Whether to serve the addresses that stand in the catalogue, too. Without it, or where their ports are taken,
+        /// the channels of such an address are left to their second sources, and streams to whoever has the ports.
         bool fixedAddress = false;
         Faults faults = {};
         Changes changes = {};
@@ -69,6 +70,7 @@ private:
     std::vector<std::string> m_requests;
     std::string m_endpoints;
     std::vector<std::unique_ptr<Site>> m_sites;
+    std::unique_ptr<SilentAddress> m_silent;
 };
 
 } // namespace vidora::region

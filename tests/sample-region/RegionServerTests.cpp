@@ -1,5 +1,6 @@
 #include "Fetching.h"
 #include "sample-region/Fault.h"
+#include "sample-region/Streams.h"
 #include "support/SampleRegion.h"
 
 #include <gmock/gmock.h>
@@ -101,6 +102,35 @@ TEST(RegionServer, FollowsItsClockAndLogsWhatWasAskedFor)
                                                       "primaMax/tv-program/2026-13-40", "r.0/rytecXX1.xz"));
     region.server.clearRequests();
     EXPECT_TRUE(region.server.requests().empty());
+}
+
+TEST(RegionServer, ServesWholeStreamsAndDeadOnes)
+{
+    SampleRegion region;
+    const std::string folder = region.server.origin("n") + "/stream/";
+    const auto playlist = get(folder + "lipa1.m3u8");
+    ASSERT_EQ(playlist->status, 200);
+    EXPECT_EQ(playlist->get_header_value("Content-Type"), "application/vnd.apple.mpegurl");
+    int pieces = 0;
+    for (const QString& line : QString::fromStdString(playlist->body).split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u'#'))
+            continue;
+        const auto piece = get(folder + line.toStdString());
+        ASSERT_EQ(piece->status, 200) << line.toStdString();
+        EXPECT_EQ(piece->body.size() % 188, 0U) << "packets of a transport stream (ISO/IEC 13818-1)";
+        EXPECT_THAT(piece->body, ::testing::StartsWith("G"));
+        ++pieces;
+    }
+    EXPECT_EQ(pieces, 3);
+    for (const char* other : {"lipa2.m3u8", "satvesti.m3u8", "signal.m3u8", "../gone/harbournews.m3u8", ""})
+        EXPECT_EQ(get(folder + other)->status, 404) << other;
+
+    const SilentAddress silent(0), second(silent.port());
+    ASSERT_NE(silent.port(), 0);
+    EXPECT_EQ(second.port(), 0) << "the port is taken";
+    httplib::Client client("127.0.0.1", silent.port());
+    client.set_read_timeout(std::chrono::milliseconds(1));
+    EXPECT_EQ(client.Get("/stream/satvesti.m3u8").error(), httplib::Error::Read) << "connected, but not answered";
 }
 
 TEST(RegionServer, TwoRegionsStandSideBySide)
