@@ -6,6 +6,8 @@
 
 #include <QCryptographicHash>
 
+#include <gtest/gtest.h>
+
 namespace vidora::test {
 
 /// Does not wait, but lets something happen while the program believes it does.
@@ -40,9 +42,13 @@ struct SourcedChannel
 class RegionDevice
 {
 public:
-    explicit RegionDevice(const std::vector<SourcedChannel>& channels)
+    /// `calendars` makes the user's calendars, on this device's clock.
+    using Calendars = std::function<std::unique_ptr<EventStore>(const Clock&)>;
+
+    explicit RegionDevice(const std::vector<SourcedChannel>& channels, const Calendars& calendars = {})
         : m_channels(channels)
         , m_endpoints(region.endpoints())
+        , m_calendars(calendars ? calendars(region.clock) : nullptr)
     {
         const auto folders = StandardFolders::under(m_folder.path());
         folders.make();
@@ -58,9 +64,9 @@ public:
         }
         write(QStringLiteral("icon.svg"), "<svg/>");
         write(QStringLiteral("Data.plist"), writePropertyList(QVariantMap{{QStringLiteral("Channels"), records}}));
-        delegate = std::make_unique<VidoraAppDelegate>(
-            Environment{folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), m_endpoints,
-                        QStringLiteral("vidora"), region.clock, m_random, sleeper, m_network});
+        delegate = std::make_unique<VidoraAppDelegate>(Environment{
+            folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), m_endpoints,
+            QStringLiteral("vidora"), region.clock, m_random, sleeper, m_network, false, false, m_calendars.get()});
         delegate->applicationDidFinishLaunching();
         settle();
         ChannelIds ids;
@@ -84,6 +90,28 @@ public:
                 if (channel.id() == id)
                     titles << channel.title;
         return titles;
+    }
+
+    /// Fetches all channels anew after a while, from what the provider has changed, and lets the calendar follow.
+    void updateLater(std::initializer_list<const char*> changes, Milliseconds pause = Seconds(120))
+    {
+        region::Changes read;
+        for (const char* change : changes)
+            read.push_back(region::Change::fromText(change).value());
+        region.server.setChanges(read);
+        region.clock.advance(pause);
+        delegate->applicationDidReceiveMemoryWarning(); // the answers of before are forgotten
+        for (const SourcedChannel& channel : m_channels)
+            delegate->channels().channelWithChannelId(channel.id())->expire();
+        EXPECT_EQ(update(), QStringList());
+        settleCalendar();
+    }
+
+    void settleCalendar()
+    {
+        bool idle = false;
+        DispatchQueue::main().async([&] { delegate->alarmEngine().whenIdle([&] { idle = true; }); });
+        DispatchQueue::runMain([&] { return idle; });
     }
 
     ShowList shows(const SourcedChannel& channel) { return *listOf(*delegate, channel.id()); }
@@ -114,6 +142,7 @@ public:
 
 private:
     const Endpoints m_endpoints;
+    const std::unique_ptr<EventStore> m_calendars;
 
 public:
     HookedSleeper sleeper;

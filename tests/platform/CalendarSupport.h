@@ -78,8 +78,8 @@ inline QByteArray foreignEvent(const QByteArray& uid, const QByteArray& start, c
            "X-UNKNOWN;X-P=\"a;b\":  kept \nATTENDEE;CN=A:mailto:a@example.org\nEND:VEVENT\nEND:VCALENDAR\n";
 }
 
-/// What an independent calendar program shows of a folder: a line of "start title|place" for each event from 2026-11-22
-/// to the end of the month.
+/// What an independent calendar program shows of a folder: a line of "start title|place" for each event in the
+/// twelve days from 2026-11-22.
 inline QStringList linesOfKhal(const QString& folder)
 {
     QTemporaryDir home;
@@ -92,7 +92,7 @@ inline QStringList linesOfKhal(const QString& folder)
                  home.filePath(QStringLiteral("khal.db")).toUtf8() + "\n");
     const QString output = home.filePath(QStringLiteral("output"));
     ChildProcess khal({"khal", "-c", conf.toUtf8(), "list", "--once", "--day-format", "", "--format",
-                       "{start-long} {title}|{location}|{alarm-symbol}", "2026-11-22", "8d"},
+                       "{start-long} {title}|{location}|{alarm-symbol}", "2026-11-22", "12d"},
                       output);
     EXPECT_EQ(khal.wait(), 0) << readRaw(output).toStdString();
     return QString::fromUtf8(readRaw(output)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
