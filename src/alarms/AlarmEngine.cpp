@@ -274,7 +274,9 @@ void AlarmEngine::removeAlarmForTitle(const QString& title, const ObjectId& onCh
         const bool isWhole = guarded([&] {
             identifiers = removeEvents(
                 at, at + dayStep,
-                [&](const Event& event) { return event.startDate == at && event.title == title && event.url == url; },
+                [&](const Event& event) {
+                    return event.startDate == at && event.title == title && url && event.url == url;
+                },
                 removed);
         });
         if (!isWhole)

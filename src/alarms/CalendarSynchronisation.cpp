@@ -239,7 +239,7 @@ void CalendarSynchronisation::createMissing(const FavoriteSchedule& schedule, co
             const auto channelTitle = m_surroundings.channels.titleOfChannel(entry.channel());
             if (!channelTitle)
                 continue;
-            Event event = eventForBroadcast(m_calendar, entry.title().value_or(QString()), *channelTitle, url, start,
+            Event event = eventForBroadcast(m_calendar, *entry.identificator(), *channelTitle, url, start,
                                             entry.endDateTime(), favorite->minutes());
             m_surroundings.eventStore.saveEvent(event, EventSpan::ThisEvent, false);
             if (url)

@@ -90,6 +90,8 @@ private:
     /// The one among these texts that the user named.
     QString named(QStringList texts) const;
     ShowList showsNamedLike(const QString& text);
+    /// The raw title, by which alarms are kept, of the listed shows that the user named by the shown one.
+    std::optional<QString> listedTitle();
     /// The broadcast that the user named by title, time and channel.
     Show broadcast();
     bool startsAt(const TVEntry& entry, const QString& time) const;
@@ -150,6 +152,18 @@ ShowList AlarmRun::showsNamedLike(const QString& text)
     return std::move(*shows);
 }
 
+std::optional<QString> AlarmRun::listedTitle()
+{
+    const ShowList shows = showsNamedLike(argument());
+    if (shows.empty())
+        return std::nullopt;
+    QStringList titles;
+    for (const Show& show : shows)
+        titles << show->entry->title().value_or(QString());
+    const qsizetype index = titles.indexOf(named(titles));
+    return shows[static_cast<std::size_t>(index)]->entry->identificator();
+}
+
 QString AlarmRun::described(const Favorite& favorite) const
 {
     if (favorite.minutes() < 0)
@@ -177,10 +191,8 @@ void AlarmRun::favourite()
         throw Refusal{translated("--premieres and --replays exclude each other.")};
     if ((premieres || replays) && lead < 0)
         throw Refusal{translated("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
-    QStringList titles;
-    for (const Show& show : showsNamedLike(argument()))
-        titles << show->entry->title().value_or(QString());
-    const QString title = titles.isEmpty() ? argument() : named(titles);
+    const std::optional<QString> listed = listedTitle();
+    const QString title = listed.value_or(argument());
     m_engine.addFavorite(title);
     if (lead >= 0) {
         // What was set before would keep its lead time.
@@ -197,7 +209,7 @@ void AlarmRun::favourite()
     if (added == favorites.end())
         throw Refusal{translated("%1 could not be added.").arg(title)};
     QString text = translated("A favourite: %1").arg(described(**added));
-    if (titles.isEmpty())
+    if (!listed)
         text += QLatin1Char('\n') + translated("No broadcast of this title is listed at present.");
     if (lead >= 0 && (*added)->minutes() < 0)
         throw Refusal{
@@ -210,7 +222,14 @@ void AlarmRun::unfavourite()
     QStringList names;
     for (const QString& name : m_delegate.shows().favoriteNames())
         names << name;
-    const QString title = named(names);
+    QStringList shown; // favourites that the user named by the title in which their shows are listed
+    for (const Show& show : showsNamedLike(argument())) {
+        const QString raw = show->entry->identificator().value_or(QString());
+        if (m_delegate.shows().containsFavoriteNamed(raw) && !shown.contains(raw))
+            shown << raw;
+    }
+    const bool isNamedRaw = shown.size() != 1 || !candidatesFor(argument(), names).isEmpty();
+    const QString title = isNamedRaw ? named(names) : shown.front();
     m_engine.removeFavorite(title);
     settle();
     answer(translated("No longer a favourite: %1").arg(title), {{QStringLiteral("removed"), title}});
@@ -295,7 +314,7 @@ void AlarmRun::alarm()
     const Instant start = *entry.dateTime();
     if (start - std::chrono::minutes(lead) <= m_device.clock().now())
         throw Refusal{translated("It is too late for an alarm %1 minutes ahead.").arg(lead)};
-    const QString title = entry.title().value_or(QString());
+    const QString title = entry.identificator().value_or(QString());
     m_engine.removeAlarmForTitle(title, entry.channel(), start, true, m_engine.alarmedEntry(entry) >= 0);
     settle();
     m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
@@ -310,10 +329,7 @@ void AlarmRun::alarm()
 void AlarmRun::unalarm()
 {
     if (!m_line.options.contains(QStringLiteral("--at"))) {
-        QStringList titles;
-        for (const Show& show : showsNamedLike(argument()))
-            titles << show->entry->title().value_or(QString());
-        const QString title = titles.isEmpty() ? argument() : named(titles);
+        const QString title = listedTitle().value_or(argument());
         m_engine.removeAlarmForTitle(title, true, true);
         settle();
         answer(translated("No alarms any more: %1").arg(title), {{QStringLiteral("removed"), title}});
@@ -321,7 +337,8 @@ void AlarmRun::unalarm()
     }
     const Show show = broadcast();
     const TVEntry& entry = *show->entry;
-    m_engine.removeAlarmForTitle(entry.title().value_or(QString()), entry.channel(), *entry.dateTime(), true, true);
+    m_engine.removeAlarmForTitle(entry.identificator().value_or(QString()), entry.channel(), *entry.dateTime(), true,
+                                 true);
     settle();
     answer(translated("No alarm any more: %1").arg(lineOf(show)),
            {{QStringLiteral("removed"), entry.title().value_or(QString())},

@@ -7,15 +7,6 @@ namespace {
 
 constexpr std::size_t maximumShows = 2000;
 
-bool isFavorite(const TVEntry& entry, const QSet<QString>& lowercasedNames)
-{
-    if (!entry.title())
-        return false;
-    // The record keeps the lower-case form of its raw title, which most titles are shown in.
-    const bool isRaw = entry.title() == entry.identificator();
-    return lowercasedNames.contains(isRaw ? *entry.lowercasedIdentificator() : entry.title()->toLower());
-}
-
 QSet<QString> namesOf(const FavoriteTitles* favorites)
 {
     return favorites ? favorites->lowercasedFavoriteNames() : QSet<QString>();
@@ -30,7 +21,9 @@ ShowList favoriteShows(const MergedShows& merged, const QSet<QString>& lowercase
         return result;
     for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
         const Show& show = (*merged.shows)[i];
-        if (fits(merged.rows[i]) && isFavorite(*show->entry, lowercasedNames))
+        // By the raw title: the shown one follows the alphabet of the device.
+        const auto& title = show->entry->lowercasedIdentificator();
+        if (fits(merged.rows[i]) && title && lowercasedNames.contains(*title))
             result.push_back(show);
     }
     return result;

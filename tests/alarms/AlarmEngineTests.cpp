@@ -87,6 +87,31 @@ TEST_F(AlarmTest, PremieresOrRepeatsOnly)
     EXPECT_EQ(engine->alarmedIdentificatorType(news)->previouslyShown, true);
 }
 
+TEST_F(AlarmTest, ATitleShownDifferentlyIsFollowedByItsRawForm)
+{
+    const ObjectId magazine = ObjectId::initWithHex(QStringLiteral("58f4ded60befe78cb336a80b"));
+    titles[magazine] = QStringLiteral("Magazine");
+    fresh.insert(magazine);
+    const auto showAt = [&](int start) {
+        ShowDraft draft = TestShow{film, start, start + 30}.draft(magazine);
+        draft.entry->setSubtitle1(QStringLiteral("Subtitle")); // what this channel shows for a title
+        listings->storeList(magazine, std::make_shared<ShowList>(ShowList{std::move(draft).publish()}));
+        listings->saveAllShows();
+        listings->listingsStored();
+        settle();
+    };
+    showAt(60);
+    favorite(film, 10);
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Film at 60 on Magazine -10")});
+    const QString before = calendars.committedEvents().front().eventIdentifier;
+    showAt(90);
+    EXPECT_EQ(seen(), QStringList{QStringLiteral("Film at 90 on Magazine -10")});
+    EXPECT_EQ(calendars.committedEvents().front().eventIdentifier, before) << "moved, not made anew";
+    engine->removeFavorite(film);
+    settle();
+    EXPECT_TRUE(seen().isEmpty());
+}
+
 TEST_F(AlarmTest, OneBroadcast)
 {
     update(one, {{film, 90, 200}, {film, 300, 400}});
