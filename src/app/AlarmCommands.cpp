@@ -92,6 +92,8 @@ private:
     ShowList showsNamedLike(const QString& text);
     /// The raw title, by which alarms are kept, of the listed shows that the user named by the shown one.
     std::optional<QString> listedTitle();
+    /// The favourite that the user named, by its own title or by that in which its shows are listed.
+    QString favouriteNamed();
     /// The broadcast that the user named by title, time and channel.
     Show broadcast();
     bool startsAt(const TVEntry& entry, const QString& time) const;
@@ -217,19 +219,24 @@ void AlarmRun::favourite()
     answer(text, {{QStringLiteral("favourite"), json(**added)}, {QStringLiteral("events"), m_engine.eventCount()}});
 }
 
-void AlarmRun::unfavourite()
+QString AlarmRun::favouriteNamed()
 {
-    QStringList names;
+    QStringList names, shown; // the latter: named by the title in which their shows are listed
     for (const QString& name : m_delegate.shows().favoriteNames())
         names << name;
-    QStringList shown; // favourites that the user named by the title in which their shows are listed
+    names.sort();
     for (const Show& show : showsNamedLike(argument())) {
         const QString raw = show->entry->identificator().value_or(QString());
         if (m_delegate.shows().containsFavoriteNamed(raw) && !shown.contains(raw))
             shown << raw;
     }
     const bool isNamedRaw = shown.size() != 1 || !candidatesFor(argument(), names).isEmpty();
-    const QString title = isNamedRaw ? named(names) : shown.front();
+    return isNamedRaw ? named(names) : shown.front();
+}
+
+void AlarmRun::unfavourite()
+{
+    const QString title = favouriteNamed();
     m_engine.removeFavorite(title);
     settle();
     answer(translated("No longer a favourite: %1").arg(title), {{QStringLiteral("removed"), title}});
@@ -315,21 +322,29 @@ void AlarmRun::alarm()
     if (start - std::chrono::minutes(lead) <= m_device.clock().now())
         throw Refusal{translated("It is too late for an alarm %1 minutes ahead.").arg(lead)};
     const QString title = entry.identificator().value_or(QString());
+    // What belongs to no favourite goes with the next synchronisation that finds favourites.
+    const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
+    if (!isFollowed)
+        m_engine.addFavorite(title);
     m_engine.removeAlarmForTitle(title, entry.channel(), start, true, m_engine.alarmedEntry(entry) >= 0);
     settle();
     m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
     settle();
     if (m_engine.alarmedEntry(entry) < 0)
         throw Refusal{translated("No alarm was set: no calendar can be written.")};
-    answer(translated("Alarm %1 minutes ahead: %2").arg(lead).arg(lineOf(show)),
-           {{QStringLiteral("minutes"), lead},
-            {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
+    QString text = translated("Alarm %1 minutes ahead: %2").arg(lead).arg(lineOf(show));
+    if (!isFollowed)
+        text += QLatin1Char('\n') + translated("A favourite: %1").arg(title);
+    answer(text, {{QStringLiteral("minutes"), lead},
+                  {QStringLiteral("favouriteAdded"), !isFollowed},
+                  {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
 }
 
 void AlarmRun::unalarm()
 {
     if (!m_line.options.contains(QStringLiteral("--at"))) {
-        const QString title = listedTitle().value_or(argument());
+        const std::optional<QString> listed = listedTitle();
+        const QString title = listed ? *listed : favouriteNamed();
         m_engine.removeAlarmForTitle(title, true, true);
         settle();
         answer(translated("No alarms any more: %1").arg(title), {{QStringLiteral("removed"), title}});
@@ -337,12 +352,15 @@ void AlarmRun::unalarm()
     }
     const Show show = broadcast();
     const TVEntry& entry = *show->entry;
-    m_engine.removeAlarmForTitle(entry.identificator().value_or(QString()), entry.channel(), *entry.dateTime(), true,
-                                 true);
+    const QString title = entry.identificator().value_or(QString());
+    m_engine.removeAlarmForTitle(title, entry.channel(), *entry.dateTime(), true, true);
     settle();
-    answer(translated("No alarm any more: %1").arg(lineOf(show)),
-           {{QStringLiteral("removed"), entry.title().value_or(QString())},
-            {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
+    QString text = translated("No alarm any more: %1").arg(lineOf(show));
+    if (m_engine.alarmedIdentificatorType(title))
+        text += QLatin1Char('\n') +
+                translated("All broadcasts of this favourite have alarms: the next update sets it again.");
+    answer(text, {{QStringLiteral("removed"), title},
+                  {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
 }
 
 void AlarmRun::alerts()

@@ -186,7 +186,7 @@ QString commandLineHelp()
                                        "  unfavourite X     follow it no longer, and remove its alarms\n"
                                        "  favourites        the titles that are followed\n"
                                        "  alarm X --at TIME [--on CHANNEL] [--before MINUTES]\n"
-                                       "                    ring ahead of one broadcast\n"
+                                       "                    ring ahead of one broadcast of a favourite\n"
                                        "  unalarm X [--at TIME] [--on CHANNEL]\n"
                                        "                    remove the alarm of one broadcast, or of all\n"
                                        "  alerts            the broadcasts of favourites that will ring\n"

@@ -132,6 +132,7 @@ void VidoraAppDelegate::pruneSelection()
         disableTabs();
     m_screens.selectedChannelsChanged();
     m_alarmEngine->syncAlarms();
+    m_screens.reloadData();
 }
 
 void VidoraAppDelegate::setup()

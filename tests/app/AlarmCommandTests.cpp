@@ -86,6 +86,16 @@ TEST(AlarmCommands, OneBroadcast)
         ASSERT_EQ(events(home).size(), 1);
         EXPECT_TRUE(events(home).front().contains(QStringLiteral("TRIGGER:-PT%1M").arg(QLatin1String(lead))));
     }
+    // A synchronisation leaves it alone, favourites there or not.
+    EXPECT_EQ(home.run({QStringLiteral("favourite"), QStringLiteral("Evening News")}).status, 0);
+    EXPECT_EQ(home.run({QStringLiteral("silent-hours"), QStringLiteral("off")}).status, 0);
+    EXPECT_EQ(events(home).size(), 1);
+    EXPECT_EQ(home.run({QStringLiteral("alerts"), QStringLiteral("--json")})
+                  .json()[QStringLiteral("alerts")]
+                  .toArray()
+                  .size(),
+              1);
+    EXPECT_EQ(home.run({QStringLiteral("unalarm"), QStringLiteral("Wether")}).status, 1) << "a title that nobody has";
     EXPECT_EQ(home.run(QStringList{QStringLiteral("unalarm")} + at).status, 0);
     EXPECT_TRUE(events(home).isEmpty());
 
