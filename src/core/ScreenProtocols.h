@@ -3,6 +3,8 @@
 #include "content/ObjectId.h"
 #include "content/ShowElement.h"
 
+#include <vector>
+
 namespace vidora {
 
 /// What the delegate may ask of the screens that its walk over the tabs meets. A screen implements those that it
@@ -43,6 +45,8 @@ class ChannelScreen
 public:
     virtual ~ChannelScreen() = default;
     virtual void reloadChannelData() = 0;
+    /// A pass is over in which no source of the `failed` channels delivered.
+    virtual void passEnded(const std::vector<ObjectId>& failed) = 0;
 };
 
 /// A screen of shows of many channels by days.

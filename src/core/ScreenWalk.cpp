@@ -89,6 +89,14 @@ void ScreenWalk::reloadChannel(const ObjectId& channel, const ShowList& entries)
     });
 }
 
+void ScreenWalk::passEnded(const std::vector<ObjectId>& failed) const
+{
+    forEach([&](ViewController& screen) {
+        if (auto* channel = as<ChannelScreen>(screen))
+            channel->passEnded(failed);
+    });
+}
+
 void ScreenWalk::activated() const
 {
     forEach([](ViewController& screen) {

@@ -26,6 +26,7 @@ public:
     /// Each screen is told in a block of its own on the main queue.
     void notificationsSynched() const;
     void reloadChannel(const ObjectId& channel, const ShowList& entries) const;
+    void passEnded(const std::vector<ObjectId>& failed) const;
     /// The application became active: the home screen follows the selection, the others read their lists again.
     void activated() const;
     void enteredBackground() const;

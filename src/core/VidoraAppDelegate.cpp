@@ -296,6 +296,7 @@ void VidoraAppDelegate::passEnded(std::size_t shows, const std::vector<ObjectId>
 {
     if (m_updateObserver)
         m_updateObserver->passEnded(shows, failed);
+    m_screens.passEnded(failed);
 }
 
 } // namespace vidora

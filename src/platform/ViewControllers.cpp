@@ -1,5 +1,7 @@
 #include "platform/ViewControllers.h"
 
+#include <utility>
+
 namespace vidora {
 
 void NavigationController::pushViewController(std::shared_ptr<ViewController> controller)
@@ -21,6 +23,7 @@ void NavigationController::popViewController()
 void TabBarController::setViewControllers(std::vector<std::shared_ptr<ViewController>> tabs)
 {
     m_tabs = std::move(tabs);
+    m_popover.reset();
     m_items.resize(m_tabs.size());
     if (m_selected >= m_tabs.size())
         m_selected = 0;
@@ -60,6 +63,18 @@ void TabBarController::present(Alert alert)
 {
     if (alertPresented)
         alertPresented(std::move(alert));
+}
+
+void TabBarController::presentPopover(std::shared_ptr<ViewController> screen)
+{
+    m_popover = std::move(screen);
+    changed();
+}
+
+void TabBarController::dismissPopover()
+{
+    if (const auto dismissed = std::exchange(m_popover, nullptr)) // it may be what calls
+        changed();
 }
 
 void TabBarController::changed()

@@ -72,6 +72,12 @@ public:
     /// Shows a message over everything. Without a window nothing happens.
     void present(Alert alert);
 
+    /// Shows a screen in a panel over the tabs, in place of the one that is there. It goes with its tabs.
+    void presentPopover(std::shared_ptr<ViewController> screen);
+    void dismissPopover();
+    /// Null without one.
+    const std::shared_ptr<ViewController>& popover() const { return m_popover; }
+
     std::function<void()> tabsChanged;         ///< called after every change of the tabs, their items or the selection
     std::function<void(Alert)> alertPresented; ///< set by the window
 
@@ -80,6 +86,7 @@ private:
 
     std::vector<std::shared_ptr<ViewController>> m_tabs;
     std::vector<TabBarItem> m_items;
+    std::shared_ptr<ViewController> m_popover;
     std::size_t m_selected = 0;
 };
 

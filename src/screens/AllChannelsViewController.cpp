@@ -99,7 +99,7 @@ void AllChannelsViewController::selectRow(RowPath path)
     if (path.section >= numberOfSections() || path.row >= numberOfRowsInSection(path.section))
         return;
     if (isMenu()) {
-        pushFrom(m_delegate, *this, std::make_shared<AllChannelsViewController>(m_delegate, m_groups, path.row + 1));
+        presentFrom(m_delegate, *this, std::make_shared<AllChannelsViewController>(m_delegate, m_groups, path.row + 1));
         return;
     }
     toggle(channelAt(path).channelId);

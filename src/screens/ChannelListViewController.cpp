@@ -34,8 +34,7 @@ void ChannelListViewController::selectRow(RowPath path)
     const ObjectId channel = m_channelIdentificators[path.row];
     const QString title = m_channelTitles[path.row], iconName = m_channelIconNames[path.row];
     auto* home = dynamic_cast<RootViewController*>(homeScreen(m_delegate));
-    if (const auto navigation = navigationControllerOf(m_delegate, *this))
-        navigation->popViewController(); // this screen may be gone from here on
+    dismiss(m_delegate, *this); // this screen may be gone from here on
     if (!home)
         return;
     if (home->hasStream(channel) && !home->hasShows(channel))

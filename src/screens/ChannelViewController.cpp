@@ -5,6 +5,8 @@
 #include "screens/ShowRows.h"
 #include "store/LocalDays.h"
 
+#include <algorithm>
+
 namespace vidora {
 
 ChannelViewController::ChannelViewController(VidoraAppDelegate& delegate, QString title, const ShowList& entries,
@@ -112,6 +114,18 @@ void ChannelViewController::reloadChannelData()
                                                    reloadData([&] { initializeContentWithEntriesArray(*list); });
                                                    setRefreshing(false);
                                                }));
+}
+
+void ChannelViewController::passEnded(const std::vector<ObjectId>& failed)
+{
+    if (m_isRefreshing && std::find(failed.begin(), failed.end(), m_channel) != failed.end())
+        setRefreshing(false);
+}
+
+void ChannelViewController::timePassed()
+{
+    for (std::size_t section = 0; section < numberOfSections(); ++section)
+        reloadRows(section, 0, numberOfRowsInSection(section));
 }
 
 void ChannelViewController::recolor()

@@ -35,6 +35,9 @@ public:
 
     /// Reads the list again, unless the channel is still to be loaded.
     void reloadChannelData() override;
+    /// The activity ends also where nothing was found.
+    void passEnded(const std::vector<ObjectId>& failed) override;
+    void timePassed() override;
     void notificationsSynched() override { reloadData(); }
     void recolor() override;
     void play();

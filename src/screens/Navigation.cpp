@@ -23,6 +23,22 @@ void pushFrom(VidoraAppDelegate& delegate, const ViewController& below, std::sha
         navigation->pushViewController(std::move(screen));
 }
 
+void presentFrom(VidoraAppDelegate& delegate, const ViewController& below, std::shared_ptr<ScreenModel> screen)
+{
+    if (delegate.isPad())
+        delegate.tabBarController().presentPopover(std::move(screen));
+    else
+        pushFrom(delegate, below, std::move(screen));
+}
+
+void dismiss(VidoraAppDelegate& delegate, const ViewController& screen)
+{
+    if (delegate.tabBarController().popover().get() == &screen)
+        delegate.tabBarController().dismissPopover();
+    else if (const auto navigation = navigationControllerOf(delegate, screen))
+        navigation->popViewController();
+}
+
 RootScreen* homeScreen(VidoraAppDelegate& delegate)
 {
     for (const auto& tab : delegate.tabBarController().viewControllers()) {

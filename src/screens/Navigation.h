@@ -12,6 +12,12 @@ std::shared_ptr<NavigationController> navigationControllerOf(VidoraAppDelegate& 
 /// Puts a screen on top of another one's stack; nothing happens where that one has none.
 void pushFrom(VidoraAppDelegate& delegate, const ViewController& below, std::shared_ptr<ScreenModel> screen);
 
+/// Shows a screen that is chosen from and left again: on a pad as a popover, else on top of the other one's stack.
+void presentFrom(VidoraAppDelegate& delegate, const ViewController& below, std::shared_ptr<ScreenModel> screen);
+
+/// Takes a screen away that was presented so. It may be gone afterwards.
+void dismiss(VidoraAppDelegate& delegate, const ViewController& screen);
+
 /// The first home screen of the tabs; null without one.
 RootScreen* homeScreen(VidoraAppDelegate& delegate);
 

@@ -64,6 +64,7 @@ PersistentAdTabBarController::~PersistentAdTabBarController()
     m_tabBar.tabsChanged = {};
     m_tabBar.alertPresented = {};
     m_visible.reset();
+    m_popover.reset();
     m_tabBar.setViewControllers({});
 }
 
@@ -145,7 +146,9 @@ std::shared_ptr<ScreenModel> PersistentAdTabBarController::visibleScreen() const
 
 void PersistentAdTabBarController::back()
 {
-    if (const auto navigation = navigationOf(m_tabBar.selectedViewController()))
+    if (m_popover)
+        m_tabBar.dismissPopover();
+    else if (const auto navigation = navigationOf(m_tabBar.selectedViewController()))
         navigation->popViewController();
 }
 
@@ -155,6 +158,7 @@ void PersistentAdTabBarController::openURL(const URL& url)
         const auto channel = m_delegate.channelData().find(show->entry->channel());
         const QString iconName =
             channel == m_delegate.channelData().end() ? QString() : channel->second.iconFileName().value_or(QString());
+        m_tabBar.dismissPopover();
         if (const auto navigation = navigationOf(m_tabBar.selectedViewController()))
             navigation->pushViewController(std::make_shared<DetailViewController>(show, iconName));
     }));
@@ -163,8 +167,25 @@ void PersistentAdTabBarController::openURL(const URL& url)
 void PersistentAdTabBarController::changed()
 {
     followVisibleScreen();
+    followPopover();
     if (tabsChanged)
         tabsChanged();
+}
+
+void PersistentAdTabBarController::followPopover()
+{
+    auto now = std::dynamic_pointer_cast<ScreenModel>(m_tabBar.popover());
+    if (now == m_popover)
+        return;
+    const auto before = std::exchange(m_popover, std::move(now));
+    if (before) {
+        before->viewWillDisappear();
+        before->viewDidDisappear();
+    }
+    if (m_popover) {
+        m_popover->viewWillAppear();
+        m_popover->viewDidAppear();
+    }
 }
 
 void PersistentAdTabBarController::followVisibleScreen()

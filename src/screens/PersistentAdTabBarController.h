@@ -43,7 +43,9 @@ public:
     std::shared_ptr<ScreenModel> visibleScreen() const;
     /// The selected tab's screens, the last of which is in sight.
     std::vector<std::shared_ptr<ScreenModel>> visibleStack() const;
-    /// Takes the screen in sight off, unless it is the tab's first.
+    /// The screen that lies over it on a pad; null without one.
+    std::shared_ptr<ScreenModel> popover() const { return m_popover; }
+    /// Takes the popover off, or else the screen in sight unless it is the tab's first.
     void back();
     /// Shows the broadcast of an address in the application's scheme, on top of the selected tab; an address of none
     /// leaves everything as it is.
@@ -63,12 +65,13 @@ private:
     void fill(bool isPad);
     void changed();
     void followVisibleScreen();
+    void followPopover();
 
     VidoraAppDelegate& m_delegate;
     TabBarController& m_tabBar;
     StreamViewController m_stream;
     std::vector<Tab> m_tabs;
-    std::shared_ptr<ScreenModel> m_visible;
+    std::shared_ptr<ScreenModel> m_visible, m_popover;
     BlockOwner m_mainBlocks;
 };
 

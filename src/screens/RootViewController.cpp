@@ -46,7 +46,8 @@ QString RootViewController::title() const
 
 std::vector<BarButton> RootViewController::rightBarButtonItems() const
 {
-    return {{BarButton::Kind::Text, localized("Currently"), [this] { const_cast<RootViewController*>(this)->list(); }}};
+    return {{BarButton::Kind::Text, localized("Currently"), [this] { const_cast<RootViewController*>(this)->list(); },
+             localized("List of the channels")}};
 }
 
 QString RootViewController::placeholder() const
@@ -236,9 +237,9 @@ void RootViewController::play(const ObjectId& channel)
 
 void RootViewController::list()
 {
-    pushFrom(m_delegate, *this,
-             std::make_shared<ChannelListViewController>(m_delegate, m_selectedChannelsArray, m_channelTitles,
-                                                         m_channelIcons, m_channelIconNames));
+    presentFrom(m_delegate, *this,
+                std::make_shared<ChannelListViewController>(m_delegate, m_selectedChannelsArray, m_channelTitles,
+                                                            m_channelIcons, m_channelIconNames));
 }
 
 void RootViewController::selectedChannelIdentificator(const ObjectId& channel, const QString& title,
@@ -270,18 +271,57 @@ void RootViewController::reloadChannel(const ObjectId& channel, const ShowList& 
     if (!section || entries.empty())
         return;
     m_showImages.erase(channel);
-    ShowList& present = m_channelEntries[*section];
+    setEntries(*section, entries);
+}
+
+void RootViewController::setEntries(std::size_t section, const ShowList& entries)
+{
+    ShowList& present = m_channelEntries[section];
     const std::size_t before = present.size() + 1, after = entries.size() + 1;
     // Rows that stay change only after those that come or go: a view takes them for the same until it is told.
     if (before > after)
-        removeRows(*section, after, before - after, [&] { present.resize(entries.size()); });
+        removeRows(section, after, before - after, [&] { present.resize(entries.size()); });
     else if (before < after)
-        insertRows(*section, before, after - before, [&] {
+        insertRows(section, before, after - before, [&] {
             const auto shown = static_cast<std::ptrdiff_t>(present.size());
             present.insert(present.end(), entries.begin() + shown, entries.end());
         });
     present = entries;
-    reloadRows(*section, 0, std::min(before, after));
+    reloadRows(section, 0, std::min(before, after));
+}
+
+void RootViewController::timePassed()
+{
+    if (!m_hasContent)
+        return;
+    auto pause = m_delegate.pauseLoading(); // as in `selectedChannelsChanged`
+    m_delegate.listings().onAirShowsWithQueue(
+        DispatchQueue::main(),
+        m_mainBlocks.guarded([this, channels = m_selectedChannelsArray, pause](std::vector<ShowList> entries) {
+            if (channels != m_selectedChannelsArray)
+                return;
+            entries.resize(channels.size());
+            for (std::size_t section = 0; section < entries.size(); ++section)
+                rollOn(section, std::move(entries[section]));
+        }));
+}
+
+void RootViewController::rollOn(std::size_t section, ShowList entries)
+{
+    ShowList& present = m_channelEntries[section];
+    const auto isSame = [](const Show& a, const Show& b) { return a->entry == b->entry; };
+    const auto placeOf = [&](const Show& show) {
+        return std::find_if(present.begin(), present.end(), [&](const Show& other) { return isSame(show, other); });
+    };
+    for (Show& show : entries) { // with what its page told meanwhile
+        if (const auto known = placeOf(show); known != present.end())
+            show = *known;
+    }
+    const auto over = entries.empty() ? present.begin() : placeOf(entries.front());
+    if (over != present.begin() && over != present.end())
+        removeRows(section, 1, static_cast<std::size_t>(over - present.begin()),
+                   [&] { present.erase(present.begin(), over); });
+    setEntries(section, entries);
 }
 
 // --- pictures and details

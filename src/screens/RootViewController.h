@@ -33,6 +33,8 @@ public:
     std::vector<SwipeAction> swipeActions(RowPath path) override;
     bool canRefresh() const override { return true; }
     void refresh() override;
+    /// Shows that are over go, the next ones move up.
+    void timePassed() override;
     void rowDisplayed(RowPath path) override;
     void viewDidAppear() override;
 
@@ -80,6 +82,8 @@ private:
     void startDetailStep(const ObjectId& channel);
     void detailsLoaded(const ObjectId& channel, const ShowList& before, const ShowDetailStep::Result& result);
     void reloadShow(const ObjectId& channel, const QString& identifier);
+    void setEntries(std::size_t section, const ShowList& entries);
+    void rollOn(std::size_t section, ShowList entries);
 
     VidoraAppDelegate& m_delegate;
     std::vector<ObjectId> m_selectedChannelsArray;

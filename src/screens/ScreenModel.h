@@ -73,6 +73,7 @@ struct BarButton
     Kind kind = Kind::Text;
     QString title; ///< also the name for those who do not see the picture
     std::function<void()> action;
+    QString description{}; ///< what it does, where the title does not say so
     friend bool operator==(const BarButton& a, const BarButton& b) { return a.kind == b.kind && a.title == b.title; }
 };
 
@@ -138,6 +139,9 @@ public:
 
     /// The row has come into sight: pictures are fetched for what is seen.
     virtual void rowDisplayed(RowPath path);
+
+    /// A minute has passed, or the screen is in sight again: what depends on the present moment is looked at anew.
+    virtual void timePassed() {}
 
     bool isViewLoaded() const { return m_isViewLoaded; }
     void viewWillAppear();

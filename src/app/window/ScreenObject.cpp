@@ -37,6 +37,7 @@ QVariantList ScreenObject::barButtons() const
     QVariantList buttons;
     for (const BarButton& button : screen().rightBarButtonItems()) {
         buttons.prepend(QVariantMap{{QStringLiteral("title"), button.title},
+                                    {QStringLiteral("description"), button.description},
                                     {QStringLiteral("symbol"), symbolOf(button.kind)},
                                     {QStringLiteral("busy"), button.kind == BarButton::Kind::Activity}});
     }
@@ -116,14 +117,16 @@ void ScreenObject::rowDisplayed(int row)
         screen().rowDisplayed(m_rows.pathOf(row));
 }
 
-QStringList ScreenObject::swipeTitles(int row)
+QVariantList ScreenObject::swipeActions(int row)
 {
-    QStringList titles;
-    if (isRow(row)) {
+    QVariantList list;
+    if (isRow(row) && m_rows.index(row, 0).data(ScreenItemModel::SwipeableRole).toBool()) {
         for (const SwipeAction& action : screen().swipeActions(m_rows.pathOf(row)))
-            titles << action.title;
+            list << QVariantMap{{QStringLiteral("title"), action.title},
+                                {QStringLiteral("destructive"), action.destructive},
+                                {QStringLiteral("colour"), action.colour}};
     }
-    return titles;
+    return list;
 }
 
 void ScreenObject::performSwipe(int row, int action)

@@ -16,7 +16,7 @@ class ScreenObject final : public QObject
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY surroundingsChanged)
     Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
-    /// Maps of "kind", "title" and "symbol", in the order in which they stand from left to right.
+    /// Maps of "title", "description", "symbol" and "busy", in the order in which they stand from left to right.
     Q_PROPERTY(QVariantList barButtons READ barButtons NOTIFY surroundingsChanged)
     Q_PROPERTY(QString placeholder READ placeholder NOTIFY surroundingsChanged)
     Q_PROPERTY(bool refreshable READ refreshable NOTIFY surroundingsChanged)
@@ -58,8 +58,8 @@ public:
     Q_INVOKABLE void refresh();
     Q_INVOKABLE int rowOfSection(int section) const { return m_rows.firstRowOfSection(section); }
     Q_INVOKABLE void rowDisplayed(int row);
-    /// Titles of what a swipe on the row uncovers.
-    Q_INVOKABLE QStringList swipeTitles(int row);
+    /// What a swipe on the row uncovers: maps of "title", "destructive" and "colour", the name of a role or empty.
+    Q_INVOKABLE QVariantList swipeActions(int row);
     Q_INVOKABLE void performSwipe(int row, int action);
 
 Q_SIGNALS:

@@ -18,14 +18,11 @@ const QString heightKey = QStringLiteral("window.height");
 WindowModel::WindowModel(VidoraAppDelegate& delegate)
     : m_delegate(delegate)
     , m_tabs(delegate)
+    , m_minutes(delegate.environment().clock, [this] { timePassed(); })
 {
     m_tabs.tabsChanged = [this] { followTabs(); };
     m_tabs.visibleScreenChanged = [this] { followTabs(); };
-    m_tabs.alertPresented = [this](Alert alert) {
-        m_alerts.push_back(std::move(alert));
-        if (m_alerts.size() == 1)
-            showNextAlert();
-    };
+    m_tabs.alertPresented = [this](Alert alert) { presentAlert(std::move(alert)); };
     m_tabs.stream().playerWithURL = [this](const URL& url) {
         m_player = std::make_shared<StreamMediaPlayer>(url);
         return m_player;
@@ -129,9 +126,34 @@ void WindowModel::followTabs()
         }
         stacks.push_back(std::move(stack));
     }
+    const ScreenObject* before = m_screens.visible();
     m_screens.follow(stacks, m_tabs.visibleScreen().get());
+    followPopover();
     Q_EMIT visibleScreenChanged();
     Q_EMIT tabsChanged();
+    if (m_screens.visible() != before)
+        timePassed();
+}
+
+void WindowModel::followPopover()
+{
+    const auto screen = m_tabs.popover();
+    if (screen.get() == (m_popover ? &m_popover->screen() : nullptr))
+        return;
+    if (m_popover) // what asked for this may be a call out of the screen itself
+        m_popover.release()->deleteLater();
+    if (screen) {
+        m_popover = std::make_unique<ScreenObject>(screen, true);
+        m_popover->setStyle(m_style);
+        m_popover->setVisible(true);
+    }
+    Q_EMIT popoverChanged();
+}
+
+void WindowModel::timePassed()
+{
+    if (const auto screen = m_tabs.visibleScreen())
+        screen->timePassed();
 }
 
 void WindowModel::followPlayer()
@@ -148,11 +170,22 @@ void WindowModel::closePlayer()
 
 void WindowModel::setColours(const QVariantMap& colours)
 {
-    RichTextStyle style;
     for (auto at = colours.cbegin(); at != colours.cend(); ++at)
-        style.colours.insert(at.key(), at.value().toString());
-    style.scale = fontScale();
-    m_screens.setStyle(style);
+        m_style.colours.insert(at.key(), at.value().toString());
+    m_style.scale = fontScale();
+    m_screens.setStyle(m_style);
+    if (m_popover)
+        m_popover->setStyle(m_style);
+}
+
+void WindowModel::presentAlert(Alert alert)
+{
+    const auto isSame = [&](const Alert& other) { return other.title == alert.title && other.message == alert.message; };
+    if (std::any_of(m_alerts.begin(), m_alerts.end(), isSame))
+        return; // once is enough, however long it stays unanswered
+    m_alerts.push_back(std::move(alert));
+    if (m_alerts.size() == 1)
+        showNextAlert();
 }
 
 void WindowModel::showNextAlert()

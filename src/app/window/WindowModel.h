@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/window/MinuteTicks.h"
 #include "app/window/PassProgress.h"
 #include "app/window/ScreenList.h"
 #include "app/window/StreamMediaPlayer.h"
@@ -22,6 +23,8 @@ class WindowModel final : public QObject
     Q_PROPERTY(int selectedTab READ selectedTab NOTIFY tabsChanged)
     Q_PROPERTY(QAbstractItemModel* screens READ screens CONSTANT)
     Q_PROPERTY(QObject* visibleScreen READ visibleScreen NOTIFY visibleScreenChanged)
+    /// The screen that lies over it on a pad, or null.
+    Q_PROPERTY(QObject* popover READ popover NOTIFY popoverChanged)
     Q_PROPERTY(QObject* progress READ progress CONSTANT)
     /// The open player, or null.
     Q_PROPERTY(QObject* player READ player NOTIFY playerChanged)
@@ -38,6 +41,7 @@ public:
     int selectedTab() const { return static_cast<int>(m_tabs.selectedIndex()); }
     QAbstractItemModel* screens() { return &m_screens; }
     QObject* visibleScreen() const { return m_screens.visible(); }
+    QObject* popover() const { return m_popover.get(); }
     QObject* progress() { return &m_progress; }
     QObject* player() const { return m_player.get(); }
     bool isDark() const { return m_isDark; }
@@ -46,6 +50,8 @@ public:
     QSize windowSize() const;
 
     void setDark(bool dark);
+    /// What depends on the present moment is looked at anew.
+    void timePassed();
     /// Shows the broadcast of an address in the application's scheme; any other leaves everything as it is.
     void openAddress(const QString& address);
 
@@ -62,6 +68,7 @@ public:
 Q_SIGNALS:
     void tabsChanged();
     void visibleScreenChanged();
+    void popoverChanged();
     void playerChanged();
     void darkChanged();
     /// A message with "title", "message" and the titles of its "actions"; the next comes once this one is answered.
@@ -69,6 +76,8 @@ Q_SIGNALS:
 
 private:
     void followTabs();
+    void followPopover();
+    void presentAlert(Alert alert);
     void followPlayer();
     void showNextAlert();
     void restoreTab();
@@ -76,11 +85,13 @@ private:
     VidoraAppDelegate& m_delegate;
     PersistentAdTabBarController m_tabs;
     ScreenList m_screens;
+    std::unique_ptr<ScreenObject> m_popover;
+    RichTextStyle m_style;
     PassProgress m_progress;
     std::shared_ptr<StreamMediaPlayer> m_player;
     std::deque<Alert> m_alerts; ///< the first is the one that is shown
     bool m_isDark = false;
-    bool m_isRestored = false;
+    MinuteTicks m_minutes;
 };
 
 } // namespace vidora
