@@ -1,5 +1,6 @@
 #include "ScreensFixture.h"
 #include "screens/AllChannelsViewController.h"
+#include "screens/ChannelListViewController.h"
 #include "screens/ChannelViewController.h"
 #include "screens/EditChannelListViewController.h"
 
@@ -86,6 +87,81 @@ TEST_F(ModelChangesTest, ChannelIsReadAgainWhenItsPassIsOver)
     DispatchQueue::runMain([&] { return !screen->isRefreshing(); });
     EXPECT_EQ(watched.texts(), words("08:30 c|09:30 d|10:30 e"));
     EXPECT_EQ(changes, 2);
+}
+
+TEST_F(ModelChangesTest, HomeRollsOnWithTheClock)
+{
+    const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
+    broadcast(1, words("a|b|c|d|e|f"));
+    broadcast(2, words("g|h"));
+    start({one, two});
+    device.update();
+    WatchedModel watched(tabs->visibleScreen());
+    constexpr Milliseconds minute{60'000};
+    int fresh = 0;
+    QObject::connect(&watched.model, &QAbstractItemModel::dataChanged, [&] { ++fresh; });
+    const auto passTime = [&](Milliseconds step) {
+        device.clock.advance(step);
+        fresh = 0;
+        home().timePassed();
+        DispatchQueue::runMain([&] { return fresh > 0; });
+    };
+    const auto progress = [&](int row) {
+        return watched.model.data(watched.model.index(row), ScreenItemModel::ProgressRole).toDouble();
+    };
+    passTime(15 * minute);
+    EXPECT_EQ(watched.texts(), words("One|08:30 a|09:30 b|10:30 c|11:30 d|Two|08:30 g|09:30 h"));
+    EXPECT_EQ(progress(1), 0.25);
+    passTime(75 * minute); // a and g are over
+    EXPECT_EQ(watched.texts(), words("One|09:30 b|10:30 c|11:30 d|12:30 e|Two|09:30 h"));
+    EXPECT_EQ(progress(1), 0.5);
+    EXPECT_EQ(progress(2), -1);
+    passTime(-60 * minute); // the clock was set back
+    EXPECT_EQ(watched.texts(), words("One|08:30 a|09:30 b|10:30 c|11:30 d|Two|08:30 g|09:30 h"));
+    passTime(24 * 60 * minute);
+    EXPECT_EQ(watched.texts(), words("One|Two"));
+}
+
+TEST_F(ModelChangesTest, RefreshEndsWhenNoSourceDelivers)
+{
+    broadcast(1, words("a|b"));
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    home().selectRow({0, 0});
+    const auto screen = awaited<ChannelViewController>();
+    device.clock.advance(Seconds(86'401));
+    device.session.answer(feed, {500, {}, {}, {}});
+    screen->refresh();
+    DispatchQueue::runMain([&] { return !screen->isRefreshing(); });
+    EXPECT_EQ(screen->rightBarButtonItems().front().kind, BarButton::Kind::Refresh);
+    EXPECT_EQ(screen->numberOfRowsInSection(0), 2U) << "the old list stays";
+}
+
+TEST_F(ModelChangesTest, ListOfChannelsIsAPopoverOnAPad)
+{
+    const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
+    broadcast(2, words("a"));
+    start({one, two});
+    device.update();
+    home().list();
+    EXPECT_TRUE(visible<ChannelListViewController>());
+    EXPECT_FALSE(tabs->popover());
+    tabs->setPad(true);
+    DispatchQueue::runMain([&] { return home().hasContent(); });
+    for (const bool isLeft : {true, false}) {
+        home().list();
+        ASSERT_TRUE(tabs->popover());
+        EXPECT_TRUE(visible<RootViewController>());
+        if (isLeft)
+            tabs->back();
+        else
+            tabs->popover()->selectRow({0, 1});
+        EXPECT_FALSE(tabs->popover());
+    }
+    EXPECT_EQ(awaited<ChannelViewController>()->title(), QStringLiteral("Two"));
+    home().list();
+    tabs->setPad(false);
+    EXPECT_FALSE(tabs->popover()) << "a phone has none";
 }
 
 TEST_F(ModelChangesTest, EditorMovesAndDeletes)

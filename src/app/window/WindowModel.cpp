@@ -180,7 +180,9 @@ void WindowModel::setColours(const QVariantMap& colours)
 
 void WindowModel::presentAlert(Alert alert)
 {
-    const auto isSame = [&](const Alert& other) { return other.title == alert.title && other.message == alert.message; };
+    const auto isSame = [&](const Alert& other) {
+        return other.title == alert.title && other.message == alert.message;
+    };
     if (std::any_of(m_alerts.begin(), m_alerts.end(), isSame))
         return; // once is enough, however long it stays unanswered
     m_alerts.push_back(std::move(alert));
