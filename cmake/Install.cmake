@@ -32,6 +32,6 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
     libqt6sql6-sqlite libqt6svg6 qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick
     qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
-    qml6-module-qtquick-window qml6-module-qtmultimedia)
-string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS gstreamer1.0-plugins-good gstreamer1.0-libav gstreamer1.0-plugins-bad)
+    qml6-module-qtquick-window qml6-module-qtmultimedia
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad gstreamer1.0-libav)
 include(CPack)

@@ -1,12 +1,22 @@
 #include "screens/StreamViewController.h"
 
 #include "screens/ScreenModel.h"
+#include "screens/ShowRows.h"
 
 namespace vidora {
 
 namespace {
 
 constexpr Seconds patience{25};
+
+QString titleOfStream(const ChannelData& channels, const URL& url)
+{
+    for (const auto& [id, channel] : channels) {
+        if (streamURL(channel) == url)
+            return channelTitle(channel);
+    }
+    return {};
+}
 
 } // namespace
 
@@ -34,6 +44,7 @@ void StreamViewController::playURL(const URL& url)
     m_player = playerWithURL ? playerWithURL(url) : nullptr;
     if (!m_player)
         return;
+    m_title = titleOfStream(m_delegate.channelData(), url);
     play();
     if (playerChanged)
         playerChanged();

@@ -31,12 +31,15 @@ public:
     void moviePlayerPlaybackDidFinish();
     /// Null while none is open.
     const std::shared_ptr<StreamPlayer>& player() const { return m_player; }
+    /// Title of the channel whose stream was opened last; empty for an address of no channel.
+    const QString& title() const { return m_title; }
 
 private:
     void checkIsReady(const std::weak_ptr<StreamPlayer>& player);
 
     VidoraAppDelegate& m_delegate;
     std::shared_ptr<StreamPlayer> m_player;
+    QString m_title;
     BlockOwner m_mainBlocks;
 };
 

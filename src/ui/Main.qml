@@ -79,6 +79,7 @@ ApplicationWindow {
         active: window.app.player !== null
         sourceComponent: PlayerScreen {
             player: window.app.player
+            title: window.app.playerTitle
             onClosed: window.app.closePlayer()
         }
     }

@@ -3,14 +3,18 @@ import QtQuick.Layouts
 import QtQuick.Controls
 import QtMultimedia
 
-// A stream over the whole window. The controls leave when nobody has moved for a while.
+// A stream over the whole window. The controls leave when it plays and nobody has moved for a while.
 FocusScope {
     id: screen
 
     required property var player
+    required property string title
     signal closed()
 
-    property bool controlsShown: true
+    readonly property bool playing: player !== null && player.playing
+    readonly property bool ready: player !== null && player.ready
+    property bool awake: true
+    readonly property bool controlsShown: awake || !playing || !ready
 
     focus: true
     Component.onCompleted: {
@@ -18,15 +22,31 @@ FocusScope {
         forceActiveFocus()
     }
     Component.onDestruction: if (player) player.videoOutput = null
-    Keys.onSpacePressed: player.toggle()
+    Keys.onPressed: event => {
+        wake()
+        if (event.key === Qt.Key_Space || event.key === Qt.Key_MediaTogglePlayPause) {
+            player.toggle()
+            event.accepted = true
+        }
+    }
     Accessible.role: Accessible.Pane
-    Accessible.name: qsTranslate("vidora", "Player")
+    Accessible.name: title
 
     function wake() {
-        controlsShown = true
+        awake = true
         rest.restart()
     }
+    function clock(milliseconds) {
+        const seconds = Math.floor(milliseconds / 1000)
+        return Math.floor(seconds / 60) + ":" + String(seconds % 60).padStart(2, "0")
+    }
 
+    Timer {
+        id: rest
+        interval: 3000
+        running: true
+        onTriggered: screen.awake = false
+    }
     Rectangle {
         anchors.fill: parent
         color: "#000000"
@@ -38,61 +58,91 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
+        cursorShape: screen.controlsShown ? Qt.ArrowCursor : Qt.BlankCursor
         onPositionChanged: screen.wake()
         onClicked: screen.wake()
     }
-    Timer {
-        id: rest
-        interval: 3000
-        running: true
-        onTriggered: if (screen.player && screen.player.playing) screen.controlsShown = false
-    }
     Column {
         anchors.centerIn: parent
-        spacing: 12
-        visible: screen.player && !screen.player.ready
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.readableWidth)
+        spacing: Theme.spacing
+        visible: !screen.ready
         BusyIndicator {
             anchors.horizontalCenter: parent.horizontalCenter
             palette.dark: "#ffffff"
-            running: parent.visible && !screen.player.failed
+            running: parent.visible && screen.player !== null && !screen.player.failed
+            visible: running
         }
         Text {
+            width: parent.width
             text: screen.player && screen.player.failed ? qsTranslate("vidora", "The stream does not answer.")
                                                         : qsTranslate("vidora", "Connecting")
             textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
             color: "#ffffff"
             font.pixelSize: Theme.body
         }
     }
-    Rectangle {
+    component Bar: Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.bottom: parent.bottom
-        height: 72
+        height: 60
         color: "#b3000000"
         visible: screen.controlsShown
+    }
+    Bar {
+        anchors.top: parent.top
         RowLayout {
             anchors.fill: parent
-            anchors.margins: 12
-            spacing: 8
-            SymbolButton {
-                symbol: screen.player && screen.player.playing ? "pause" : "play"
+            anchors.leftMargin: Theme.margin
+            anchors.rightMargin: Theme.spacing
+            spacing: Theme.spacing
+            Text {
+                Layout.fillWidth: true
+                text: screen.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
                 color: "#ffffff"
-                text: screen.player && screen.player.playing ? qsTranslate("vidora", "Pause") : qsTranslate("vidora", "Play")
-                onClicked: screen.player.toggle()
+                font.pixelSize: Theme.title
+                font.bold: true
             }
-            Slider {
-                Layout.preferredWidth: 140
-                value: screen.player ? screen.player.volume : 1
-                onMoved: screen.player.volume = value
-                Accessible.name: qsTranslate("vidora", "Volume")
-            }
-            Item { Layout.fillWidth: true }
             SymbolButton {
                 symbol: "close"
                 color: "#ffffff"
                 text: qsTranslate("vidora", "Close")
                 onClicked: screen.closed()
+            }
+        }
+    }
+    Bar {
+        anchors.bottom: parent.bottom
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.spacing
+            anchors.rightMargin: Theme.margin
+            spacing: Theme.spacing
+            SymbolButton {
+                symbol: screen.playing ? "pause" : "play"
+                color: "#ffffff"
+                text: screen.playing ? qsTranslate("vidora", "Pause") : qsTranslate("vidora", "Play")
+                enabled: screen.ready
+                onClicked: screen.player.toggle()
+            }
+            Text {
+                text: screen.player ? screen.clock(screen.player.position) : ""
+                visible: screen.ready
+                textFormat: Text.PlainText
+                color: "#ffffff"
+                font.pixelSize: Theme.small
+            }
+            Item { Layout.fillWidth: true }
+            Slider {
+                Layout.preferredWidth: 140
+                visible: screen.player !== null && screen.player.audible
+                value: screen.player ? screen.player.volume : 1
+                onMoved: screen.player.volume = value
+                Accessible.name: qsTranslate("vidora", "Volume")
             }
         }
     }

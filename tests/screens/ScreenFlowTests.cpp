@@ -53,6 +53,7 @@ TEST_F(ScreenFlowTest, AStreamThatNeverStartsIsClosedAndTheUserTold)
     home().selectRow({0, 0});
     ASSERT_TRUE(player);
     EXPECT_EQ(played, QStringList{QStringLiteral("http://s.example/live%20one.m3u8")});
+    EXPECT_EQ(tabs->stream().title(), QStringLiteral("One"));
     wait(Seconds(24));
     EXPECT_TRUE(tabs->stream().player());
     wait(Seconds(1));

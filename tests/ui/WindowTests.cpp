@@ -171,6 +171,7 @@ int main(int argc, char** argv)
 {
     qputenv("TZ", "America/St_Johns");
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    vidora::StreamMediaPlayer::chooseBackend();
     QGuiApplication application(argc, argv);
     ::testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();

@@ -1,19 +1,30 @@
 #include "app/window/StreamMediaPlayer.h"
 
+#include <QAudioDevice>
 #include <QAudioOutput>
+#include <QMediaDevices>
 #include <QUrl>
 
 namespace vidora {
 
-StreamMediaPlayer::StreamMediaPlayer(const URL& url)
-    : m_audio(new QAudioOutput(this))
+void StreamMediaPlayer::chooseBackend()
 {
-    m_player.setAudioOutput(m_audio);
+    if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND"))
+        qputenv("QT_MEDIA_BACKEND", "gstreamer");
+}
+
+StreamMediaPlayer::StreamMediaPlayer(const URL& url)
+{
+    if (!QMediaDevices::audioOutputs().isEmpty()) {
+        m_audio = new QAudioOutput(this);
+        m_player.setAudioOutput(m_audio);
+        connect(m_audio, &QAudioOutput::volumeChanged, this, &StreamMediaPlayer::volumeChanged);
+    }
     connect(&m_player, &QMediaPlayer::mediaStatusChanged, this, &StreamMediaPlayer::stateChanged);
     connect(&m_player, &QMediaPlayer::playbackStateChanged, this, &StreamMediaPlayer::stateChanged);
     connect(&m_player, &QMediaPlayer::tracksChanged, this, &StreamMediaPlayer::stateChanged);
     connect(&m_player, &QMediaPlayer::errorChanged, this, &StreamMediaPlayer::stateChanged);
-    connect(m_audio, &QAudioOutput::volumeChanged, this, &StreamMediaPlayer::volumeChanged);
+    connect(&m_player, &QMediaPlayer::positionChanged, this, &StreamMediaPlayer::positionChanged);
     const QUrl source(url.text());
     m_isRefused = source.scheme() != QLatin1String("http") && source.scheme() != QLatin1String("https");
     if (!m_isRefused)
@@ -68,12 +79,13 @@ void StreamMediaPlayer::setVideoOutput(QObject* output)
 
 qreal StreamMediaPlayer::volume() const
 {
-    return m_audio->volume();
+    return m_audio ? m_audio->volume() : 0;
 }
 
 void StreamMediaPlayer::setVolume(qreal volume)
 {
-    m_audio->setVolume(static_cast<float>(volume));
+    if (m_audio)
+        m_audio->setVolume(static_cast<float>(volume));
 }
 
 void StreamMediaPlayer::toggle()

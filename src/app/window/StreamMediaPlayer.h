@@ -19,9 +19,17 @@ class StreamMediaPlayer final : public QObject, public StreamPlayer
     Q_PROPERTY(bool playing READ isPlaying NOTIFY stateChanged)
     Q_PROPERTY(bool ready READ isReady NOTIFY stateChanged)
     Q_PROPERTY(bool failed READ hasFailed NOTIFY stateChanged)
+    /// Whether there is anything to hear it with; the pictures play without.
+    Q_PROPERTY(bool audible READ isAudible CONSTANT)
+    /// Milliseconds since the beginning.
+    Q_PROPERTY(qint64 position READ position NOTIFY positionChanged)
     Q_PROPERTY(qreal volume READ volume WRITE setVolume NOTIFY volumeChanged)
 
 public:
+    /// Chooses the way of playing that neither holds the window up while a server is silent nor needs a device for
+    /// sound. Ahead of the first player.
+    static void chooseBackend();
+
     /// Only addresses of the web are opened: a catalogue may have been written by anyone.
     explicit StreamMediaPlayer(const URL& url);
     ~StreamMediaPlayer() override;
@@ -36,6 +44,8 @@ public:
     bool isPlaying() const { return m_player.playbackState() == QMediaPlayer::PlayingState; }
     bool isReady() const { return status() == Status::ReadyToPlay; }
     bool hasFailed() const { return status() == Status::Failed; }
+    bool isAudible() const { return m_audio != nullptr; }
+    qint64 position() const { return m_player.position(); }
     qreal volume() const;
     void setVolume(qreal volume);
 
@@ -44,11 +54,12 @@ public:
 Q_SIGNALS:
     void videoOutputChanged();
     void stateChanged();
+    void positionChanged();
     void volumeChanged();
 
 private:
     QMediaPlayer m_player;
-    QAudioOutput* m_audio;
+    QAudioOutput* m_audio = nullptr;
     bool m_isRefused = false;
 };
 

@@ -28,6 +28,8 @@ class WindowModel final : public QObject
     Q_PROPERTY(QObject* progress READ progress CONSTANT)
     /// The open player, or null.
     Q_PROPERTY(QObject* player READ player NOTIFY playerChanged)
+    /// Title of the channel that plays.
+    Q_PROPERTY(QString playerTitle READ playerTitle NOTIFY playerChanged)
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
     Q_PROPERTY(qreal fontScale READ fontScale CONSTANT)
     Q_PROPERTY(QSize windowSize READ windowSize CONSTANT)
@@ -44,6 +46,7 @@ public:
     QObject* popover() const { return m_popover.get(); }
     QObject* progress() { return &m_progress; }
     QObject* player() const { return m_player.get(); }
+    QString playerTitle() { return m_tabs.stream().title(); }
     bool isDark() const { return m_isDark; }
     qreal fontScale() const;
     /// The size that the window had when it was last closed.

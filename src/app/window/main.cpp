@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/window/StreamMediaPlayer.h"
 #include "app/window/Window.h"
 
 #include <QGuiApplication>
@@ -13,8 +14,7 @@ int main(int argc, char** argv)
                                         [](const char* argument) { return std::strcmp(argument, "--self-test") == 0; });
     if (isSelfTest) // nothing is shown, so no display is needed
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND")) // the other one ends the program where its plugins are missing
-        qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+    vidora::StreamMediaPlayer::chooseBackend();
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vidora"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tv.ostrel.vidora"));
