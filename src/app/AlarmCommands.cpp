@@ -173,7 +173,7 @@ QString AlarmRun::described(const Favorite& favorite) const
     const QString text = !favorite.previouslyShown()   ? translated("%1: alarm %2 minutes ahead of each broadcast")
                          : *favorite.previouslyShown() ? translated("%1: alarm %2 minutes ahead of each replay")
                                                        : translated("%1: alarm %2 minutes ahead of each premiere");
-    return text.arg(favorite.identificator()).arg(favorite.minutes());
+    return text.arg(favorite.identificator(), QString::number(favorite.minutes()));
 }
 
 QJsonObject AlarmRun::json(const Favorite& favorite)
@@ -454,6 +454,12 @@ void AlarmRun::calendars()
 bool isAlarmCommand(const QString& command)
 {
     return AlarmRun::handlers().contains(command);
+}
+
+bool changesAlarms(const CommandLine& line)
+{
+    // Without an argument these show what is set, and "favourites" and "alerts" take none.
+    return isAlarmCommand(line.command) && !line.arguments.isEmpty();
 }
 
 int runAlarmCommand(const CommandLine& line, Device& device)

@@ -337,10 +337,11 @@ bool fetches(const QString& command)
     return command.isEmpty() || command == QLatin1String("update");
 }
 
-bool changes(const QString& command)
+bool changes(const CommandLine& line)
 {
+    const QString& command = line.command;
     return fetches(command) || command == QLatin1String("select") || command == QLatin1String("unselect") ||
-           command == QLatin1String("import") || isAlarmCommand(command);
+           command == QLatin1String("import") || changesAlarms(line);
 }
 
 } // namespace
@@ -349,14 +350,14 @@ int runCommand(const CommandLine& line)
 {
     if (line.log)
         Log::setSink(say);
-    Device device(line, changes(line.command) ? Device::Access::Write : Device::Access::Read, fetches(line.command));
+    Device device(line, changes(line) ? Device::Access::Write : Device::Access::Read, fetches(line.command));
     // The blocks queued at launch (pruning, the channel objects) come ahead of every command.
     bool launched = false;
     DispatchQueue::main().async([&] { launched = true; });
     DispatchQueue::runMain([&] { return launched; });
 
     int status = 1;
-    if (!changes(line.command) || fetches(line.command) || device.keepsChanges())
+    if (!changes(line) || fetches(line.command) || device.keepsChanges())
         status = line.command == QLatin1String("import") ? importGuide(line, device)
                  : isAlarmCommand(line.command)          ? runAlarmCommand(line, device)
                                                          : CommandRun(line, device).run();

@@ -196,6 +196,8 @@ TEST(Program, SharesItsHomeWithAnotherProcess)
     const Ended reader = home.run(words("now"));
     EXPECT_THAT(reader.errors.toStdString(), HasSubstr("Another vidora"));
     EXPECT_THAT(reader.output.toStdString(), HasSubstr("Early"));
+    for (const char* command : {"alerts", "favourites", "silent-hours", "calendars"})
+        EXPECT_EQ(home.run(words(command)).status, 0) << command;
 
     QProcess writer;
     home.start(writer, words("unselect|one"));
