@@ -73,8 +73,9 @@ void MemoryEventStore::requestAccessToEntityType(EntityType, const Completion& c
 void MemoryEventStore::reset()
 {
     const std::lock_guard lock(m_mutex);
-    m_events = m_committed;
-    m_waiting = 0;
+    if (!m_waiting.empty())
+        m_events = m_committed;
+    m_waiting.clear();
 }
 
 void MemoryEventStore::refreshSourcesIfNecessary() {}
@@ -156,7 +157,7 @@ std::optional<EventStoreError> MemoryEventStore::saveEvent(Event& event, EventSp
     if (event.eventIdentifier.isEmpty())
         event.eventIdentifier = QStringLiteral("event-%1").arg(++m_lastIdentifier, 6, 10, QLatin1Char('0'));
     m_events.insert_or_assign(event.eventIdentifier, event);
-    ++m_waiting;
+    m_waiting.push_back(event.eventIdentifier);
     return commit ? write() : std::nullopt;
 }
 
@@ -168,7 +169,7 @@ std::optional<EventStoreError> MemoryEventStore::removeEvent(const Event& event,
     if (auto error = refusal(event))
         return error;
     m_events.erase(event.eventIdentifier);
-    ++m_waiting;
+    m_waiting.push_back(event.eventIdentifier);
     return commit ? write() : std::nullopt;
 }
 
@@ -180,10 +181,17 @@ std::optional<EventStoreError> MemoryEventStore::commit()
 
 std::optional<EventStoreError> MemoryEventStore::write()
 {
-    if (m_waiting > 0 && m_failure)
+    if (!m_waiting.empty() && m_failure)
         return m_failure;
-    m_committed = m_events;
-    m_writeCount += std::exchange(m_waiting, 0);
+    for (const QString& identifier : m_waiting) {
+        const auto event = m_events.find(identifier);
+        if (event != m_events.end())
+            m_committed.insert_or_assign(identifier, event->second);
+        else
+            m_committed.erase(identifier);
+    }
+    m_writeCount += static_cast<int>(m_waiting.size());
+    m_waiting.clear();
     return std::nullopt;
 }
 
