@@ -137,6 +137,9 @@ CalDAVClient::Answer CalDAVClient::askOnce(const Query& query)
     URLResult result = m_session.perform(request);
     m_lastAnswer = QString::fromLatin1(query.method) + QLatin1Char(' ') + query.address.path() + QStringLiteral(": ") +
                    (result.error ? result.error->description : QString::number(result.response->statusCode));
+    m_hasAnswered = result.response.has_value();
+    if (result.error && result.response && result.response->statusCode / 100 == 2)
+        answer.outcome = Outcome::TooLarge;
     if (result.error || !result.response || !result.data)
         return answer;
     answer.status = result.response->statusCode;

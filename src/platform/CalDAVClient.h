@@ -34,6 +34,7 @@ public:
         Conflict, ///< 412: it is not as it was
         Refused,  ///< 401: user or password
         Rejected, ///< any other answer that says no: 400, 403, 409, 413, 415, 423, 507, ...
+        TooLarge, ///< an answer came that can't be had whole
         Failed    ///< no answer, the server's own trouble, or something that is no answer to the question
     };
     struct RemoteCalendar
@@ -79,6 +80,8 @@ public:
 
     /// What came of the last request, for the log and the user; holds no secret.
     const QString& lastAnswer() const { return m_lastAnswer; }
+    /// Whether the server answered the last request, be it that it can't.
+    bool hasAnswered() const { return m_hasAnswered; }
     int requestCount() const { return m_requestCount; }
 
 private:
@@ -118,6 +121,7 @@ private:
     const CalDAVAccount m_account;
     std::optional<URLAuthentication> m_authentication;
     QString m_lastAnswer;
+    bool m_hasAnswered = false;
     int m_requestCount = 0;
 };
 

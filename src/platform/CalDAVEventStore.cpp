@@ -46,11 +46,12 @@ bool sameEvent(const QByteArray& a, const QByteArray& b)
 } // namespace
 
 CalDAVEventStore::CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session,
-                                   const Clock& clock, Random& random, Sleeper& sleeper)
+                                   const Clock& clock, Random& random, Sleeper& sleeper, FileLayer& layer)
     : m_folder(folder)
     , m_accountAddress(account.address)
     , m_clock(clock)
-    , m_files(std::move(folder), std::move(source), clock, random)
+    , m_layer(layer)
+    , m_files(std::move(folder), std::move(source), clock, random, layer)
     , m_client(session, sleeper, std::move(account))
 {
 }
@@ -83,13 +84,21 @@ bool CalDAVEventStore::noteFailure(Outcome outcome)
     if (outcome == Outcome::Done)
         return true;
     Log::line(QStringLiteral("calendar server: %1").arg(m_client.lastAnswer()));
-    m_pauseUntil = m_clock.now() + (outcome == Outcome::Refused ? pauseAfterRefusal : pauseAfterFailure);
+    m_failed = m_clock.now();
+    m_pause = outcome == Outcome::Refused ? pauseAfterRefusal : pauseAfterFailure;
     return false;
+}
+
+/// Whether less than a period has gone by since a moment. A clock that was set back doesn't lengthen it.
+bool CalDAVEventStore::isWithin(const std::optional<Instant>& moment, Seconds period) const
+{
+    const Instant now = m_clock.now();
+    return moment && now >= *moment && now < *moment + period;
 }
 
 bool CalDAVEventStore::mayAsk() const
 {
-    return !m_pauseUntil || m_clock.now() >= *m_pauseUntil;
+    return !isWithin(m_failed, m_pause);
 }
 
 AuthorizationStatus CalDAVEventStore::authorizationStatusForEntityType(EntityType type) const
@@ -165,7 +174,7 @@ std::optional<EventStoreError> CalDAVEventStore::write()
         touched.insert(change.calendarIdentifier);
     }
     for (const QString& calendar : touched) {
-        if (!mirror(calendar).write(folderOf(calendar)))
+        if (!write(mirror(calendar), calendar))
             return EventStoreError{QStringLiteral("the changes can't be kept in %1").arg(folderOf(calendar))};
     }
     return m_files.commit();
@@ -183,17 +192,14 @@ int CalDAVEventStore::unsentChanges()
 void CalDAVEventStore::refreshSourcesIfNecessary()
 {
     const std::lock_guard lock(m_mutex);
-    // A clock that was set back must not put the next refresh off.
-    const Instant now = m_clock.now();
-    const bool fresh = m_refreshed && now >= *m_refreshed && now < *m_refreshed + refreshInterval;
-    if (!fresh && mayAsk())
+    if (!isWithin(m_refreshed, refreshInterval) && mayAsk())
         refreshAll();
 }
 
 std::optional<EventStoreError> CalDAVEventStore::refresh()
 {
     const std::lock_guard lock(m_mutex);
-    m_pauseUntil.reset();
+    m_failed.reset();
     if (refreshAll())
         return std::nullopt;
     return EventStoreError{m_client.lastAnswer()};
@@ -226,13 +232,18 @@ bool CalDAVEventStore::refreshAll()
     }
     if (!takeCalendars(calendars))
         return false;
+    bool complete = true;
     for (const auto& remote : calendars) {
         const QString calendar = identifierOf(remote.address);
-        if (!push(calendar) || !pull(calendar, remote))
+        if (push(calendar) && pull(calendar, remote))
+            continue;
+        if (!m_client.hasAnswered() || m_pause == pauseAfterRefusal)
             return false;
+        complete = false; // the trouble of one calendar is not that of the others
+        m_failed.reset();
     }
     m_refreshed = m_clock.now();
-    return true;
+    return complete;
 }
 
 /// Makes the folders agree with the calendars that the server has.
@@ -298,23 +309,41 @@ bool CalDAVEventStore::pull(const QString& calendar, const CalDAVClient::RemoteC
     const bool whole = bring(known, calendar, wanted);
     if (whole)
         known.token = changes.token;
-    return known.write(folderOf(calendar)) && whole;
+    return write(known, calendar) && whole;
 }
 
 bool CalDAVEventStore::bring(CalDAVMirror& mirror, const QString& calendar,
                              const std::vector<CalDAVClient::RemoteEvent>& wanted)
 {
-    for (std::size_t first = 0; first < wanted.size(); first += eventsPerRequest) {
+    using Part = std::pair<std::size_t, std::size_t>; // first and behind the last
+    std::vector<Part> parts;
+    for (std::size_t first = 0; first < wanted.size(); first += eventsPerRequest)
+        parts.emplace_back(first, std::min(wanted.size(), first + eventsPerRequest));
+    while (!parts.empty()) {
+        const auto [first, last] = parts.back();
+        parts.pop_back();
         std::vector<QUrl> addresses;
-        for (std::size_t i = first; i < std::min(wanted.size(), first + eventsPerRequest); ++i)
+        for (std::size_t i = first; i < last; ++i)
             addresses.push_back(wanted[i].address);
         std::vector<CalDAVClient::RemoteEvent> events;
-        if (!noteFailure(m_client.fetch(QUrl(mirror.address), addresses, events)))
+        const Outcome outcome = m_client.fetch(QUrl(mirror.address), addresses, events);
+        if (outcome == Outcome::TooLarge && addresses.size() > 1) {
+            const std::size_t middle = first + addresses.size() / 2;
+            parts.insert(parts.end(), {Part(first, middle), Part(middle, last)});
+        } else if (outcome == Outcome::TooLarge) {
+            Log::line(QStringLiteral("calendar event %1 is too large and is left out").arg(addresses[0].path()));
+        } else if (!noteFailure(outcome)) {
             return false;
+        }
         for (const auto& event : events)
             keep(mirror, calendar, event);
     }
     return true;
+}
+
+bool CalDAVEventStore::write(const CalDAVMirror& mirror, const QString& calendar) const
+{
+    return mirror.write(folderOf(calendar), m_layer);
 }
 
 void CalDAVEventStore::keep(CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event)
@@ -323,18 +352,16 @@ void CalDAVEventStore::keep(CalDAVMirror& mirror, const QString& calendar, const
     if (mirror.outbox.contains(name) || event.document.size() > ICalendarEvent::maximumSize)
         return;
     if (AtomicFile::write(fileOf(calendar, name), event.document, AtomicFile::Access::OwnerOnly,
-                          AtomicFile::Durability::Unsynced))
+                          AtomicFile::Durability::Unsynced, m_layer))
         return;
-    mirror.items[name] = {event.address.path(QUrl::FullyEncoded), event.tag};
-    mirror.index();
+    mirror.keep(name, event.address, event.tag);
 }
 
 void CalDAVEventStore::forget(CalDAVMirror& mirror, const QString& calendar, const QString& name)
 {
-    QFile::remove(fileOf(calendar, name));
-    mirror.items.erase(name);
+    m_layer.remove(fileOf(calendar, name));
+    mirror.forget(name);
     mirror.outbox.erase(name);
-    mirror.index();
 }
 
 void CalDAVEventStore::pushAll()
@@ -367,8 +394,7 @@ bool CalDAVEventStore::push(const QString& calendar)
             break;
         }
     }
-    known.index();
-    return known.write(folderOf(calendar)) && answered;
+    return write(known, calendar) && answered;
 }
 
 CalDAVEventStore::Outcome CalDAVEventStore::send(CalDAVMirror& mirror, const QString& calendar, const QString& name,
@@ -408,7 +434,7 @@ CalDAVEventStore::Outcome CalDAVEventStore::sendDocument(CalDAVMirror& mirror, c
         return outcome;
     if (tag.isEmpty()) // what the server made of it shows only when it is read
         return settle(mirror, calendar, name);
-    mirror.items[name] = {address.path(QUrl::FullyEncoded), tag};
+    mirror.keep(name, address, tag);
     return Outcome::Done;
 }
 

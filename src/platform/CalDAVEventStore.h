@@ -25,9 +25,9 @@ public:
     static constexpr Seconds pauseAfterRefusal{15 * 60}; ///< servers lock out who keeps giving a wrong password
 
     /// `folder`: of the mirror, this account's alone. What is passed by reference must outlive the store; the session
-    /// should bound its bodies.
+    /// should bound its bodies: an event that is longer is left out.
     CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session, const Clock& clock,
-                     Random& random, Sleeper& sleeper);
+                     Random& random, Sleeper& sleeper, FileLayer& layer = FileLayer::system());
 
     /// Asks the server now, whatever was asked when: to test an account. Nothing on success.
     std::optional<EventStoreError> refresh();
@@ -57,6 +57,7 @@ private:
     QStringList mirrored() const;
     CalDAVMirror& mirror(const QString& calendar);
     bool noteFailure(Outcome outcome);
+    bool isWithin(const std::optional<Instant>& moment, Seconds period) const;
     bool mayAsk() const;
     std::optional<EventStoreError> write();
     bool findHome();
@@ -64,6 +65,7 @@ private:
     bool takeCalendars(const std::vector<CalDAVClient::RemoteCalendar>& calendars);
     bool pull(const QString& calendar, const CalDAVClient::RemoteCalendar& remote);
     bool bring(CalDAVMirror& mirror, const QString& calendar, const std::vector<CalDAVClient::RemoteEvent>& wanted);
+    bool write(const CalDAVMirror& mirror, const QString& calendar) const;
     void keep(CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event);
     void forget(CalDAVMirror& mirror, const QString& calendar, const QString& name);
     void pushAll();
@@ -75,13 +77,15 @@ private:
     const QString m_folder;
     const QString m_accountAddress;
     const Clock& m_clock;
+    FileLayer& m_layer;
     FolderEventStore m_files;
     CalDAVClient m_client;
     std::mutex m_mutex; ///< held while the server is asked
     std::map<QString, CalDAVMirror> m_mirrors;
     QUrl m_home;
     std::optional<Instant> m_refreshed;
-    std::optional<Instant> m_pauseUntil;
+    std::optional<Instant> m_failed;
+    Seconds m_pause{0}; ///< after that
 };
 
 } // namespace vidora

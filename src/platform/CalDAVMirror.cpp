@@ -3,6 +3,7 @@
 #include "platform/Log.h"
 
 #include <QCryptographicHash>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,6 +18,11 @@ constexpr qint64 maximalSize = 64LL * 1024 * 1024;
 QString fileIn(const QString& folder)
 {
     return folder + QStringLiteral("/.sync");
+}
+
+QString pathOf(const QUrl& event)
+{
+    return event.path(QUrl::FullyDecoded);
 }
 
 bool isPlainName(const QString& name)
@@ -49,11 +55,17 @@ CalDAVMirror CalDAVMirror::read(const QString& folder)
             mirror.outbox[change.key()] =
                 change.value().toString() == QLatin1String("remove") ? Change::Remove : Change::Put;
     }
-    mirror.index();
+    for (auto& [name, item] : mirror.items) {
+        mirror.m_names[pathOf(QUrl(item.href))] = name;
+        if (QFileInfo(folder + QLatin1Char('/') + name).size() > 0 || mirror.outbox.contains(name))
+            continue;
+        item.tag.clear();
+        mirror.token.clear();
+    }
     return mirror;
 }
 
-bool CalDAVMirror::write(const QString& folder) const
+bool CalDAVMirror::write(const QString& folder, FileLayer& layer) const
 {
     QJsonObject itemObject;
     for (const auto& [name, item] : items)
@@ -66,7 +78,7 @@ bool CalDAVMirror::write(const QString& folder) const
                              {QStringLiteral("items"), itemObject},
                              {QStringLiteral("outbox"), outboxObject}};
     return !AtomicFile::write(fileIn(folder), QJsonDocument(object).toJson(QJsonDocument::Compact),
-                              AtomicFile::Access::OwnerOnly);
+                              AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
 }
 
 QString CalDAVMirror::nameFor(const QUrl& event) const
@@ -74,14 +86,14 @@ QString CalDAVMirror::nameFor(const QUrl& event) const
     const QString name = event.fileName(QUrl::FullyDecoded);
     if (isPlainName(name) && !items.contains(name))
         return name;
-    const QByteArray path = event.path(QUrl::FullyDecoded).toUtf8();
+    const QByteArray path = pathOf(event).toUtf8();
     return QString::fromLatin1(QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex()) +
            QStringLiteral(".ics");
 }
 
 std::optional<QString> CalDAVMirror::nameOf(const QUrl& event) const
 {
-    const auto found = m_names.find(event.path(QUrl::FullyDecoded));
+    const auto found = m_names.find(pathOf(event));
     return found == m_names.end() ? std::nullopt : std::optional(found->second);
 }
 
@@ -92,11 +104,20 @@ QUrl CalDAVMirror::addressOf(const QString& name) const
     return calendar.resolved(QUrl(item == items.end() || item->second.href.isEmpty() ? name : item->second.href));
 }
 
-void CalDAVMirror::index()
+void CalDAVMirror::keep(const QString& name, const QUrl& event, const QString& tag)
 {
-    m_names.clear();
-    for (const auto& [name, item] : items)
-        m_names[QUrl(item.href).path(QUrl::FullyDecoded)] = name;
+    forget(name);
+    items[name] = {event.path(QUrl::FullyEncoded), tag};
+    m_names[pathOf(event)] = name;
+}
+
+void CalDAVMirror::forget(const QString& name)
+{
+    const auto item = items.find(name);
+    if (item == items.end())
+        return;
+    m_names.erase(pathOf(QUrl(item->second.href)));
+    items.erase(item);
 }
 
 } // namespace vidora

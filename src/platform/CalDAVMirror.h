@@ -29,20 +29,21 @@ struct CalDAVMirror
     std::map<QString, Item> items;    ///< by the name of the copy
     std::map<QString, Change> outbox; ///< our changes that the server doesn't have, by the name of the copy
 
-    /// A missing or unreadable file is an empty mirror, all of which has to be fetched.
+    /// A missing or unreadable file is an empty mirror, all of which has to be fetched. So has the copy of an event
+    /// that is missing or empty, as a loss of power may leave it.
     static CalDAVMirror read(const QString& folder);
     /// True when it is on the disk.
-    bool write(const QString& folder) const;
+    bool write(const QString& folder, FileLayer& layer) const;
 
     /// The name of the copy of an event on the server: the last part of its address where that can be a file's name.
     QString nameFor(const QUrl& event) const;
     std::optional<QString> nameOf(const QUrl& event) const;
     QUrl addressOf(const QString& name) const;
-    /// Sets which items there are, by the paths on the server; to be called after `items` was changed by hand.
-    void index();
+    void keep(const QString& name, const QUrl& event, const QString& tag);
+    void forget(const QString& name);
 
 private:
-    std::map<QString, QString> m_names; ///< by decoded path
+    std::map<QString, QString> m_names; ///< of items, by decoded path
 };
 
 } // namespace vidora

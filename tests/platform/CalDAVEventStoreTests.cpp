@@ -1,7 +1,5 @@
-#include "CalDAVServer.h"
-#include "platform/CalDAVEventStore.h"
+#include "CalDAVFixture.h"
 #include "platform/DAVMultistatus.h"
-#include "platform/NetworkURLSession.h"
 #include "platform/SecretStore.h"
 
 #include <gtest/gtest.h>
@@ -11,67 +9,6 @@ namespace {
 
 using namespace testing;
 using Fault = FaultySession::Fault;
-
-const Instant start = moment("2026-11-22T19:00:00Z");
-
-class CalDAVEventStoreTest : public ::testing::Test
-{
-protected:
-    CalDAVEventStoreTest() { qputenv("no_proxy", "127.0.0.1"); }
-    std::unique_ptr<CalDAVEventStore> open(const char* device = "a", const char* password = "s3cret")
-    {
-        return std::make_unique<CalDAVEventStore>(
-            home.filePath(QString::fromLatin1(device)), QStringLiteral("Work"),
-            CalDAVAccount{server.address(), QStringLiteral("ana"), QString::fromLatin1(password)}, session, clock,
-            random, sleeper);
-    }
-    Calendar tv(EventStore& store)
-    {
-        for (const Calendar& calendar : store.calendarsForEntityType(EntityType::Event)) {
-            if (calendar.title == QStringLiteral("TV"))
-                return calendar;
-        }
-        ADD_FAILURE() << "no calendar";
-        return {};
-    }
-    std::vector<Event> all(EventStore& store)
-    {
-        return store.eventsMatchingPredicate(
-            store.predicateForEventsWithStartDate(start - dayStep * 30, start + dayStep * 30, {tv(store)}));
-    }
-    Event save(EventStore& store, const QString& title, Instant at = start)
-    {
-        Event event = broadcast(tv(store), title, at);
-        EXPECT_FALSE(store.saveEvent(event, EventSpan::ThisEvent));
-        return event;
-    }
-    /// What the server holds, by title, and how often.
-    std::map<QString, int> titles() const
-    {
-        std::map<QString, int> result;
-        for (const auto& [name, bytes] : filesOf(server.calendar("tv"))) {
-            const auto event = ICalendarEvent::read(bytes);
-            ++result[event ? event->event.title : QStringLiteral("?")];
-        }
-        return result;
-    }
-
-    static std::string text(const std::map<QString, int>& titles)
-    {
-        QString result;
-        for (const auto& [title, count] : titles)
-            result += QStringLiteral("%1 x %2, ").arg(title).arg(count);
-        return result.toStdString();
-    }
-
-    CalDAVServer server;
-    QTemporaryDir home;
-    NetworkURLSession network{32 * 1024 * 1024};
-    FaultySession session{network};
-    FixedClock clock{moment("2026-11-22T12:00:00Z")};
-    SeededRandom random{7};
-    NoSleep sleeper;
-};
 
 TEST_F(CalDAVEventStoreTest, FindsTheCalendarsOfAnAccount)
 {
@@ -171,68 +108,6 @@ TEST_F(CalDAVEventStoreTest, KeepsChangesUntilThereIsANetwork)
     EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Second"), 1}, {QStringLiteral("New"), 1}}));
 }
 
-TEST_F(CalDAVEventStoreTest, LosesAndDoublesNothingWhateverTheServerAnswers)
-{
-    struct Case
-    {
-        Fault fault;
-        int status;
-        const char* method;
-    };
-    std::vector<Case> cases;
-    for (const Fault fault : {Fault::Silence, Fault::LostReply, Fault::Page, Fault::CutOff}) {
-        for (const char* method : {"PUT", "DELETE", "REPORT"})
-            cases.push_back({fault, 0, method});
-    }
-    for (const int status : {401, 403, 404, 409, 412, 423, 500, 507})
-        cases.push_back({Fault::Status, status, "PUT"});
-    cases.insert(cases.end(),
-                 {{Fault::Status, 404, "DELETE"}, {Fault::Status, 412, "DELETE"}, {Fault::Status, 500, ""}});
-    const QByteArray foreign = foreignEvent("w", "20261122T200000Z");
-    const QString foreignPath = server.calendar("tv") + QStringLiteral("/w.ics");
-    writeRaw(foreignPath, foreign);
-    auto store = open();
-    ASSERT_FALSE(store->refresh());
-    std::map<QString, int> expected{{QStringLiteral("Dentist, \u00E9tage 2"), 1}};
-    int number = 0;
-    for (const Case& each : cases) {
-        const std::string what =
-            std::to_string(int(each.fault)) + " " + std::to_string(each.status) + " " + each.method;
-        const Instant at = start + Seconds(++number);
-        Event changed = broadcast(tv(*store), QStringLiteral("Changed %1").arg(number), at);
-        Event removed = broadcast(tv(*store), QStringLiteral("Removed %1").arg(number), at);
-        EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
-        EXPECT_FALSE(store->saveEvent(removed, EventSpan::ThisEvent));
-        ASSERT_EQ(store->unsentChanges(), 0) << what;
-        session.fault = each.fault;
-        session.status = each.status;
-        session.method = each.method;
-        changed.title = QStringLiteral("Moved %1").arg(number);
-        EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
-        EXPECT_FALSE(store->removeEvent(removed, EventSpan::ThisEvent, false));
-        save(*store, QStringLiteral("New %1").arg(number), at);
-        clock.advance(Seconds(3600));
-        store->refreshSourcesIfNecessary();
-        store = open();
-        session.fault = Fault::None;
-        for (int again = 0; again < 2; ++again) {
-            clock.advance(Seconds(3600));
-            store->refreshSourcesIfNecessary();
-        }
-        ++expected[changed.title];
-        ++expected[QStringLiteral("New %1").arg(number)];
-        if (each.status == 404 && titles() != expected) { // believed, then seen again: it can be removed once more
-            for (const Event& event : all(*store)) {
-                const bool back = event.url == removed.url;
-                EXPECT_FALSE(back && store->removeEvent(event, EventSpan::ThisEvent, true).has_value());
-            }
-        }
-        ASSERT_EQ(text(titles()), text(expected)) << what;
-        ASSERT_EQ(all(*store).size(), expected.size()) << what;
-    }
-    EXPECT_EQ(readRaw(foreignPath), foreign);
-}
-
 TEST_F(CalDAVEventStoreTest, LeavesTheUsersOwnChangesInPlace)
 {
     const auto store = open();
@@ -265,91 +140,6 @@ TEST_F(CalDAVEventStoreTest, DoesNotInsistOnAWrongPassword)
     clock.advance(Seconds(600));
     store->refreshSourcesIfNecessary();
     EXPECT_EQ(session.requests, 0);
-}
-
-TEST_F(CalDAVEventStoreTest, BringsBackACopyThatWasLostHere)
-{
-    const auto store = open();
-    writeRaw(server.calendar("tv") + QStringLiteral("/w.ics"), foreignEvent("w", "20261122T200000Z"));
-    ASSERT_FALSE(store->refresh());
-    const QString folder = home.filePath(QStringLiteral("a/")) + tv(*store).calendarIdentifier;
-    QFile::remove(folder + QStringLiteral("/w.ics"));
-    writeRaw(folder + QStringLiteral("/.sync"), "{\"address\": 12, \"items\"");
-    const auto restarted = open();
-    ASSERT_FALSE(restarted->refresh());
-    EXPECT_EQ(all(*restarted).size(), 1U);
-    EXPECT_EQ(filesOf(server.calendar("tv")).size(), 1U);
-}
-
-TEST_F(CalDAVEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
-{
-    for (unsigned seed = 0; seed < 2; ++seed) {
-        SeededRandom dice(seed);
-        const std::vector<const char*> devices{"a", "b"};
-        std::vector<std::unique_ptr<CalDAVEventStore>> stores;
-        for (const char* device : devices)
-            ASSERT_FALSE(stores.emplace_back(open(device))->refresh());
-        std::map<QString, QByteArray> foreign;
-        const QString folder = server.calendar("tv");
-        for (int step = 0; step < 40; ++step) {
-            auto& store = *stores[dice.uniform(2)];
-            session.fault = std::vector{Fault::None, Fault::None, Fault::Silence, Fault::LostReply}[dice.uniform(4)];
-            session.method = dice.uniform(2) ? "" : "PUT";
-            const QString name = QStringLiteral("w%1-%2.ics").arg(seed).arg(dice.uniform(5));
-            const Instant at = start + Seconds(1800) * dice.uniform(6);
-            const auto events = all(store);
-            const auto ours =
-                std::find_if(events.begin(), events.end(), [](const Event& each) { return each.url.has_value(); });
-            switch (dice.uniform(7)) {
-            case 0:
-                foreign[name] = foreignEvent(name.toUtf8(), "20261122T19" + QByteArray::number(10 + step % 50) + "00Z",
-                                             dice.uniform(2) ? "RRULE:FREQ=DAILY;COUNT=3\n" : "");
-                writeRaw(folder + QLatin1Char('/') + name, foreign[name]);
-                break;
-            case 1:
-                foreign.erase(name);
-                QFile::remove(folder + QLatin1Char('/') + name);
-                break;
-            case 2:
-            case 3:
-                save(store, QStringLiteral("Show"), at);
-                break;
-            case 4:
-                if (ours != events.end()) {
-                    Event event = *ours;
-                    event.title += QLatin1Char('!');
-                    store.saveEvent(event, EventSpan::ThisEvent);
-                }
-                break;
-            case 5:
-                if (ours != events.end())
-                    store.removeEvent(*ours, EventSpan::ThisEvent, true);
-                break;
-            default:
-                clock.advance(Seconds(3600));
-                store.refreshSourcesIfNecessary();
-            }
-        }
-        session.fault = Fault::None;
-        for (int round = 0; round < 2; ++round) {
-            for (const auto& store : stores)
-                EXPECT_FALSE(store->refresh());
-        }
-        auto present = filesOf(folder);
-        for (const auto& [name, bytes] : foreign)
-            EXPECT_EQ(present[name], bytes) << name.toStdString() << " seed " << seed;
-        std::set<QString> addresses;
-        for (const Event& event : all(*stores[0])) {
-            const bool first = !event.url || addresses.insert(event.url->text()).second;
-            EXPECT_TRUE(first) << "twice, seed " << seed;
-        }
-        EXPECT_EQ(present.size(), all(*stores[0]).size()) << "seed " << seed;
-        EXPECT_EQ(present.size(), all(*stores[1]).size()) << "seed " << seed;
-        EXPECT_EQ(present.size(), foreign.size() + addresses.size()) << "seed " << seed;
-        EXPECT_EQ(stores[0]->unsentChanges() + stores[1]->unsentChanges(), 0);
-        for (const auto& [name, bytes] : present)
-            QFile::remove(folder + QLatin1Char('/') + name);
-    }
 }
 
 /// A server that asks for a password, or sends whoever asks elsewhere.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ChildProcess.h"
+#include "platform/AtomicFile.h"
 #include "platform/Clock.h"
 #include "platform/EventStore.h"
 
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -44,6 +46,46 @@ public:
 
 private:
     std::mt19937_64 m_engine;
+};
+
+/// Fails at the given step, or loses everything from there on, as a kill does.
+class FaultyLayer final : public FileLayer
+{
+public:
+    int failingStep = -1;
+    bool killed = false;
+    bool kills = false;
+    int steps = 0;
+
+    int create(const QString& path, unsigned mode, int& d) override
+    {
+        return fails() ? ENOSPC : system().create(path, mode, d);
+    }
+    int write(int d, QByteArrayView bytes) override
+    {
+        if (!fails())
+            return system().write(d, bytes);
+        system().write(d, bytes.first(bytes.size() / 2));
+        return ENOSPC;
+    }
+    int sync(int d) override { return fails() ? EIO : system().sync(d); }
+    int close(int d) override
+    {
+        const bool failed = fails();
+        system().close(d);
+        return failed ? EIO : 0;
+    }
+    int rename(const QString& from, const QString& to) override { return fails() ? EIO : system().rename(from, to); }
+    int syncFolder(const QString& folder) override { return fails() ? EIO : system().syncFolder(folder); }
+    int remove(const QString& path) override { return fails() ? EIO : system().remove(path); }
+
+private:
+    bool fails()
+    {
+        if (steps++ == failingStep)
+            killed = kills;
+        return killed || steps - 1 == failingStep;
+    }
 };
 
 inline void writeRaw(const QString& path, const QByteArray& bytes)
