@@ -2,6 +2,7 @@
 
 #include "app/Device.h"
 #include "app/window/Appearance.h"
+#include "app/window/LauncherBadge.h"
 #include "app/window/ShowPictureLoader.h"
 #include "app/window/SingleInstance.h"
 #include "app/window/WindowImages.h"
@@ -63,13 +64,19 @@ public:
         ShowServices services = delegate().showServices();
         services.pictures = &m_pictures;
         delegate().setShowServices(services);
+        delegate().applicationIconBadge = [this](int count) { m_badge.setCount(count); };
+        delegate().updateBadge();
         prepareEngine(m_engine);
         m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures.shelf()));
         m_engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue<QObject*>(&m_model)}});
         m_engine.load(QUrl(modules + QLatin1String("/Vidora/Main.qml")));
     }
 
-    ~OpenWindow() { delegate().setShowServices({}); }
+    ~OpenWindow()
+    {
+        delegate().setShowServices({});
+        delegate().applicationIconBadge = {};
+    }
 
     bool isOpen() const { return !m_engine.rootObjects().isEmpty(); }
 
@@ -111,6 +118,7 @@ private:
     }
 
     Device& m_device;
+    LauncherBadge m_badge;
     ShowPictureLoader m_pictures;
     WindowModel m_model;
     Appearance m_appearance;
