@@ -16,6 +16,20 @@ ApplicationWindow {
     minimumHeight: 400
     visible: true
     color: Theme.groupedBackground
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+    palette {
+        window: Theme.groupedBackground
+        windowText: Theme.label
+        base: Theme.secondaryGroupedBackground
+        text: Theme.label
+        mid: Theme.lightGrey
+        dark: Theme.secondaryLabel
+        highlight: Theme.accent
+        highlightedText: Theme.accentText
+        toolTipBase: Theme.label
+        toolTipText: Theme.secondaryGroupedBackground
+    }
 
     onPadChanged: app.setPad(pad)
     onClosing: app.keepWindowSize(width, height)
@@ -81,6 +95,14 @@ ApplicationWindow {
             player: window.app.player
             title: window.app.playerTitle
             onClosed: window.app.closePlayer()
+        }
+    }
+    Loader {
+        active: window.app.popover !== null
+        sourceComponent: Popover {
+            screen: window.app.popover
+            visible: true
+            onLeft: if (window.app.popover === screen) window.app.back()
         }
     }
     AlertPanel {

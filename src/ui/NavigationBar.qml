@@ -8,10 +8,12 @@ Rectangle {
 
     required property var screen
     property bool canGoBack: false
+    /// Whether the way back is out of a panel.
+    property bool closable: false
     signal back()
 
-    implicitHeight: 52
-    color: Theme.barBackground
+    implicitHeight: Theme.barHeight
+    color: closable ? "transparent" : Theme.barBackground
 
     RowLayout {
         anchors.fill: parent
@@ -21,6 +23,7 @@ Rectangle {
         SymbolButton {
             visible: bar.canGoBack
             symbol: "back"
+            mirrors: true
             text: qsTranslate("vidora", "Back")
             onClicked: bar.back()
         }
@@ -64,10 +67,18 @@ Rectangle {
                     id: written
                     TextButton {
                         text: place.modelData.title
+                        description: place.modelData.description ?? ""
+                        symbol: "channels"
                         onClicked: bar.screen.pressBarButton(place.index)
                     }
                 }
             }
+        }
+        SymbolButton {
+            visible: bar.closable
+            symbol: "close"
+            text: qsTranslate("vidora", "Close")
+            onClicked: bar.back()
         }
     }
     Rectangle {

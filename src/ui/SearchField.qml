@@ -15,7 +15,7 @@ Rectangle {
         field.selectAll()
     }
 
-    implicitHeight: Theme.touchTarget
+    implicitHeight: Math.max(Theme.touchTarget, Theme.body + 24)
     radius: Theme.radius
     color: Theme.tertiaryFill
     border.width: field.activeFocus ? 2 : 0

@@ -16,7 +16,7 @@ Item {
         id: words
         x: header.side + 14
         y: 4
-        width: parent.width - x - header.side
+        width: parent.width - 2 * x
         text: header.title
         textFormat: Text.PlainText
         elide: Text.ElideRight

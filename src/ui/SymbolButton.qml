@@ -8,6 +8,8 @@ AbstractButton {
     property string symbol
     property color color: Theme.accent
     property int symbolSize: 24
+    /// Whether the drawing points in the direction of reading.
+    property bool mirrors: false
 
     implicitWidth: Theme.touchTarget
     implicitHeight: Theme.touchTarget
@@ -35,6 +37,7 @@ AbstractButton {
             name: button.symbol
             size: button.symbolSize
             color: button.color
+            mirror: button.mirrors && LayoutMirroring.enabled
         }
     }
 }

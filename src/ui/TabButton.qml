@@ -13,7 +13,7 @@ AbstractButton {
 
     readonly property color tint: current ? Theme.accent : Theme.secondaryLabel
 
-    implicitHeight: rail ? 72 : 56
+    implicitHeight: rail ? Math.max(72, Theme.tiny + 60) : Math.max(56, Theme.tiny + 45)
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     opacity: enabled ? 1 : 0.42
@@ -51,15 +51,15 @@ AbstractButton {
                 x: 16
                 y: -4
                 width: Math.max(height, badgeText.implicitWidth + 10)
-                height: 18
-                radius: 9
-                color: Theme.alarmRed
+                height: Math.max(18, badgeText.implicitHeight + 2)
+                radius: height / 2
+                color: Theme.destructive
                 Text {
                     id: badgeText
                     anchors.centerIn: parent
                     text: button.badge
                     textFormat: Text.PlainText
-                    color: Theme.dark ? "#17171c" : "#ffffff"
+                    color: Theme.destructiveText
                     font.pixelSize: Theme.tiny
                     font.bold: true
                 }

@@ -8,8 +8,8 @@ Rectangle {
     required property var app
     property bool rail: false
 
-    implicitWidth: rail ? 92 : 0
-    implicitHeight: rail ? 0 : 57
+    implicitWidth: rail ? Math.max(92, Theme.tiny * 8) : 0
+    implicitHeight: rail ? 0 : Math.max(57, Theme.tiny + 46)
     color: Theme.barBackground
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTranslate("vidora", "Tabs")

@@ -18,6 +18,7 @@ ItemDelegate {
     signal chosen()
     signal accessoryPressed()
     signal deletePressed()
+    signal menuWanted(real x, real y)
     signal moved(int to)
 
     readonly property bool isHeader: model.kind === "header"
@@ -37,6 +38,12 @@ ItemDelegate {
     Accessible.checked: model.accessory === "checkmark"
     Accessible.onPressAction: chosen()
     onClicked: if (model.selectable) chosen()
+    onPressAndHold: menuWanted(pressX, pressY)
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => row.menuWanted(point.position.x, point.position.y)
+    }
 
     background: Item {
         Rectangle {
@@ -156,6 +163,7 @@ ItemDelegate {
                     name: row.model.accessory === "checkmark" ? "checkmark" : "disclosure"
                     size: row.model.accessory === "checkmark" ? 22 : 16
                     color: row.model.accessory === "checkmark" ? Theme.accent : Theme.lightGrey
+                    mirror: row.model.accessory !== "checkmark" && LayoutMirroring.enabled
                 }
             }
         }

@@ -8,7 +8,11 @@ FocusScope {
 
     required property var screen
     readonly property bool canGoBack: !screen.root
+    property bool closable: false
     signal back()
+
+    /// As high as it must be to show all rows.
+    readonly property real wholeHeight: Theme.barHeight + list.contentHeight + list.topMargin + list.bottomMargin
 
     readonly property int side: Math.max(width < 700 ? 10 : Theme.margin, (width - Theme.readableWidth) / 2)
     readonly property bool refreshPulled: list.dragging && list.contentY - list.originY < -76
@@ -30,6 +34,7 @@ FocusScope {
             Layout.fillWidth: true
             screen: table.screen
             canGoBack: table.canGoBack
+            closable: table.closable
             onBack: table.back()
         }
         SearchField {
@@ -84,31 +89,50 @@ FocusScope {
                     ListView.onReused: table.screen.rowDisplayed(index)
                     width: ListView.view.width
                     height: heading.height + row.implicitHeight + (last ? 14 : 0)
+                    ListView.onPooled: pane.close()
                     SectionHeader {
                         id: heading
                         width: parent.width
                         side: table.side
                         title: place.first ? place.model.sectionTitle : ""
                     }
-                    TableRow {
-                        id: row
+                    SwipePane {
+                        id: pane
                         x: table.side
                         y: heading.height
-                        height: implicitHeight
-                        first: place.first
-                        last: place.last
                         width: parent.width - 2 * table.side
-                        index: place.index
-                        model: place.model
-                        screen: table.screen
-                        highlightedByKeys: place.ListView.isCurrentItem && list.activeFocus
-                        view: list
-                        onChosen: table.choose(place.index)
-                        onAccessoryPressed: table.screen.pressAccessory(place.index)
-                        onDeletePressed: table.screen.removeRow(place.index)
-                        onMoved: to => table.screen.moveRow(place.index, to)
+                        height: row.implicitHeight
+                        radius: place.first || place.last ? Theme.radius : 0
+                        swipeable: place.model.swipeable || place.model.deletable
+                        onUncovering: {
+                            if (list.openPane !== pane)
+                                list.openPane?.close()
+                            list.openPane = pane
+                            actions = table.actionsOf(place.index)
+                        }
+                        onPerformed: index => table.perform(place.index, index)
+                        TableRow {
+                            id: row
+                            width: parent.width
+                            height: implicitHeight
+                            first: place.first
+                            last: place.last
+                            index: place.index
+                            model: place.model
+                            screen: table.screen
+                            highlightedByKeys: place.ListView.isCurrentItem && list.activeFocus
+                            view: list
+                            onChosen: pane.isOpen ? pane.close() : table.choose(place.index)
+                            onAccessoryPressed: table.screen.pressAccessory(place.index)
+                            onDeletePressed: table.screen.removeRow(place.index)
+                            onMoved: to => table.screen.moveRow(place.index, to)
+                            onMenuWanted: (x, y) => table.openMenu(place.index, row, x, y)
+                        }
                     }
                 }
+
+                property SwipePane openPane: null
+                onMovementStarted: openPane?.close()
 
                 property bool wasPulled: false
                 onDraggingChanged: {
@@ -122,6 +146,7 @@ FocusScope {
                 Keys.onEnterPressed: table.choose(currentIndex)
                 Keys.onSpacePressed: table.choose(currentIndex)
                 Keys.onDeletePressed: if (currentIndex >= 0) table.screen.removeRow(currentIndex)
+                Keys.onMenuPressed: table.openMenu(currentIndex, currentItem, 40, Theme.touchTarget)
                 Keys.onPressed: event => {
                     const page = Math.max(1, Math.floor(height / 80))
                     const moving = event.modifiers & Qt.AltModifier
@@ -129,6 +154,8 @@ FocusScope {
                         table.screen.moveRow(currentIndex, currentIndex - 1)
                     else if (moving && event.key === Qt.Key_Down && currentIndex >= 0 && currentIndex < count - 1)
                         table.screen.moveRow(currentIndex, currentIndex + 1)
+                    else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+                        table.openMenu(currentIndex, currentItem, 40, Theme.touchTarget)
                     else if (event.key === Qt.Key_PageDown)
                         currentIndex = Math.min(count - 1, currentIndex + page)
                     else if (event.key === Qt.Key_PageUp)
@@ -161,10 +188,40 @@ FocusScope {
                 width: Math.min(parent.width - 48, 420)
                 visible: list.count === 0 && text !== ""
                 text: table.screen.placeholder
+                symbol: table.screen.searchable ? "search" : "currently"
+                action: table.screen.barButtons[addButton]?.title ?? ""
+                onActed: table.screen.pressBarButton(addButton)
+                readonly property int addButton: table.screen.barButtons.findIndex(button => button.symbol === "add")
             }
         }
     }
 
+    RowMenu {
+        id: menu
+        property int row: -1
+        onChosen: index => table.perform(row, index)
+    }
+
+    /// What a swipe on the row offers.
+    function actionsOf(index) {
+        const row = list.itemAtIndex(index)?.model
+        return row?.deletable ? [{title: qsTranslate("vidora", "Delete"), destructive: true}] : screen.swipeActions(index)
+    }
+    function perform(index, action) {
+        if (list.itemAtIndex(index)?.model.deletable)
+            screen.removeRow(index)
+        else
+            screen.performSwipe(index, action)
+    }
+    function openMenu(index, item, x, y) {
+        const actions = index >= 0 ? actionsOf(index) : []
+        if (actions.length === 0)
+            return
+        list.currentIndex = index
+        menu.row = index
+        menu.actions = actions
+        menu.popup(item, x, y)
+    }
     function choose(index) {
         if (index < 0)
             return

@@ -6,35 +6,56 @@ AbstractButton {
     id: button
 
     property bool prominent: false
+    property string symbol
+    property string description
 
-    implicitWidth: Math.max(Theme.touchTarget, label.implicitWidth + 28)
-    implicitHeight: Theme.touchTarget
+    readonly property color tint: prominent ? Theme.accentText : Theme.accent
+
+    readonly property int symbolWidth: symbol === "" ? 0 : 26
+
+    implicitWidth: Math.max(Theme.touchTarget, words.implicitWidth + symbolWidth + 28)
+    implicitHeight: Math.max(Theme.touchTarget, words.implicitHeight + 16)
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     Accessible.role: Accessible.Button
-    Accessible.name: text
+    Accessible.name: description || text
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
 
     background: Rectangle {
         anchors.fill: parent
-        anchors.topMargin: 2
-        anchors.bottomMargin: 2
+        anchors.topMargin: 4
+        anchors.bottomMargin: 4
         radius: Theme.radius
         color: button.prominent ? (button.pressed ? Qt.darker(Theme.accent, 1.15) : Theme.accent)
-             : button.pressed || button.hovered ? Theme.pressed : "transparent"
+             : button.pressed || button.hovered ? Theme.pressed
+             : button.symbol !== "" ? Theme.tertiaryFill : "transparent"
         border.width: button.visualFocus ? 2 : 0
         border.color: button.prominent ? Theme.label : Theme.focus
     }
-    contentItem: Text {
-        id: label
-        text: button.text
-        textFormat: Text.PlainText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
-        font.pixelSize: Theme.body
-        font.weight: Font.DemiBold
-        color: button.prominent ? Theme.accentText : Theme.accent
+    contentItem: Item {
+        Row {
+            anchors.centerIn: parent
+            spacing: 8
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: button.symbol !== ""
+                name: button.symbol
+                size: 18
+                color: button.tint
+            }
+            Text {
+                id: words
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, button.width - button.symbolWidth - 16)
+                text: button.text
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                font.pixelSize: Theme.body
+                font.weight: Font.DemiBold
+                color: button.tint
+                Accessible.ignored: true
+            }
+        }
     }
 }

@@ -6,7 +6,7 @@ Item {
 
     required property var progress
 
-    implicitHeight: progress.running ? 22 : 0
+    implicitHeight: progress.running ? words.implicitHeight + 9 : 0
     clip: true
     Behavior on implicitHeight { NumberAnimation { duration: 180; easing.type: Easing.OutCubic } }
     Accessible.role: Accessible.ProgressBar
