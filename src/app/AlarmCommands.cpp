@@ -3,6 +3,7 @@
 #include "app/ChannelNames.h"
 #include "app/ShowPrinter.h"
 #include "platform/DeviceSettings.h"
+#include "platform/Localized.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -170,10 +171,12 @@ QString AlarmRun::described(const Favorite& favorite) const
 {
     if (favorite.minutes() < 0)
         return favorite.identificator();
-    const QString text = !favorite.previouslyShown()   ? translated("%1: alarm %2 minutes ahead of each broadcast")
-                         : *favorite.previouslyShown() ? translated("%1: alarm %2 minutes ahead of each replay")
-                                                       : translated("%1: alarm %2 minutes ahead of each premiere");
-    return text.arg(favorite.identificator(), QString::number(favorite.minutes()));
+    const auto minutes = static_cast<std::size_t>(favorite.minutes());
+    const QString text =
+        !favorite.previouslyShown()   ? localized("%1: alarm %n minutes ahead of each broadcast", minutes)
+        : *favorite.previouslyShown() ? localized("%1: alarm %n minutes ahead of each replay", minutes)
+                                      : localized("%1: alarm %n minutes ahead of each premiere", minutes);
+    return text.arg(favorite.identificator());
 }
 
 QJsonObject AlarmRun::json(const Favorite& favorite)
@@ -320,7 +323,7 @@ void AlarmRun::alarm()
     const TVEntry& entry = *show->entry;
     const Instant start = *entry.dateTime();
     if (start - std::chrono::minutes(lead) <= m_device.clock().now())
-        throw Refusal{translated("It is too late for an alarm %1 minutes ahead.").arg(lead)};
+        throw Refusal{localized("It is too late for an alarm %n minutes ahead.", static_cast<std::size_t>(lead))};
     const QString title = entry.identificator().value_or(QString());
     // What belongs to no favourite goes with the next synchronisation that finds favourites.
     const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
@@ -332,7 +335,7 @@ void AlarmRun::alarm()
     settle();
     if (m_engine.alarmedEntry(entry) < 0)
         throw Refusal{translated("No alarm was set: no calendar can be written.")};
-    QString text = translated("Alarm %1 minutes ahead: %2").arg(lead).arg(lineOf(show));
+    QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show));
     if (!isFollowed)
         text += QLatin1Char('\n') + translated("A favourite: %1").arg(title);
     answer(text, {{QStringLiteral("minutes"), lead},

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
-#include <QCoreApplication>
+#include "platform/Localized.h"
+
 #include <QHash>
 
 namespace vidora {
@@ -106,7 +107,7 @@ private:
         else if (const auto hasValue = takesValue(name); hasValue && (*hasValue || equals < 0))
             line.options.insert(name, *hasValue ? valueOf(name, argument, equals).value_or(QString()) : QString());
         else
-            fail(QCoreApplication::translate("vidora", "Unknown option %1.").arg(name));
+            fail(localized("Unknown option %1.").arg(name));
     }
 
     std::optional<QString> valueOf(const QString& name, const QString& argument, qsizetype equals)
@@ -115,7 +116,7 @@ private:
             return argument.mid(equals + 1);
         if (equals < 0 && m_next < m_arguments.size())
             return m_arguments.at(m_next++);
-        fail(QCoreApplication::translate("vidora", "%1 needs a value.").arg(name));
+        fail(localized("%1 needs a value.").arg(name));
         return std::nullopt;
     }
 
@@ -125,7 +126,7 @@ private:
             return;
         m_result.line.clock = instantFromIsoText(*text);
         if (!m_result.line.clock)
-            fail(QCoreApplication::translate("vidora", "--clock takes a time such as 2026-11-22T19:00:00Z."));
+            fail(localized("--clock takes a time such as 2026-11-22T19:00:00Z."));
     }
 
     void checkCommand()
@@ -135,16 +136,15 @@ private:
             return;
         const auto arity = commands().constFind(line.command);
         if (arity == commands().cend())
-            fail(QCoreApplication::translate("vidora", "Unknown command %1.").arg(line.command));
+            fail(localized("Unknown command %1.").arg(line.command));
         else if (line.arguments.size() < arity->least)
-            fail(QCoreApplication::translate("vidora", "%1 needs an argument.").arg(line.command));
+            fail(localized("%1 needs an argument.").arg(line.command));
         else if (line.arguments.size() > arity->most)
-            fail(QCoreApplication::translate("vidora", "%1 does not take \"%2\".")
-                     .arg(line.command, line.arguments.at(arity->most)));
+            fail(localized("%1 does not take \"%2\".").arg(line.command, line.arguments.at(arity->most)));
         const auto allowed = optionsOfCommands().value(line.command);
         for (auto option = line.options.keyBegin(); option != line.options.keyEnd(); ++option) {
             if (!allowed.contains(*option))
-                fail(QCoreApplication::translate("vidora", "%1 does not take %2.").arg(line.command, *option));
+                fail(localized("%1 does not take %2.").arg(line.command, *option));
         }
     }
 
@@ -161,46 +161,6 @@ private:
 CommandLineResult readCommandLine(const QStringList& arguments)
 {
     return Reader(arguments).read();
-}
-
-QString commandLineHelp()
-{
-    return QCoreApplication::translate("vidora",
-                                       "Usage: vidora [COMMAND] [OPTION]...\n"
-                                       "\n"
-                                       "Without a command: the window; without a display, what is on now, after an\n"
-                                       "update where one is due.\n"
-                                       "\n"
-                                       "  now               what is on now and next on the chosen channels\n"
-                                       "  channel X         all coming shows of a channel, by days\n"
-                                       "  category X        coming shows of a category\n"
-                                       "  search TEXT       coming shows that contain a text\n"
-                                       "  channels          the catalogue, the chosen channels marked\n"
-                                       "  select X...       choose channels\n"
-                                       "  unselect X...     give channels up\n"
-                                       "  update            fetch what is missing or old\n"
-                                       "  import ADDRESS    use an XMLTV guide of your own: an address or a file\n"
-                                       "\n"
-                                       "  favourite X       follow a title; --alarm MINUTES rings ahead of each\n"
-                                       "                    broadcast, of --premieres or --replays only\n"
-                                       "  unfavourite X     follow it no longer, and remove its alarms\n"
-                                       "  favourites        the titles that are followed\n"
-                                       "  alarm X --at TIME [--on CHANNEL] [--before MINUTES]\n"
-                                       "                    ring ahead of one broadcast of a favourite\n"
-                                       "  unalarm X [--at TIME] [--on CHANNEL]\n"
-                                       "                    remove the alarm of one broadcast, or of all\n"
-                                       "  alerts            the broadcasts of favourites that will ring\n"
-                                       "  silent-hours [off | FROM TO]\n"
-                                       "                    when favourites must not ring\n"
-                                       "  calendars [X]     the calendars, or choose the one for alarms\n"
-                                       "\n"
-                                       "X is a title, a part of it that only one has, or an id.\n"
-                                       "\n"
-                                       "  --json            answers for programs\n"
-                                       "  --home DIR        keep everything in this folder\n"
-                                       "  --clock TIME      the guide as at another moment: 2026-11-22T19:00:00Z\n"
-                                       "  --log             say on standard error what was fetched and found\n"
-                                       "  --self-test       load every part of the window and quit\n");
 }
 
 } // namespace vidora

@@ -7,6 +7,7 @@
 #include "app/Progress.h"
 #include "app/ShowPrinter.h"
 #include "content/TVListingsCategory.h"
+#include "platform/Localized.h"
 #include "platform/Log.h"
 #include "screens/AllChannelsViewController.h"
 #include "screens/ChannelViewController.h"
@@ -313,7 +314,7 @@ int CommandRun::select()
             selection.push_back(id);
     }
     delegate().channels().setSelected(selection);
-    say(translated("%1 channels are chosen.").arg(selection.size()));
+    say(localized("%n channels are chosen.", selection.size()));
     return 0;
 }
 
@@ -328,7 +329,7 @@ int CommandRun::unselect()
     delegate().channels().setSelected(selection);
     for (const ObjectId& id : *named)
         delegate().listings().removeListingsForChannel(id);
-    say(translated("%1 channels are chosen.").arg(selection.size()));
+    say(localized("%n channels are chosen.", selection.size()));
     return 0;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/ShowPrinter.h"
 #include "core/GuideImport.h"
+#include "platform/Localized.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -46,12 +47,14 @@ QString skippedText(const GuideSummary& guide)
     QString text;
     const auto add = [&](std::size_t count, const char* what) {
         if (count > 0)
-            text += translated(what).arg(count) + QLatin1Char('\n');
+            text += localized(what, count) + QLatin1Char('\n');
     };
-    add(guide.channelsWithoutId, "Skipped: %1 channels without an id.");
-    add(guide.channelsTwice, "Skipped: %1 channels whose id was there already.");
-    add(guide.programmesWithoutTimes, "Skipped: %1 programmes without a start and an end with an offset.");
-    add(guide.programmesOfUnknownChannels, "Skipped: %1 programmes of channels that the guide does not list.");
+    add(guide.channelsWithoutId, QT_TRANSLATE_N_NOOP("vidora", "Skipped: %n channels without an id."));
+    add(guide.channelsTwice, QT_TRANSLATE_N_NOOP("vidora", "Skipped: %n channels whose id was there already."));
+    add(guide.programmesWithoutTimes,
+        QT_TRANSLATE_N_NOOP("vidora", "Skipped: %n programmes without a start and an end with an offset."));
+    add(guide.programmesOfUnknownChannels,
+        QT_TRANSLATE_N_NOOP("vidora", "Skipped: %n programmes of channels that the guide does not list."));
     return text;
 }
 
@@ -78,8 +81,8 @@ QString reportText(const ImportReport& report, std::size_t stillSelected)
                        .arg(report.guide.days) +
                    QLatin1Char('\n') + skippedText(report.guide);
     text += stillSelected > 0
-                ? translated("%1 of the channels chosen before are in it; \"vidora update\" reads their shows.")
-                      .arg(stillSelected)
+                ? localized("%n of the channels chosen before are in it; \"vidora update\" reads their shows.",
+                            stillSelected)
                 : translated("Choose channels with \"vidora select X...\", then \"vidora update\".");
     return text + QLatin1Char('\n');
 }

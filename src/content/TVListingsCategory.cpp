@@ -216,25 +216,27 @@ struct Label
 QString textForCategory(std::int32_t category)
 {
     using namespace category;
-    static constexpr Label lists[] = {
-        {all, "All Shows"}, {film, "Feature Films"}, {evening, "Evening Shows"}, {popular, "Most Watched"}};
-    static constexpr Label bits[] = {{documentaries, "Documentaries"},
-                                     {children, "For Children"},
-                                     {news, "News"},
-                                     {entertainment, "Entertainment"},
-                                     {music, "Music"},
-                                     {sports, "Sports"},
-                                     {comedies, "Comedies"},
-                                     {adventure, "Adventure"},
-                                     {crime, "Crime"},
-                                     {westerns, "Westerns"},
-                                     {dramas, "Dramas"},
-                                     {thrillers, "Thrillers"},
-                                     {scienceFiction, "SF"},
-                                     {fantasy, "Fantasy"},
-                                     {horrors, "Horrors"},
-                                     {movies, "Movies"},
-                                     {series, "TV Series"}};
+    static constexpr Label lists[] = {{all, QT_TRANSLATE_NOOP("vidora", "All Shows")},
+                                      {film, QT_TRANSLATE_NOOP("vidora", "Feature Films")},
+                                      {evening, QT_TRANSLATE_NOOP("vidora", "Evening Shows")},
+                                      {popular, QT_TRANSLATE_NOOP("vidora", "Most Watched")}};
+    static constexpr Label bits[] = {{documentaries, QT_TRANSLATE_NOOP("vidora", "Documentaries")},
+                                     {children, QT_TRANSLATE_NOOP("vidora", "For Children")},
+                                     {news, QT_TRANSLATE_NOOP("vidora", "News")},
+                                     {entertainment, QT_TRANSLATE_NOOP("vidora", "Entertainment")},
+                                     {music, QT_TRANSLATE_NOOP("vidora", "Music")},
+                                     {sports, QT_TRANSLATE_NOOP("vidora", "Sports")},
+                                     {comedies, QT_TRANSLATE_NOOP("vidora", "Comedies")},
+                                     {adventure, QT_TRANSLATE_NOOP("vidora", "Adventure")},
+                                     {crime, QT_TRANSLATE_NOOP("vidora", "Crime")},
+                                     {westerns, QT_TRANSLATE_NOOP("vidora", "Westerns")},
+                                     {dramas, QT_TRANSLATE_NOOP("vidora", "Dramas")},
+                                     {thrillers, QT_TRANSLATE_NOOP("vidora", "Thrillers")},
+                                     {scienceFiction, QT_TRANSLATE_NOOP("vidora", "SF")},
+                                     {fantasy, QT_TRANSLATE_NOOP("vidora", "Fantasy")},
+                                     {horrors, QT_TRANSLATE_NOOP("vidora", "Horrors")},
+                                     {movies, QT_TRANSLATE_NOOP("vidora", "Movies")},
+                                     {series, QT_TRANSLATE_NOOP("vidora", "TV Series")}};
     const auto mask = TVListingsCategory(category);
     for (const Label& label : lists)
         if (mask == label.category)

@@ -1,8 +1,7 @@
 #include "platform/NetworkAlerts.h"
 
 #include "platform/DispatchQueue.h"
-
-#include <QCoreApplication>
+#include "platform/Localized.h"
 
 namespace vidora {
 
@@ -10,19 +9,13 @@ namespace {
 
 constexpr std::int64_t quietSeconds = 60;
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("vidora", text);
-}
-
 Alert alertFor(const URLError& error)
 {
-    static const char* const title = QT_TRANSLATE_NOOP("vidora", "Unable to establish connection to remote server");
-    static const char* const message = QT_TRANSLATE_NOOP("vidora", "Check your Internet connection.");
-    static const char* const ok = QT_TRANSLATE_NOOP("vidora", "OK");
-    return {error.localizedFailureReason.isEmpty() ? translated(title) : error.localizedFailureReason,
-            error.localizedRecoverySuggestion.isEmpty() ? translated(message) : error.localizedRecoverySuggestion,
-            {AlertAction{translated(ok), {}}}};
+    return {error.localizedFailureReason.isEmpty() ? localized("Unable to establish connection to remote server")
+                                                   : error.localizedFailureReason,
+            error.localizedRecoverySuggestion.isEmpty() ? localized("Check your Internet connection.")
+                                                        : error.localizedRecoverySuggestion,
+            {AlertAction{localized("OK"), {}}}};
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace vidora {
 
 namespace {
 
-const QString other = QStringLiteral("Other");
+const QString other = QString::fromLatin1(QT_TRANSLATE_NOOP("vidora", "Other"));
 
 bool titleLess(const QString& a, const QString& b)
 {

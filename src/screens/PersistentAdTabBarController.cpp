@@ -20,20 +20,23 @@ struct TabContent
 
 std::shared_ptr<ScreenModel> laterScreen(const char* title)
 {
-    return std::make_shared<PlainViewController>(title, "This page comes with a later version.");
+    return std::make_shared<PlainViewController>(title,
+                                                 QT_TRANSLATE_NOOP("vidora", "This page comes with a later version."));
 }
 
 std::vector<TabContent> contentOfTabs(bool isPad)
 {
     std::vector<TabContent> tabs{
-        {"Currently", "currently", [](auto& delegate) { return std::make_shared<RootViewController>(delegate); }},
-        {"Categories", "categories", [](auto&) { return laterScreen("Categories"); }},
-        {"Search", "search", [](auto&) { return laterScreen("Search"); }},
-        {"Schedule", "schedule", [](auto&) { return laterScreen("Schedule"); }},
-        {"Channels", "channels",
+        {QT_TRANSLATE_NOOP("vidora", "Currently"), "currently",
+         [](auto& delegate) { return std::make_shared<RootViewController>(delegate); }},
+        {QT_TRANSLATE_NOOP("vidora", "Categories"), "categories", [](auto&) { return laterScreen("Categories"); }},
+        {QT_TRANSLATE_NOOP("vidora", "Search"), "search", [](auto&) { return laterScreen("Search"); }},
+        {QT_TRANSLATE_NOOP("vidora", "Schedule"), "schedule", [](auto&) { return laterScreen("Schedule"); }},
+        {QT_TRANSLATE_NOOP("vidora", "Channels"), "channels",
          [](auto& delegate) { return std::make_shared<EditChannelListViewController>(delegate); }}};
     if (isPad)
-        tabs.insert(tabs.begin(), {"All Shows", "allshows", [](auto&) { return laterScreen("All Shows"); }});
+        tabs.insert(tabs.begin(), {QT_TRANSLATE_NOOP("vidora", "All Shows"), "allshows",
+                                   [](auto&) { return laterScreen("All Shows"); }});
     return tabs;
 }
 

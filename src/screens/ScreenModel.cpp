@@ -1,13 +1,6 @@
 #include "screens/ScreenModel.h"
 
-#include <QCoreApplication>
-
 namespace vidora {
-
-QString localized(const char* key)
-{
-    return QCoreApplication::translate("vidora", key);
-}
 
 QString ScreenModel::titleForHeaderInSection(std::size_t) const
 {

@@ -3,6 +3,7 @@
 #include "content/AttributedText.h"
 #include "content/ShowElement.h"
 #include "core/ShowServices.h"
+#include "platform/Localized.h"
 #include "platform/ViewControllers.h"
 #include "screens/ColourRoles.h"
 
@@ -170,8 +171,5 @@ private:
     ScreenView* m_view = nullptr;
     bool m_isViewLoaded = false;
 };
-
-/// A text of the program in the user's language; the key is the English text.
-QString localized(const char* key);
 
 } // namespace vidora

@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/Translations.h"
 #include "app/window/StreamMediaPlayer.h"
 #include "app/window/Window.h"
 
@@ -19,6 +20,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("vidora"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tv.ostrel.vidora"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vidora"));
+    const vidora::Translations translations = vidora::Translations::ofEnvironment();
     const vidora::CommandLineResult read = vidora::readCommandLine(QCoreApplication::arguments().mid(1));
     if (read.error) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(*read.error));

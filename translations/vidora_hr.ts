@@ -1,0 +1,703 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hr_HR">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Učitavanje</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Natrag</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Prijenos ne odgovara.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Povezivanje</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauza</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproduciraj</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Glasnoća</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Premjesti: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Traži</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Slova</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Kartice</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Ukloni: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Reproduciraj: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>Kanali: %1 od %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 traži broj minuta od 0 do %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: alarm %n minutu prije svakog emitiranja</numerusform>
+            <numerusform>%1: alarm %n minute prije svakog emitiranja</numerusform>
+            <numerusform>%1: alarm %n minuta prije svakog emitiranja</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: alarm %n minutu prije svake reprize</numerusform>
+            <numerusform>%1: alarm %n minute prije svake reprize</numerusform>
+            <numerusform>%1: alarm %n minuta prije svake reprize</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: alarm %n minutu prije svake premijere</numerusform>
+            <numerusform>%1: alarm %n minute prije svake premijere</numerusform>
+            <numerusform>%1: alarm %n minuta prije svake premijere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>--premieres i --replays međusobno se isključuju.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>--premieres i --replays odnose se na alarme: nedostaje --alarm MINUTE.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Dodavanje nije uspjelo: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Omiljeno: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Zasad nije najavljeno nijedno emitiranje ovog naslova.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 je među omiljenima, ali nema kalendara u koji se mogu upisati alarmi.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Više nije omiljeno: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Još nema omiljenih. &quot;vidora favourite X&quot; dodaje emisiju.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>--at traži vrijeme kao što je 20:00 ili 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Nedostaje --at VRIJEME: kada emisija počinje.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>Tada ne počinje nijedno nadolazeće emitiranje naslova &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Odgovara više emitiranja; --on KANAL ili duži dio naslova kaže koje:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>Prekasno je za alarm %n minutu ranije.</numerusform>
+            <numerusform>Prekasno je za alarm %n minute ranije.</numerusform>
+            <numerusform>Prekasno je za alarm %n minuta ranije.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Alarm nije postavljen: nema kalendara u koji se može upisivati.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Alarm %n minutu ranije: %1</numerusform>
+            <numerusform>Alarm %n minute ranije: %1</numerusform>
+            <numerusform>Alarm %n minuta ranije: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Više nema alarma: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>Alarm je uklonjen: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Nema alarma.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>silent-hours traži dva vremena kao što su 00:00 07:00, ili &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>Omiljene emisije ne zvone između %1 i %2.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Nema tihih sati.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>Razdoblje koje prelazi ponoć ili nema trajanja utišava ih u svako doba dana.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Prije promjene kalendara morate ukloniti sve alarme</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>Kalendari se nalaze u %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>Ne postoji &quot;%1&quot;. Postoje: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; može biti: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Nepoznata opcija %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 traži vrijednost.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>--clock traži vrijeme kao što je 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Nepoznata naredba %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 traži argument.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 ne prima &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 ne prima %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>što je sada i što slijedi na odabranim kanalima</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>sve nadolazeće emisije jednog kanala, po danima</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>nadolazeće emisije jedne kategorije</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search TEKST</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>nadolazeće emisije koje sadrže tekst</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>katalog, s označenim odabranim kanalima</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>odaberi kanale</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>ukloni kanale iz odabira</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>preuzmi ono što nedostaje ili je staro</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import ADRESA</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>koristi vlastiti XMLTV vodič: adresa ili datoteka</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>prati naslov; --alarm MINUTE zvoni prije svakog emitiranja, ili samo --premieres odnosno --replays</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>ne prati ga više i ukloni njegove alarme</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>naslovi koji se prate</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at VRIJEME [--on KANAL] [--before MINUTE]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at VRIJEME] [--on KANAL]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>ukloni alarm jednog emitiranja ili svih</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>emitiranja omiljenih emisija koja će zvoniti</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | OD DO]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>kada omiljene emisije ne smiju zvoniti</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>kalendari, ili odabir onoga za alarme</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>odgovori za programe</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home MAPA</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>čuvaj sve u ovoj mapi</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock VRIJEME</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>vodič kao u nekom drugom trenutku: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>prijavi na standardni izlaz za pogreške što je preuzeto i nađeno</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>učitaj svaki dio prozora i završi</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Bez naredbe: prozor; bez zaslona, ono što je sada na programu, po potrebi nakon osvježavanja.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X je naslov, njegov dio koji ima samo jedan, ili ID.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Uporaba: vidora [NAREDBA] [OPCIJA]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Još nije odabran nijedan kanal. &quot;vidora channels&quot; ih nabraja, &quot;vidora select X...&quot; odabire.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Ovo je prvi pogled na izmišljenu regiju, s prvih %1 od njezina %2 kanala. &quot;vidora import&quot; čita vaš vlastiti vodič.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Sve je ažurno.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Osvježeno kanala: %1 od %2, emisija: %3.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Ništa nije stiglo za: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Nema programa.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Nema emisija.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>Odabran je %n kanal.</numerusform>
+            <numerusform>Odabrana su %n kanala.</numerusform>
+            <numerusform>Odabrano je %n kanala.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>Katalog vašeg vodiča ne može se pročitati; ponovno uvezite vodič.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Ovaj uređaj</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Upis u %1 nije moguć: ništa neće biti sačuvano.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Drugi vidora (proces %1) koristi ovu mapu; prikazuje se ono što on ima.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Drugi vidora (proces %1) koristi ovu mapu; čeka se da završi.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>Ogledna regija nije se mogla pokrenuti; --log kaže zašto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Preskočeno: %n kanal bez ID-a.</numerusform>
+            <numerusform>Preskočeno: %n kanala bez ID-a.</numerusform>
+            <numerusform>Preskočeno: %n kanala bez ID-a.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Preskočeno: %n kanal čiji ID već postoji.</numerusform>
+            <numerusform>Preskočeno: %n kanala čiji ID već postoji.</numerusform>
+            <numerusform>Preskočeno: %n kanala čiji ID već postoji.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Preskočeno: %n emisija bez početka i kraja s odmakom od UTC-a.</numerusform>
+            <numerusform>Preskočeno: %n emisije bez početka i kraja s odmakom od UTC-a.</numerusform>
+            <numerusform>Preskočeno: %n emisija bez početka i kraja s odmakom od UTC-a.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Preskočeno: %n emisija kanala kojih nema u vodiču.</numerusform>
+            <numerusform>Preskočeno: %n emisije kanala kojih nema u vodiču.</numerusform>
+            <numerusform>Preskočeno: %n emisija kanala kojih nema u vodiču.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>Kanala: %1, emisija: %2, dana: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>%n od prije odabranih kanala je u njemu; &quot;vidora update&quot; čita njegove emisije.</numerusform>
+            <numerusform>%n od prije odabranih kanala su u njemu; &quot;vidora update&quot; čita njihove emisije.</numerusform>
+            <numerusform>%n od prije odabranih kanala je u njemu; &quot;vidora update&quot; čita njihove emisije.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Odaberite kanale s &quot;vidora select X...&quot;, a zatim &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>čitanje: %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>ikone: %1 od %2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Ovdje nema prozora.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Sve emisije</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Igrani filmovi</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Večernji program</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Najgledanije</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumentarni program</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Za djecu</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Vijesti</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Zabava</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Glazba</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Komedije</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Pustolovine</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimići</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Vesterni</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drame</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Trileri</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Znanstvena fantastika</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantastika</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horori</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmovi</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Serije</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 nije dostupno: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 je odgovorio statusom %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 je prazno.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 ima nepoznato kodiranje.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 nije adresa vodiča: potreban je http, https ili datoteka.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 nije XMLTV vodič.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>Vodič na %1 nema kanala.</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Uvoz je prekinut; ostaje dosadašnji vodič.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>Katalog se ne može zapisati: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Veza s udaljenim poslužiteljem nije uspostavljena</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Provjerite internetsku vezu.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>U redu</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Nema kanala.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Nema kanala s tim imenom ili jezikom.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Svi kanali</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Ostalo</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanali</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Osvježi</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Dodaj kanale</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Ukloni sve kanale</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Još nije odabran nijedan kanal. Dodajte one koje želite vidjeti.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Ova stranica stiže u nekoj od sljedećih inačica.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Trenutno</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorije</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Raspored</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>Na kartici &quot;Kanali&quot; odaberite kanale koje želite vidjeti.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Osvježeno </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Obavijest</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Prijenos ovog videa trenutno nije dostupan ili brzina vaše internetske veze nije dovoljna.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Sva emitiranja ove omiljene emisije imaju alarm: sljedeće osvježavanje ponovno ga postavlja.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>zvoni prije jednog emitiranja omiljene emisije</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Popis kanala</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,681 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hu_HU">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Betöltés</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Vissza</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Az adatfolyam nem válaszol.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Kapcsolódás</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Szünet</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lejátszás</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hangerő</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Bezárás</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Áthelyezés: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Betűk</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Lapok</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Törlés: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Lejátszás: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>%1/%2 csatorna</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 0 és %2 közötti percszámot vár.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: riasztás %n perccel minden adás előtt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: riasztás %n perccel minden ismétlés előtt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: riasztás %n perccel minden bemutató előtt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>A --premieres és a --replays kizárja egymást.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>A --premieres és a --replays riasztásokra vonatkozik: hiányzik az --alarm PERC.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Nem sikerült felvenni: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Kedvenc: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Jelenleg egyetlen adás sem szerepel ezzel a címmel.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 a kedvencek közé került, de nincs írható naptár a riasztásaihoz.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Már nem kedvenc: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Még nincs kedvenc. A &quot;vidora favourite X&quot; vesz fel egyet.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>Az --at időpontot vár, például 20:00 vagy 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Hiányzik az --at IDŐ: mikor kezdődik az adás.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>Akkor nem kezdődik &quot;%1&quot; című adás.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Több adás is illik rá; az --on CSATORNA vagy a cím hosszabb része megmondja, melyik:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>A %n perccel korábbi riasztáshoz már késő van.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Nem állítható be riasztás: nincs írható naptár.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Riasztás %n perccel előbb: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Nincs több riasztás: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>A riasztás törölve: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Nincs riasztás.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>A silent-hours két időpontot vár, például 00:00 07:00, vagy azt, hogy &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>A kedvencek %1 és %2 között nem jeleznek.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Nincsenek csendes órák.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>Az éjfélen átnyúló vagy nulla hosszúságú időszak a nap minden percében elnémítja őket.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Naptárváltás előtt minden riasztást törölni kell</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>A naptárak helye: %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>Nincs ilyen: &quot;%1&quot;. Ezek vannak: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; ezek egyike lehet: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Ismeretlen kapcsoló: %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 értéket vár.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>A --clock időpontot vár, például 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Ismeretlen parancs: %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 argumentumot vár.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 nem fogadja el ezt: &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 nem fogadja el ezt: %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>mi megy most és mi következik a kiválasztott csatornákon</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>egy csatorna összes következő műsora, napok szerint</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>egy kategória következő műsorai</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search SZÖVEG</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>következő műsorok, amelyekben előfordul egy szöveg</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>a katalógus, megjelölve a kiválasztott csatornákkal</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>csatornák kiválasztása</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>csatornák elhagyása</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>a hiányzó vagy elavult adatok letöltése</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import CÍM</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>saját XMLTV-műsorújság használata: cím vagy fájl</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>egy cím követése; az --alarm PERC minden adás előtt jelez, vagy csak --premieres, illetve --replays esetén</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>követés megszüntetése, riasztásaival együtt</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>a követett címek</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at IDŐ [--on CSATORNA] [--before PERC]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at IDŐ] [--on CSATORNA]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>egy adás vagy az összes riasztásának törlése</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>a kedvencek adásai, amelyek jelezni fognak</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | ETTŐL EDDIG]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>mikor ne jelezzenek a kedvencek</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>a naptárak, vagy a riasztások naptárának kiválasztása</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>válaszok programok számára</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home MAPPA</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>minden adat ebben a mappában</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock IDŐ</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>a műsor egy másik időpontban: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>kiírja a hibakimenetre, mi lett letöltve és mit tartalmazott</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>az ablak minden részének betöltése, majd kilépés</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Parancs nélkül: az ablak; kijelző nélkül a most futó műsorok, szükség esetén frissítés után.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X egy cím, annak egyértelmű része vagy egy azonosító.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Használat: vidora [PARANCS] [KAPCSOLÓ]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Még nincs kiválasztott csatorna. A &quot;vidora channels&quot; felsorolja, a &quot;vidora select X...&quot; kiválasztja őket.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Ez egy kitalált régió, csatornáiból az első %1 látható (összesen %2). A &quot;vidora import&quot; saját műsorújságot olvas be.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Minden naprakész.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Frissítve %1/%2 csatorna, %3 műsor.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Semmi nem érkezett ezekhez: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Nincs műsor.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Nincsenek műsorok.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>%n csatorna van kiválasztva.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>A műsorújság katalógusa nem olvasható; importálja újra a műsorújságot.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Ez az eszköz</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Nem írható: %1; semmi sem lesz megőrizve.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Egy másik vidora (%1. folyamat) használja ezt a mappát; az látszik, ami abban van.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Egy másik vidora (%1. folyamat) használja ezt a mappát; várakozás.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>A mintarégió nem indult el; a --log megmondja, miért.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Kihagyva: %n azonosító nélküli csatorna.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Kihagyva: %n csatorna, amelynek azonosítója már szerepelt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Kihagyva: %n műsor időeltolásos kezdet és vég nélkül.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Kihagyva: %n műsor olyan csatornáról, amelyet a műsorújság nem sorol fel.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>%1 csatorna, %2 műsor, %3 nap.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>A korábban kiválasztott csatornák közül %n szerepel benne; a &quot;vidora update&quot; beolvassa a műsoraikat.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Válasszon csatornákat: &quot;vidora select X...&quot;, majd &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>beolvasás: %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>ikonok: %1/%2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Itt nincs ablak.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Minden műsor</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Játékfilmek</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Esti műsor</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Legnézettebb</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumentumfilmek</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Gyerekeknek</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Hírek</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Szórakoztató</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Zene</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Vígjátékok</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Kaland</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimi</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Westernek</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drámák</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Thrillerek</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Sci-fi</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantasy</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horror</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmek</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Sorozatok</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 nem érhető el: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 válaszának állapotkódja: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 üres.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 kódolása ismeretlen.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 nem műsorújság címe: http, https vagy fájl kell.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 nem XMLTV-műsorújság.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>A műsorújságban nincs csatorna: %1</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Az importálás megszakadt; a korábbi műsorújság marad.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>A katalógus nem írható: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nem sikerült kapcsolódni a távoli kiszolgálóhoz</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Ellenőrizze az internetkapcsolatot.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Nincsenek csatornák.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Nincs ilyen nevű vagy nyelvű csatorna.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Minden csatorna</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Egyéb</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Csatornák</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Frissítés</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Csatornák felvétele</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Minden csatorna eltávolítása</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Még nincs kiválasztott csatorna. Vegye fel azokat, amelyeket látni szeretne.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Ez az oldal egy későbbi változatban lesz elérhető.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Most</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategóriák</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Ütemterv</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>A &quot;Csatornák&quot; lapon válassza ki azokat a csatornákat, amelyeket látni szeretne.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Frissítve: </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Értesítés</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>A videó jelenleg nem érhető el, vagy az internetkapcsolat sebessége nem megfelelő.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Ennek a kedvencnek minden adásához tartozik riasztás: a következő frissítés újra beállítja.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>jelzés egy kedvenc egyetlen adása előtt</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Csatornalista</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

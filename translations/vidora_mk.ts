@@ -1,0 +1,703 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="mk_MK">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Вчитување</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Преносот не одговара.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Поврзување</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Пушти</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Јачина на звукот</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Затвори</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Премести: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Барај</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Откажи</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Букви</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Картички</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Отстрани: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Пушти: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>Канали: %1 од %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 бара број на минути од 0 до %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: аларм %n минута пред секое емитување</numerusform>
+            <numerusform>%1: аларм %n минути пред секое емитување</numerusform>
+            <numerusform>%1: аларм %n минути пред секое емитување</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: аларм %n минута пред секоја реприза</numerusform>
+            <numerusform>%1: аларм %n минути пред секоја реприза</numerusform>
+            <numerusform>%1: аларм %n минути пред секоја реприза</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: аларм %n минута пред секоја премиера</numerusform>
+            <numerusform>%1: аларм %n минути пред секоја премиера</numerusform>
+            <numerusform>%1: аларм %n минути пред секоја премиера</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>--premieres и --replays се исклучуваат меѓусебно.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>--premieres и --replays се однесуваат на аларми: недостасува --alarm МИНУТИ.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Додавањето не успеа: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Омилено: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Засега не е најавено ниедно емитување на овој наслов.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 е меѓу омилените, но нема календар во кој може да се запишат алармите.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Веќе не е омилено: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Сè уште нема омилени. &quot;vidora favourite X&quot; додава емисија.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>--at бара време како 20:00 или 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Недостасува --at ВРЕМЕ: кога почнува емисијата.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>Тогаш не почнува ниедно претстојно емитување на &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Одговараат повеќе емитувања; --on КАНАЛ или подолг дел од насловот кажува кое:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>Предоцна е за аларм %n минута порано.</numerusform>
+            <numerusform>Предоцна е за аларм %n минути порано.</numerusform>
+            <numerusform>Предоцна е за аларм %n минути порано.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Алармот не е поставен: нема календар во кој може да се запишува.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Аларм %n минута порано: %1</numerusform>
+            <numerusform>Аларм %n минути порано: %1</numerusform>
+            <numerusform>Аларм %n минути порано: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Веќе нема аларми: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>Алармот е отстранет: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Нема аларми.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>silent-hours бара две времиња како 00:00 07:00, или &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>Омилените емисии не ѕвонат меѓу %1 и %2.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Нема тивки часови.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>Период што минува преку полноќ или нема траење ги стишува во секое време од денот.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Пред да го смените календарот, мора да ги отстраните сите аларми</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>Календарите се наоѓаат во %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>Не постои &quot;%1&quot;. Постојат: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; може да биде: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Непозната опција %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 бара вредност.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>--clock бара време како 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Непозната команда %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 бара аргумент.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 не прима &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 не прима %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>што има сега и што следува на избраните канали</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>сите претстојни емисии на еден канал, по денови</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>претстојни емисии од една категорија</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search ТЕКСТ</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>претстојни емисии што содржат текст</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>каталогот, со означени избрани канали</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>избери канали</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>отстрани канали од изборот</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>преземи го она што недостасува или е старо</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import АДРЕСА</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>користи сопствен XMLTV водич: адреса или датотека</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>следи наслов; --alarm МИНУТИ ѕвони пред секое емитување, или само --premieres односно --replays</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>не следи го повеќе и отстрани ги неговите аларми</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>насловите што се следат</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at ВРЕМЕ [--on КАНАЛ] [--before МИНУТИ]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at ВРЕМЕ] [--on КАНАЛ]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>отстрани го алармот на едно емитување или на сите</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>емитувањата на омилените емисии што ќе ѕвонат</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | ОД ДО]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>кога омилените емисии не смеат да ѕвонат</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>календарите, или избор на оној за алармите</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>одговори за програми</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home ПАПКА</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>чувај сè во оваа папка</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock ВРЕМЕ</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>водичот како во некој друг момент: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>јави на стандардниот излез за грешки што е преземено и најдено</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>вчитај го секој дел од прозорецот и заврши</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Без команда: прозорецот; без екран, она што е сега на програма, по потреба по освежување.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X е наслов, негов дел што го има само еден, или ID.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Употреба: vidora [КОМАНДА] [ОПЦИЈА]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Сè уште не е избран ниеден канал. &quot;vidora channels&quot; ги наведува, &quot;vidora select X...&quot; избира.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Ова е прв поглед на измислен регион, со првите %1 од неговите %2 канали. &quot;vidora import&quot; чита ваш сопствен водич.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Сè е ажурно.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Освежени канали: %1 од %2, емисии: %3.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Ништо не пристигна за: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Нема програма.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Нема емисии.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>Избран е %n канал.</numerusform>
+            <numerusform>Избрани се %n канали.</numerusform>
+            <numerusform>Избрани се %n канали.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>Каталогот на вашиот водич не може да се прочита; увезете го водичот повторно.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Овој уред</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Запишување во %1 не е можно: ништо нема да се зачува.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Друг vidora (процес %1) ја користи оваа папка; се прикажува она што го има.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Друг vidora (процес %1) ја користи оваа папка; се чека да заврши.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>Пробниот регион не можеше да се стартува; --log кажува зошто.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Прескокнато: %n канал без ID.</numerusform>
+            <numerusform>Прескокнато: %n канали без ID.</numerusform>
+            <numerusform>Прескокнато: %n канали без ID.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Прескокнато: %n канал чиј ID веќе постои.</numerusform>
+            <numerusform>Прескокнато: %n канали чиј ID веќе постои.</numerusform>
+            <numerusform>Прескокнато: %n канали чиј ID веќе постои.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Прескокнато: %n емисија без почеток и крај со отстапување од UTC.</numerusform>
+            <numerusform>Прескокнато: %n емисии без почеток и крај со отстапување од UTC.</numerusform>
+            <numerusform>Прескокнато: %n емисии без почеток и крај со отстапување од UTC.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Прескокнато: %n емисија на канали што ги нема во водичот.</numerusform>
+            <numerusform>Прескокнато: %n емисии на канали што ги нема во водичот.</numerusform>
+            <numerusform>Прескокнато: %n емисии на канали што ги нема во водичот.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>Канали: %1, емисии: %2, денови: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>%n од претходно избраните канали е во него; &quot;vidora update&quot; ги чита неговите емисии.</numerusform>
+            <numerusform>%n од претходно избраните канали се во него; &quot;vidora update&quot; ги чита нивните емисии.</numerusform>
+            <numerusform>%n од претходно избраните канали се во него; &quot;vidora update&quot; ги чита нивните емисии.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Изберете канали со &quot;vidora select X...&quot;, а потоа &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>читање: %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>икони: %1 од %2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Тука нема прозорец.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Сите емисии</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Играни филмови</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Вечерна програма</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Најгледано</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Документарна програма</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>За деца</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Вести</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Забава</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музика</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Спорт</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Комедии</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Авантури</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Криминалистички</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Вестерни</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Драми</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Трилери</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Научна фантастика</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Фантазија</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Хорори</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Филмови</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Серии</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 не е достапно: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 одговори со статус %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 е празно.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 има непознато кодирање.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 не е адреса на водич: потребен е http, https или датотека.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 не е XMLTV водич.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>Водичот на %1 нема канали.</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Увозот е прекинат; останува досегашниот водич.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>Каталогот не може да се запише: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Не може да се воспостави врска со далечинскиот сервер</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Проверете ја врската со интернет.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Во ред</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Нема канали.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Нема канал со тоа име или јазик.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Сите канали</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Друго</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Канали</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Освежи</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Додај канали</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Отстрани ги сите канали</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Сè уште не е избран ниеден канал. Додајте ги оние што сакате да ги гледате.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Оваа страница доаѓа во некоја од следните верзии.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Сега</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Категории</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Распоред</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>На картичката &quot;Канали&quot; изберете ги каналите што сакате да ги гледате.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Освежено </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Известување</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Преносот на ова видео моментално не е достапен или брзината на вашата интернет-врска не е доволна.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Сите емитувања на оваа омилена емисија имаат аларм: следното освежување повторно го поставува.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>ѕвони пред едно емитување на омилена емисија</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Список на канали</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

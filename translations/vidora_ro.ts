@@ -1,0 +1,703 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ro_RO">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Se încarcă</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Înapoi</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Transmisiunea nu răspunde.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Se conectează</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauză</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Redă</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Închide</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Mută: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Căutare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Renunță</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Litere</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Elimină: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Redă: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>Canale: %1 din %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 cere un număr de minute de la 0 la %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: alarmă cu %n minut înainte de fiecare difuzare</numerusform>
+            <numerusform>%1: alarmă cu %n minute înainte de fiecare difuzare</numerusform>
+            <numerusform>%1: alarmă cu %n de minute înainte de fiecare difuzare</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: alarmă cu %n minut înainte de fiecare reluare</numerusform>
+            <numerusform>%1: alarmă cu %n minute înainte de fiecare reluare</numerusform>
+            <numerusform>%1: alarmă cu %n de minute înainte de fiecare reluare</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: alarmă cu %n minut înainte de fiecare premieră</numerusform>
+            <numerusform>%1: alarmă cu %n minute înainte de fiecare premieră</numerusform>
+            <numerusform>%1: alarmă cu %n de minute înainte de fiecare premieră</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>--premieres și --replays se exclud reciproc.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>--premieres și --replays privesc alarmele: lipsește --alarm MINUTE.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Adăugarea nu a reușit: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Favorit: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Momentan nu este anunțată nicio difuzare cu acest titlu.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 este printre favorite, dar nu există niciun calendar în care să poată fi scrise alarmele.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Nu mai este favorit: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Nu există încă favorite. &quot;vidora favourite X&quot; adaugă una.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>--at cere o oră precum 20:00 sau 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Lipsește --at ORA: când începe difuzarea.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>Nicio difuzare viitoare a titlului &quot;%1&quot; nu începe atunci.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Se potrivesc mai multe difuzări; --on CANAL sau o parte mai lungă din titlu spune care:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>Este prea târziu pentru o alarmă cu %n minut înainte.</numerusform>
+            <numerusform>Este prea târziu pentru o alarmă cu %n minute înainte.</numerusform>
+            <numerusform>Este prea târziu pentru o alarmă cu %n de minute înainte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Nu s-a setat nicio alarmă: nu există un calendar în care se poate scrie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Alarmă cu %n minut înainte: %1</numerusform>
+            <numerusform>Alarmă cu %n minute înainte: %1</numerusform>
+            <numerusform>Alarmă cu %n de minute înainte: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Fără alarme de acum: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>Alarmă eliminată: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Nicio alarmă.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>silent-hours cere două ore precum 00:00 07:00, sau &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>Favoritele nu sună între %1 și %2.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Fără ore de liniște.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>O perioadă care trece de miezul nopții sau nu are durată le oprește la orice oră din zi.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Trebuie să eliminați toate alarmele înainte de a schimba calendarul</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>Calendarele se află în %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>Nu există &quot;%1&quot;. Există: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; poate fi: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Opțiune necunoscută: %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 cere o valoare.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>--clock cere un moment precum 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Comandă necunoscută: %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 cere un argument.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 nu acceptă &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 nu acceptă %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>ce este acum și ce urmează pe canalele alese</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>toate emisiunile viitoare ale unui canal, pe zile</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>emisiunile viitoare dintr-o categorie</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search TEXT</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>emisiunile viitoare care conțin un text</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>catalogul, cu canalele alese marcate</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>alege canale</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>renunță la canale</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>descarcă ce lipsește sau este vechi</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import ADRESA</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>folosește un ghid XMLTV propriu: o adresă sau un fișier</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>urmărește un titlu; --alarm MINUTE sună înainte de fiecare difuzare, sau doar cu --premieres ori --replays</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>nu-l mai urmări și elimină alarmele sale</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>titlurile urmărite</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at ORA [--on CANAL] [--before MINUTE]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at ORA] [--on CANAL]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>elimină alarma unei difuzări sau a tuturor</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>difuzările favoritelor care vor suna</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | DE-LA LA]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>când favoritele nu trebuie să sune</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>calendarele, sau alege-l pe cel pentru alarme</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>răspunsuri pentru programe</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home DOSAR</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>păstrează totul în acest dosar</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock ORA</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>ghidul ca în alt moment: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>spune pe ieșirea de erori ce s-a descărcat și găsit</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>încarcă fiecare parte a ferestrei și ieși</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Fără comandă: fereastra; fără ecran, ce este acum la televizor, după o actualizare dacă este cazul.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X este un titlu, o parte din el pe care o are doar unul, sau un ID.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Utilizare: vidora [COMANDĂ] [OPȚIUNE]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Nu este ales încă niciun canal. &quot;vidora channels&quot; le enumeră, &quot;vidora select X...&quot; alege.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Aceasta este o primă privire asupra unei regiuni inventate, cu primele %1 din cele %2 canale ale ei. &quot;vidora import&quot; citește un ghid propriu.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Totul este la zi.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Canale actualizate: %1 din %2, emisiuni: %3.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Nu a sosit nimic pentru: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Niciun program.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Nicio emisiune.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>Este ales %n canal.</numerusform>
+            <numerusform>Sunt alese %n canale.</numerusform>
+            <numerusform>Sunt alese %n de canale.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>Catalogul ghidului nu poate fi citit; importați ghidul din nou.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Acest dispozitiv</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Nu se poate scrie în %1: nimic nu va fi păstrat.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Un alt vidora (procesul %1) folosește acest dosar; se arată ce are el.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Un alt vidora (procesul %1) folosește acest dosar; se așteaptă.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>Regiunea de probă nu a putut fi pornită; --log spune de ce.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Omis: %n canal fără ID.</numerusform>
+            <numerusform>Omise: %n canale fără ID.</numerusform>
+            <numerusform>Omise: %n de canale fără ID.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Omis: %n canal al cărui ID exista deja.</numerusform>
+            <numerusform>Omise: %n canale al căror ID exista deja.</numerusform>
+            <numerusform>Omise: %n de canale al căror ID exista deja.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Omisă: %n emisiune fără început și sfârșit cu decalaj orar.</numerusform>
+            <numerusform>Omise: %n emisiuni fără început și sfârșit cu decalaj orar.</numerusform>
+            <numerusform>Omise: %n de emisiuni fără început și sfârșit cu decalaj orar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Omisă: %n emisiune a unor canale pe care ghidul nu le conține.</numerusform>
+            <numerusform>Omise: %n emisiuni ale unor canale pe care ghidul nu le conține.</numerusform>
+            <numerusform>Omise: %n de emisiuni ale unor canale pe care ghidul nu le conține.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>Canale: %1, emisiuni: %2, zile: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>%n dintre canalele alese înainte se află în el; &quot;vidora update&quot; citește emisiunile lui.</numerusform>
+            <numerusform>%n dintre canalele alese înainte se află în el; &quot;vidora update&quot; citește emisiunile lor.</numerusform>
+            <numerusform>%n dintre canalele alese înainte se află în el; &quot;vidora update&quot; citește emisiunile lor.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Alegeți canale cu &quot;vidora select X...&quot;, apoi &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>se citește %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>pictograme: %1 din %2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Aici nu există fereastră.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Toate emisiunile</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Filme artistice</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Emisiuni de seară</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Cele mai vizionate</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Documentare</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Pentru copii</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Știri</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Divertisment</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muzică</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Comedii</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Aventură</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Polițiste</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Westernuri</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drame</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Thrillere</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>SF</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantasy</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horror</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Seriale</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 nu poate fi accesat: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 a răspuns cu starea %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 este gol.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 are o codificare necunoscută.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 nu este adresa unui ghid: trebuie http, https sau un fișier.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 nu este un ghid XMLTV.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>Ghidul de la %1 nu are canale.</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Importul a fost întrerupt; rămâne ghidul dinainte.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>Catalogul nu poate fi scris: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nu se poate stabili conexiunea cu serverul</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Verificați conexiunea la internet.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Nu există canale.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Niciun canal cu acest nume sau în această limbă.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Toate canalele</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Altele</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizează</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Adaugă canale</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Elimină toate canalele</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Nu este ales încă niciun canal. Adăugați-le pe cele pe care doriți să le vedeți.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Această pagină va veni cu o versiune ulterioară.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Acum</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorii</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Agendă</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>Alegeți în fila &quot;Canale&quot; canalele pe care doriți să le vedeți.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Actualizat: </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Alertă</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Redarea acestui videoclip nu este disponibilă momentan sau viteza conexiunii la internet nu este suficientă.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Toate difuzările acestui favorit au alarmă: următoarea actualizare o setează din nou.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>sună înainte de o difuzare a unui favorit</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Lista canalelor</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,703 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sk_SK">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Načítava sa</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Späť</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Stream neodpovedá.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Pripája sa</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastaviť</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Prehrať</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitosť</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavrieť</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Presunúť: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hľadať</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušiť</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Písmená</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Karty</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Odobrať: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Prehrať: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>Kanály: %1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 vyžaduje počet minút od 0 do %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: upozornenie %n minútu pred každým vysielaním</numerusform>
+            <numerusform>%1: upozornenie %n minúty pred každým vysielaním</numerusform>
+            <numerusform>%1: upozornenie %n minút pred každým vysielaním</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: upozornenie %n minútu pred každou reprízou</numerusform>
+            <numerusform>%1: upozornenie %n minúty pred každou reprízou</numerusform>
+            <numerusform>%1: upozornenie %n minút pred každou reprízou</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: upozornenie %n minútu pred každou premiérou</numerusform>
+            <numerusform>%1: upozornenie %n minúty pred každou premiérou</numerusform>
+            <numerusform>%1: upozornenie %n minút pred každou premiérou</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>--premieres a --replays sa navzájom vylučujú.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>--premieres a --replays sa týkajú upozornení: chýba --alarm MINÚTY.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Nepodarilo sa pridať: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Obľúbené: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Momentálne nie je ohlásené žiadne vysielanie s týmto názvom.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 je medzi obľúbenými, ale na upozornenia nie je žiadny zapisovateľný kalendár.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Už nie je obľúbené: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Zatiaľ žiadne obľúbené. &quot;vidora favourite X&quot; reláciu pridá.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>--at vyžaduje čas, napríklad 20:00 alebo 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Chýba --at ČAS: kedy sa vysielanie začína.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>V tom čase sa nezačína žiadne nadchádzajúce vysielanie relácie &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Zodpovedá viac vysielaní; --on KANÁL alebo dlhšia časť názvu určí ktoré:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>Na upozornenie %n minútu vopred je už neskoro.</numerusform>
+            <numerusform>Na upozornenie %n minúty vopred je už neskoro.</numerusform>
+            <numerusform>Na upozornenie %n minút vopred je už neskoro.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Upozornenie nebolo nastavené: do žiadneho kalendára sa nedá zapisovať.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Upozornenie %n minútu vopred: %1</numerusform>
+            <numerusform>Upozornenie %n minúty vopred: %1</numerusform>
+            <numerusform>Upozornenie %n minút vopred: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Už bez upozornení: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>Upozornenie odobrané: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Žiadne upozornenia.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>silent-hours vyžaduje dva časy, napríklad 00:00 07:00, alebo &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>Obľúbené relácie medzi %1 a %2 nezvonia.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Žiadne tiché hodiny.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>Obdobie cez polnoc alebo bez dĺžky ich stíši po celý deň.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Pred zmenou kalendára musíte odobrať všetky upozornenia</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>Kalendáre sú uložené v %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>&quot;%1&quot; neexistuje. K dispozícii sú: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; môže byť: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Neznáma voľba %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 vyžaduje hodnotu.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>--clock vyžaduje čas, napríklad 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Neznámy príkaz %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 vyžaduje argument.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 neprijíma &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 neprijíma %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>čo sa vysiela teraz a čo nasleduje na vybraných kanáloch</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>všetky nadchádzajúce relácie kanála podľa dní</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>nadchádzajúce relácie jednej kategórie</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search TEXT</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>nadchádzajúce relácie, ktoré obsahujú text</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>katalóg s označenými vybranými kanálmi</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>vybrať kanály</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>zrušiť výber kanálov</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>stiahnuť, čo chýba alebo je staré</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import ADRESA</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>použiť vlastný XMLTV program: adresa alebo súbor</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>sledovať reláciu; --alarm MINÚTY zazvoní pred každým vysielaním, alebo len --premieres či --replays</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>prestať sledovať a odobrať upozornenia</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>sledované relácie</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at ČAS [--on KANÁL] [--before MINÚTY]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at ČAS] [--on KANÁL]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>odobrať upozornenie jedného vysielania, alebo všetkých</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>vysielania obľúbených relácií, na ktoré zazvoní upozornenie</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | OD DO]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>kedy obľúbené relácie nemajú zvoniť</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>kalendáre, alebo výber toho pre upozornenia</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>odpovede pre programy</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home PRIEČINOK</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>všetko ukladať do tohto priečinka</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock ČAS</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>program ako v inom okamihu: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>vypisovať na chybový výstup, čo bolo stiahnuté a nájdené</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>načítať všetky časti okna a skončiť</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Bez príkazu: okno; bez displeja to, čo sa práve vysiela, v prípade potreby po aktualizácii.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X je názov, jeho jednoznačná časť, alebo ID.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Použitie: vidora [PRÍKAZ] [VOĽBA]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Zatiaľ nie je vybraný žiadny kanál. &quot;vidora channels&quot; ich vypíše, &quot;vidora select X...&quot; vyberie.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Toto je prvý pohľad na vymyslený región s prvými %1 z jeho %2 kanálov. &quot;vidora import&quot; načíta váš vlastný program.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Všetko je aktuálne.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Aktualizované kanály: %1 z %2, relácie: %3.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Nič neprišlo pre: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Žiadny program.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Žiadne relácie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>Je vybraný %n kanál.</numerusform>
+            <numerusform>Sú vybrané %n kanály.</numerusform>
+            <numerusform>Je vybraných %n kanálov.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>Katalóg vášho programu sa nedá prečítať; importujte program znova.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Toto zariadenie</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Do %1 sa nedá zapisovať: nič sa neuloží.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Tento priečinok používa iná vidora (proces %1); zobrazuje sa, čo má.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Tento priečinok používa iná vidora (proces %1); čaká sa na ňu.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>Ukážkový región sa nepodarilo spustiť; --log povie prečo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Vynechaný: %n kanál bez ID.</numerusform>
+            <numerusform>Vynechané: %n kanály bez ID.</numerusform>
+            <numerusform>Vynechaných: %n kanálov bez ID.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Vynechaný: %n kanál s už použitým ID.</numerusform>
+            <numerusform>Vynechané: %n kanály s už použitým ID.</numerusform>
+            <numerusform>Vynechaných: %n kanálov s už použitým ID.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Vynechaná: %n relácia bez začiatku a konca s časovým posunom.</numerusform>
+            <numerusform>Vynechané: %n relácie bez začiatku a konca s časovým posunom.</numerusform>
+            <numerusform>Vynechaných: %n relácií bez začiatku a konca s časovým posunom.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Vynechaná: %n relácia kanálov, ktoré program neuvádza.</numerusform>
+            <numerusform>Vynechané: %n relácie kanálov, ktoré program neuvádza.</numerusform>
+            <numerusform>Vynechaných: %n relácií kanálov, ktoré program neuvádza.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>Kanály: %1, relácie: %2, dni: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>Obsahuje %n z predtým vybraných kanálov; &quot;vidora update&quot; načíta jeho relácie.</numerusform>
+            <numerusform>Obsahuje %n z predtým vybraných kanálov; &quot;vidora update&quot; načíta ich relácie.</numerusform>
+            <numerusform>Obsahuje %n z predtým vybraných kanálov; &quot;vidora update&quot; načíta ich relácie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Vyberte kanály príkazom &quot;vidora select X...&quot;, potom &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>načítava sa %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>ikony: %1 z %2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Tu nie je žiadne okno.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Všetky relácie</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Celovečerné filmy</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Večerné relácie</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Najsledovanejšie</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Pre deti</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Správy</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Zábava</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Hudba</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Šport</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Komédie</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Dobrodružné</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimi</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Westerny</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drámy</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Trilery</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Sci-fi</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantasy</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horory</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmy</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Seriály</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 nie je dostupné: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 odpovedalo stavom %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 je prázdne.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 má neznáme kódovanie.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 nie je adresa programu: treba http, https alebo súbor.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 nie je program vo formáte XMLTV.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>Program na %1 nemá žiadne kanály.</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Import bol ukončený; zostáva doterajší program.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>Katalóg sa nedá zapísať: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Nepodarilo sa nadviazať spojenie so vzdialeným serverom</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Skontrolujte pripojenie na internet.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Žiadne kanály.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Žiadny kanál s týmto názvom alebo jazykom.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Všetky kanály</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Ostatné</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanály</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Obnoviť</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Pridať kanály</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Odobrať všetky kanály</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Zatiaľ nie je vybraný žiadny kanál. Pridajte tie, ktoré chcete vidieť.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Táto stránka príde v niektorej z ďalších verzií.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Práve teraz</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategórie</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Plán</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>Na karte &quot;Kanály&quot; vyberte kanály, ktoré chcete vidieť.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Aktualizované </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Upozornenie</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Streamovanie tohto videa je momentálne nedostupné alebo rýchlosť vášho internetového pripojenia nestačí.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Všetky vysielania tejto obľúbenej relácie majú upozornenie: ďalšia aktualizácia ho znova nastaví.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>zazvoniť pred jedným vysielaním obľúbenej relácie</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Zoznam kanálov</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,703 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sr_RS">
+<context>
+    <name>vidora</name>
+    <message>
+        <source>Loading</source>
+        <translation>Učitavanje</translation>
+    </message>
+    <message>
+        <source>%1 - Vidora</source>
+        <translation>%1 - Vidora</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Nazad</translation>
+    </message>
+    <message>
+        <source>The stream does not answer.</source>
+        <translation>Prenos ne odgovara.</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Povezivanje</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauza</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Pusti</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Jačina zvuka</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Pomeri: %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pretraga</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Otkaži</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Slova</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Kartice</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Ukloni: %1</translation>
+    </message>
+    <message>
+        <source>Play %1</source>
+        <translation>Pusti: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels</source>
+        <translation>Kanali: %1 od %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number of minutes from 0 to %2.</source>
+        <translation>%1 traži broj minuta od 0 do %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each broadcast</source>
+        <translation>
+            <numerusform>%1: alarm %n minut pre svakog emitovanja</numerusform>
+            <numerusform>%1: alarm %n minuta pre svakog emitovanja</numerusform>
+            <numerusform>%1: alarm %n minuta pre svakog emitovanja</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each replay</source>
+        <translation>
+            <numerusform>%1: alarm %n minut pre svake reprize</numerusform>
+            <numerusform>%1: alarm %n minuta pre svake reprize</numerusform>
+            <numerusform>%1: alarm %n minuta pre svake reprize</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: alarm %n minutes ahead of each premiere</source>
+        <translation>
+            <numerusform>%1: alarm %n minut pre svake premijere</numerusform>
+            <numerusform>%1: alarm %n minuta pre svake premijere</numerusform>
+            <numerusform>%1: alarm %n minuta pre svake premijere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--premieres and --replays exclude each other.</source>
+        <translation>--premieres i --replays isključuju jedno drugo.</translation>
+    </message>
+    <message>
+        <source>--premieres and --replays are about alarms: --alarm MINUTES is missing.</source>
+        <translation>--premieres i --replays se odnose na alarme: nedostaje --alarm MINUTI.</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>Dodavanje nije uspelo: %1</translation>
+    </message>
+    <message>
+        <source>A favourite: %1</source>
+        <translation>Omiljeno: %1</translation>
+    </message>
+    <message>
+        <source>No broadcast of this title is listed at present.</source>
+        <translation>Za sada nije najavljeno nijedno emitovanje ovog naslova.</translation>
+    </message>
+    <message>
+        <source>%1 is a favourite, but there is no calendar that can be written for its alarms.</source>
+        <translation>%1 je među omiljenima, ali nema kalendara u koji se mogu upisati alarmi.</translation>
+    </message>
+    <message>
+        <source>No longer a favourite: %1</source>
+        <translation>Više nije omiljeno: %1</translation>
+    </message>
+    <message>
+        <source>No favourites yet. &quot;vidora favourite X&quot; adds one.</source>
+        <translation>Još nema omiljenih. &quot;vidora favourite X&quot; dodaje emisiju.</translation>
+    </message>
+    <message>
+        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>--at traži vreme kao što je 20:00 ili 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>--at TIME is missing: when the broadcast starts.</source>
+        <translation>Nedostaje --at VREME: kada emisija počinje.</translation>
+    </message>
+    <message>
+        <source>No coming broadcast of &quot;%1&quot; starts then.</source>
+        <translation>Tada ne počinje nijedno predstojeće emitovanje naslova &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>More than one broadcast fits; --on CHANNEL or more of the title tells which:</source>
+        <translation>Odgovara više emitovanja; --on KANAL ili duži deo naslova kaže koje:</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is too late for an alarm %n minutes ahead.</source>
+        <translation>
+            <numerusform>Prekasno je za alarm %n minut ranije.</numerusform>
+            <numerusform>Prekasno je za alarm %n minuta ranije.</numerusform>
+            <numerusform>Prekasno je za alarm %n minuta ranije.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarm was set: no calendar can be written.</source>
+        <translation>Alarm nije postavljen: nema kalendara u koji se može upisivati.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Alarm %n minutes ahead: %1</source>
+        <translation>
+            <numerusform>Alarm %n minut ranije: %1</numerusform>
+            <numerusform>Alarm %n minuta ranije: %1</numerusform>
+            <numerusform>Alarm %n minuta ranije: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No alarms any more: %1</source>
+        <translation>Više nema alarma: %1</translation>
+    </message>
+    <message>
+        <source>No alarm any more: %1</source>
+        <translation>Alarm je uklonjen: %1</translation>
+    </message>
+    <message>
+        <source>No alarms.</source>
+        <translation>Nema alarma.</translation>
+    </message>
+    <message>
+        <source>silent-hours takes two times such as 00:00 07:00, or &quot;off&quot;.</source>
+        <translation>silent-hours traži dva vremena kao što su 00:00 07:00, ili &quot;off&quot;.</translation>
+    </message>
+    <message>
+        <source>Favourites do not ring between %1 and %2.</source>
+        <translation>Omiljene emisije ne zvone između %1 i %2.</translation>
+    </message>
+    <message>
+        <source>No silent hours.</source>
+        <translation>Nema tihih sati.</translation>
+    </message>
+    <message>
+        <source>A period that crosses midnight, or has no length, silences them at every time of the day.</source>
+        <translation>Period koji prelazi ponoć ili nema trajanje utišava ih u svako doba dana.</translation>
+    </message>
+    <message>
+        <source>You have to remove all your alerts before changing calendar</source>
+        <translation>Pre promene kalendara morate ukloniti sve alarme</translation>
+    </message>
+    <message>
+        <source>Calendars lie in %1.</source>
+        <translation>Kalendari se nalaze u %1.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;. There are: %2</source>
+        <translation>Ne postoji &quot;%1&quot;. Postoje: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be: %2</source>
+        <translation>&quot;%1&quot; može biti: %2</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Nepoznata opcija %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 traži vrednost.</translation>
+    </message>
+    <message>
+        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>--clock traži vreme kao što je 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1.</source>
+        <translation>Nepoznata komanda %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument.</source>
+        <translation>%1 traži argument.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;.</source>
+        <translation>%1 ne prima &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2.</source>
+        <translation>%1 ne prima %2.</translation>
+    </message>
+    <message>
+        <source>what is on now and next on the chosen channels</source>
+        <translation>šta je sada i šta sledi na izabranim kanalima</translation>
+    </message>
+    <message>
+        <source>all coming shows of a channel, by days</source>
+        <translation>sve predstojeće emisije jednog kanala, po danima</translation>
+    </message>
+    <message>
+        <source>coming shows of a category</source>
+        <translation>predstojeće emisije jedne kategorije</translation>
+    </message>
+    <message>
+        <source>search TEXT</source>
+        <translation>search TEKST</translation>
+    </message>
+    <message>
+        <source>coming shows that contain a text</source>
+        <translation>predstojeće emisije koje sadrže tekst</translation>
+    </message>
+    <message>
+        <source>the catalogue, the chosen channels marked</source>
+        <translation>katalog, sa označenim izabranim kanalima</translation>
+    </message>
+    <message>
+        <source>choose channels</source>
+        <translation>izaberi kanale</translation>
+    </message>
+    <message>
+        <source>give channels up</source>
+        <translation>ukloni kanale iz izbora</translation>
+    </message>
+    <message>
+        <source>fetch what is missing or old</source>
+        <translation>preuzmi ono što nedostaje ili je staro</translation>
+    </message>
+    <message>
+        <source>import ADDRESS</source>
+        <translation>import ADRESA</translation>
+    </message>
+    <message>
+        <source>use an XMLTV guide of your own: an address or a file</source>
+        <translation>koristi sopstveni XMLTV vodič: adresa ili datoteka</translation>
+    </message>
+    <message>
+        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
+        <translation>prati naslov; --alarm MINUTI zvoni pre svakog emitovanja, ili samo --premieres odnosno --replays</translation>
+    </message>
+    <message>
+        <source>follow it no longer, and remove its alarms</source>
+        <translation>ne prati ga više i ukloni njegove alarme</translation>
+    </message>
+    <message>
+        <source>the titles that are followed</source>
+        <translation>naslovi koji se prate</translation>
+    </message>
+    <message>
+        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
+        <translation>alarm X --at VREME [--on KANAL] [--before MINUTI]</translation>
+    </message>
+    <message>
+        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
+        <translation>unalarm X [--at VREME] [--on KANAL]</translation>
+    </message>
+    <message>
+        <source>remove the alarm of one broadcast, or of all</source>
+        <translation>ukloni alarm jednog emitovanja ili svih</translation>
+    </message>
+    <message>
+        <source>the broadcasts of favourites that will ring</source>
+        <translation>emitovanja omiljenih emisija koja će zvoniti</translation>
+    </message>
+    <message>
+        <source>silent-hours [off | FROM TO]</source>
+        <translation>silent-hours [off | OD DO]</translation>
+    </message>
+    <message>
+        <source>when favourites must not ring</source>
+        <translation>kada omiljene emisije ne smeju da zvone</translation>
+    </message>
+    <message>
+        <source>the calendars, or choose the one for alarms</source>
+        <translation>kalendari, ili izbor onoga za alarme</translation>
+    </message>
+    <message>
+        <source>answers for programs</source>
+        <translation>odgovori za programe</translation>
+    </message>
+    <message>
+        <source>--home DIR</source>
+        <translation>--home FOLDER</translation>
+    </message>
+    <message>
+        <source>keep everything in this folder</source>
+        <translation>čuvaj sve u ovom folderu</translation>
+    </message>
+    <message>
+        <source>--clock TIME</source>
+        <translation>--clock VREME</translation>
+    </message>
+    <message>
+        <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
+        <translation>vodič kao u nekom drugom trenutku: 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>say on standard error what was fetched and found</source>
+        <translation>prijavi na standardni izlaz za greške šta je preuzeto i nađeno</translation>
+    </message>
+    <message>
+        <source>load every part of the window and quit</source>
+        <translation>učitaj svaki deo prozora i završi</translation>
+    </message>
+    <message>
+        <source>Without a command: the window; without a display, what is on now, after an update where one is due.</source>
+        <translation>Bez komande: prozor; bez ekrana, ono što je sada na programu, po potrebi posle osvežavanja.</translation>
+    </message>
+    <message>
+        <source>X is a title, a part of it that only one has, or an id.</source>
+        <translation>X je naslov, njegov deo koji ima samo jedan, ili ID.</translation>
+    </message>
+    <message>
+        <source>Usage: vidora [COMMAND] [OPTION]...</source>
+        <translation>Upotreba: vidora [KOMANDA] [OPCIJA]...</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
+        <translation>Još nije izabran nijedan kanal. &quot;vidora channels&quot; ih nabraja, &quot;vidora select X...&quot; bira.</translation>
+    </message>
+    <message>
+        <source>This is a first look at a made-up region, with the first %1 of its %2 channels. &quot;vidora import&quot; reads a guide of your own.</source>
+        <translation>Ovo je prvi pogled na izmišljeni region, sa prvih %1 od njegova %2 kanala. &quot;vidora import&quot; čita vaš sopstveni vodič.</translation>
+    </message>
+    <message>
+        <source>Everything is up to date.</source>
+        <translation>Sve je ažurno.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 channels updated, %3 shows.</source>
+        <translation>Osveženo kanala: %1 od %2, emisija: %3.</translation>
+    </message>
+    <message>
+        <source>Nothing came for: %1</source>
+        <translation>Ništa nije stiglo za: %1</translation>
+    </message>
+    <message>
+        <source>No listings.</source>
+        <translation>Nema programa.</translation>
+    </message>
+    <message>
+        <source>No shows.</source>
+        <translation>Nema emisija.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channels are chosen.</source>
+        <translation>
+            <numerusform>Izabran je %n kanal.</numerusform>
+            <numerusform>Izabrana su %n kanala.</numerusform>
+            <numerusform>Izabrano je %n kanala.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The catalogue of your guide can&apos;t be read; import the guide again.</source>
+        <translation>Katalog vašeg vodiča ne može da se pročita; uvezite vodič ponovo.</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Ovaj uređaj</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing will be kept.</source>
+        <translation>Upis u %1 nije moguć: ništa neće biti sačuvano.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; showing what it has.</source>
+        <translation>Drugi vidora (proces %1) koristi ovaj folder; prikazuje se ono što on ima.</translation>
+    </message>
+    <message>
+        <source>Another vidora (process %1) is using this home; waiting for it.</source>
+        <translation>Drugi vidora (proces %1) koristi ovaj folder; čeka se da završi.</translation>
+    </message>
+    <message>
+        <source>The sample region could not be started; --log says why.</source>
+        <translation>Probni region nije mogao da se pokrene; --log kaže zašto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels without an id.</source>
+        <translation>
+            <numerusform>Preskočeno: %n kanal bez ID-a.</numerusform>
+            <numerusform>Preskočeno: %n kanala bez ID-a.</numerusform>
+            <numerusform>Preskočeno: %n kanala bez ID-a.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n channels whose id was there already.</source>
+        <translation>
+            <numerusform>Preskočeno: %n kanal čiji ID već postoji.</numerusform>
+            <numerusform>Preskočeno: %n kanala čiji ID već postoji.</numerusform>
+            <numerusform>Preskočeno: %n kanala čiji ID već postoji.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes without a start and an end with an offset.</source>
+        <translation>
+            <numerusform>Preskočeno: %n emisija bez početka i kraja sa odstupanjem od UTC.</numerusform>
+            <numerusform>Preskočeno: %n emisije bez početka i kraja sa odstupanjem od UTC.</numerusform>
+            <numerusform>Preskočeno: %n emisija bez početka i kraja sa odstupanjem od UTC.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped: %n programmes of channels that the guide does not list.</source>
+        <translation>
+            <numerusform>Preskočeno: %n emisija kanala kojih nema u vodiču.</numerusform>
+            <numerusform>Preskočeno: %n emisije kanala kojih nema u vodiču.</numerusform>
+            <numerusform>Preskočeno: %n emisija kanala kojih nema u vodiču.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 channels, %2 programmes on %3 days.</source>
+        <translation>Kanala: %1, emisija: %2, dana: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the channels chosen before are in it; &quot;vidora update&quot; reads their shows.</source>
+        <translation>
+            <numerusform>%n od ranije izabranih kanala je u njemu; &quot;vidora update&quot; čita njegove emisije.</numerusform>
+            <numerusform>%n od ranije izabranih kanala su u njemu; &quot;vidora update&quot; čita njihove emisije.</numerusform>
+            <numerusform>%n od ranije izabranih kanala je u njemu; &quot;vidora update&quot; čita njihove emisije.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose channels with &quot;vidora select X...&quot;, then &quot;vidora update&quot;.</source>
+        <translation>Izaberite kanale sa &quot;vidora select X...&quot;, a zatim &quot;vidora update&quot;.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>čitanje: %1</translation>
+    </message>
+    <message>
+        <source>icons: %1 of %2</source>
+        <translation>ikone: %1 od %2</translation>
+    </message>
+    <message>
+        <source>There is no window here.</source>
+        <translation>Ovde nema prozora.</translation>
+    </message>
+    <message>
+        <source>All Shows</source>
+        <translation>Sve emisije</translation>
+    </message>
+    <message>
+        <source>Feature Films</source>
+        <translation>Igrani filmovi</translation>
+    </message>
+    <message>
+        <source>Evening Shows</source>
+        <translation>Večernji program</translation>
+    </message>
+    <message>
+        <source>Most Watched</source>
+        <translation>Najgledanije</translation>
+    </message>
+    <message>
+        <source>Documentaries</source>
+        <translation>Dokumentarni program</translation>
+    </message>
+    <message>
+        <source>For Children</source>
+        <translation>Za decu</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Vesti</translation>
+    </message>
+    <message>
+        <source>Entertainment</source>
+        <translation>Zabava</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muzika</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Comedies</source>
+        <translation>Komedije</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Avanture</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Kriminalistički</translation>
+    </message>
+    <message>
+        <source>Westerns</source>
+        <translation>Vesterni</translation>
+    </message>
+    <message>
+        <source>Dramas</source>
+        <translation>Drame</translation>
+    </message>
+    <message>
+        <source>Thrillers</source>
+        <translation>Trileri</translation>
+    </message>
+    <message>
+        <source>SF</source>
+        <translation>Naučna fantastika</translation>
+    </message>
+    <message>
+        <source>Fantasy</source>
+        <translation>Fantastika</translation>
+    </message>
+    <message>
+        <source>Horrors</source>
+        <translation>Horori</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filmovi</translation>
+    </message>
+    <message>
+        <source>TV Series</source>
+        <translation>Serije</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be reached: %2</source>
+        <translation>%1 nije dostupno: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2.</source>
+        <translation>%1 je odgovorio statusom %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 je prazno.</translation>
+    </message>
+    <message>
+        <source>%1 is in an encoding that is not known.</source>
+        <translation>%1 ima nepoznato kodiranje.</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a guide: it takes http, https or a file.</source>
+        <translation>%1 nije adresa vodiča: potreban je http, https ili datoteka.</translation>
+    </message>
+    <message>
+        <source>%1 is no XMLTV guide.</source>
+        <translation>%1 nije XMLTV vodič.</translation>
+    </message>
+    <message>
+        <source>The guide at %1 has no channels.</source>
+        <translation>Vodič na %1 nema kanala.</translation>
+    </message>
+    <message>
+        <source>The import was ended; the guide of before stays.</source>
+        <translation>Uvoz je prekinut; ostaje dosadašnji vodič.</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be written: %1</source>
+        <translation>Katalog ne može da se upiše: %1</translation>
+    </message>
+    <message>
+        <source>Unable to establish connection to remote server</source>
+        <translation>Veza sa udaljenim serverom nije uspostavljena</translation>
+    </message>
+    <message>
+        <source>Check your Internet connection.</source>
+        <translation>Proverite vezu sa internetom.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>U redu</translation>
+    </message>
+    <message>
+        <source>There are no channels.</source>
+        <translation>Nema kanala.</translation>
+    </message>
+    <message>
+        <source>No channel of this name or language.</source>
+        <translation>Nema kanala sa tim imenom ili jezikom.</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Svi kanali</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Ostalo</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanali</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Osveži</translation>
+    </message>
+    <message>
+        <source>Add channels</source>
+        <translation>Dodaj kanale</translation>
+    </message>
+    <message>
+        <source>Remove all channels</source>
+        <translation>Ukloni sve kanale</translation>
+    </message>
+    <message>
+        <source>No channels are chosen yet. Add the ones you want to see.</source>
+        <translation>Još nije izabran nijedan kanal. Dodajte one koje želite da vidite.</translation>
+    </message>
+    <message>
+        <source>This page comes with a later version.</source>
+        <translation>Ova stranica stiže u nekoj od narednih verzija.</translation>
+    </message>
+    <message>
+        <source>Currently</source>
+        <translation>Trenutno</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorije</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Raspored</translation>
+    </message>
+    <message>
+        <source>Choose the channels you want to see in the tab &quot;Channels&quot;.</source>
+        <translation>Na kartici &quot;Kanali&quot; izaberite kanale koje želite da vidite.</translation>
+    </message>
+    <message>
+        <source>Updated </source>
+        <translation>Osveženo </translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Obaveštenje</translation>
+    </message>
+    <message>
+        <source>Streaming of this video is currently unavailable or your Internet connection speed is not adequate.</source>
+        <translation>Prenos ovog videa trenutno nije dostupan ili brzina vaše internet veze nije dovoljna.</translation>
+    </message>
+    <message>
+        <source>All broadcasts of this favourite have alarms: the next update sets it again.</source>
+        <translation>Sva emitovanja ove omiljene emisije imaju alarm: naredno osvežavanje ga ponovo postavlja.</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast of a favourite</source>
+        <translation>zvoni pre jednog emitovanja omiljene emisije</translation>
+    </message>
+    <message>
+        <source>List of the channels</source>
+        <translation>Spisak kanala</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
