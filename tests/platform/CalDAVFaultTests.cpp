@@ -15,14 +15,18 @@ TEST_F(CalDAVEventStoreTest, LosesAndDoublesNothingWhateverTheServerAnswers)
         const char* method;
     };
     std::vector<Case> cases;
+    cases.push_back({Fault::HalfSent, 0, "PUT"});
     for (const Fault fault : {Fault::Silence, Fault::LostReply, Fault::Page, Fault::CutOff}) {
         for (const char* method : {"PUT", "DELETE", "REPORT"})
             cases.push_back({fault, 0, method});
     }
     for (const int status : {401, 403, 404, 409, 412, 423, 500, 507})
         cases.push_back({Fault::Status, status, "PUT"});
-    cases.insert(cases.end(),
-                 {{Fault::Status, 404, "DELETE"}, {Fault::Status, 412, "DELETE"}, {Fault::Status, 500, ""}});
+    cases.insert(cases.end(), {{Fault::Status, 404, "DELETE"},
+                               {Fault::Status, 412, "DELETE"},
+                               {Fault::Status, 500, ""},
+                               {Fault::Status, 403, "REPORT"},
+                               {Fault::Status, 423, "PROPFIND"}});
     const QByteArray foreign = foreignEvent("w", "20261122T200000Z");
     const QString foreignPath = server.calendar("tv") + QStringLiteral("/w.ics");
     writeRaw(foreignPath, foreign);
@@ -70,16 +74,104 @@ TEST_F(CalDAVEventStoreTest, LosesAndDoublesNothingWhateverTheServerAnswers)
 
 TEST_F(CalDAVEventStoreTest, BringsBackACopyThatWasLostHere)
 {
-    const auto store = open();
     writeRaw(server.calendar("tv") + QStringLiteral("/w.ics"), foreignEvent("w", "20261122T200000Z"));
+    ASSERT_FALSE(open()->refresh());
+    const QString folder = home.filePath(QStringLiteral("a/")) + tv(*open()).calendarIdentifier;
+    const QByteArray state = readRaw(folder + QStringLiteral("/.sync"));
+    for (const QByteArray& left : {QByteArray("{\"address\": 12, \"items\""), QByteArray(), state}) {
+        writeRaw(folder + QStringLiteral("/.sync"), left);
+        writeRaw(folder + QStringLiteral("/w.ics"), ""); // as after a loss of power
+        const auto restarted = open();
+        ASSERT_FALSE(restarted->refresh());
+        EXPECT_EQ(all(*restarted).size(), 1U);
+        EXPECT_EQ(filesOf(server.calendar("tv")).size(), 1U);
+    }
+}
+
+TEST_F(CalDAVEventStoreTest, LeavesOutWhatIsTooLargeAndFetchesTheRest)
+{
+    const auto large = [](const char* uid, qsizetype size) {
+        return foreignEvent(uid, "20261122T200000Z", QByteArray("X-A:" + QByteArray(900, 'x') + "\n").repeated(size));
+    };
+    for (const char* uid : {"a", "b", "c", "d", "e"})
+        writeRaw(server.calendar("tv") + QStringLiteral("/%1.ics").arg(QLatin1String(uid)), large(uid, 30));
+    writeRaw(server.calendar("tv") + QStringLiteral("/cc.ics"), large("cc", 100));
+    NetworkURLSession narrow{64 * 1024};
+    CalDAVEventStore store(home.filePath(QStringLiteral("a")), QStringLiteral("Work"),
+                           {server.address(), QStringLiteral("ana"), QStringLiteral("s3cret")}, narrow, clock, random,
+                           sleeper);
+    EXPECT_FALSE(store.refresh());
+    EXPECT_EQ(all(store).size(), 5U);
+    clock.advance(Seconds(3600));
+    const int before = store.requestCount();
+    store.refreshSourcesIfNecessary();
+    EXPECT_EQ(store.requestCount(), before + 1) << "it is not asked for again and again";
+}
+
+TEST_F(CalDAVEventStoreTest, TheTroubleOfOneCalendarIsNotThatOfTheOthers)
+{
+    const auto store = open();
     ASSERT_FALSE(store->refresh());
-    const QString folder = home.filePath(QStringLiteral("a/")) + tv(*store).calendarIdentifier;
-    QFile::remove(folder + QStringLiteral("/w.ics"));
-    writeRaw(folder + QStringLiteral("/.sync"), "{\"address\": 12, \"items\"");
-    const auto restarted = open();
-    ASSERT_FALSE(restarted->refresh());
-    EXPECT_EQ(all(*restarted).size(), 1U);
-    EXPECT_EQ(filesOf(server.calendar("tv")).size(), 1U);
+    writeRaw(server.calendar("tv") + QStringLiteral("/w.ics"), foreignEvent("w", "20261122T200000Z"));
+    writeRaw(server.calendar("home") + QStringLiteral("/w.ics"), foreignEvent("w", "20261122T200000Z"));
+    session.fault = Fault::Silence;
+    save(*store, QStringLiteral("Ours"));
+    session.fault = Fault::Status;
+    session.status = 500;
+    session.address = QStringLiteral("/ana/home/");
+    clock.advance(-Seconds(3600)); // a clock that was set back doesn't put anything off
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(all(*store).size(), 2U);
+    EXPECT_EQ(store->unsentChanges(), 0);
+    EXPECT_EQ(titles().size(), 2U);
+    session.requests = 0;
+    store->refreshSourcesIfNecessary();
+    EXPECT_EQ(session.requests, 0) << "not at once again";
+}
+
+/// What is stopped at any step of any file is made good by the next run, which does again what it does not find done.
+TEST_F(CalDAVEventStoreTest, LeavesEachEventWholeWhereverItIsStopped)
+{
+    bool stopped = true;
+    auto store = open();
+    ASSERT_FALSE(store->refresh());
+    for (int step = 0; stopped; ++step) {
+        const Instant at = start + Seconds(step);
+        const auto name = [&](const char* text) -> QString {
+            return QStringLiteral("%1 %2").arg(QLatin1String(text)).arg(step);
+        };
+        Event changed = broadcast(tv(*store), name("Before"), at);
+        Event removed = broadcast(tv(*store), name("Removed"), at);
+        EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
+        EXPECT_FALSE(store->saveEvent(removed, EventSpan::ThisEvent));
+
+        FaultyLayer layer;
+        layer.failingStep = step;
+        layer.kills = true;
+        const auto doAll = [&](EventStore& calendars) {
+            changed.title = name("After");
+            EXPECT_FALSE(calendars.saveEvent(changed, EventSpan::ThisEvent, false));
+            const bool present = calendars.eventWithIdentifier(removed.eventIdentifier).has_value();
+            EXPECT_FALSE(present && calendars.removeEvent(removed, EventSpan::ThisEvent, false).has_value());
+            Event added = broadcast(tv(calendars), name("New"), at);
+            EXPECT_FALSE(calendars.saveEvent(added, EventSpan::ThisEvent, false));
+            return !calendars.commit();
+        };
+        store = open("a", "s3cret", layer);
+        doAll(*store);
+        stopped = layer.killed;
+        for (const auto& [title, count] : titles())
+            EXPECT_TRUE(count == 1 && title != QStringLiteral("?")) << title.toStdString() << " at step " << step;
+
+        store = open();
+        EXPECT_TRUE(doAll(*store));
+        EXPECT_EQ(store->unsentChanges(), 0);
+        const std::map<QString, int> expected{{name("After"), 1}, {name("New"), 1}};
+        ASSERT_EQ(text(titles()), text(expected)) << "at step " << step;
+        for (const Event& event : all(*store))
+            EXPECT_FALSE(store->removeEvent(event, EventSpan::ThisEvent, false));
+        EXPECT_FALSE(store->commit());
+    }
 }
 
 TEST_F(CalDAVEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)

@@ -94,6 +94,7 @@ public:
         None,
         Status,    ///< `status`, without asking the server
         Silence,   ///< no answer, and the server was never asked
+        HalfSent,  ///< the connection broke in the middle of what was sent
         LostReply, ///< the server did it, the answer was lost
         Page,      ///< a page of HTML with status 200
         CutOff     ///< a body that ends half-way, as if it were whole
@@ -107,7 +108,8 @@ public:
     URLResult perform(const URLRequest& request) override
     {
         ++requests;
-        if (fault == Fault::None || (!method.isEmpty() && request.httpMethod != method))
+        if (fault == Fault::None || (!method.isEmpty() && request.httpMethod != method) ||
+            !request.url.text().contains(address))
             return m_session.perform(request);
         if (fault == Fault::Status || fault == Fault::Page) {
             URLResponse response;
@@ -116,7 +118,10 @@ public:
             return {QByteArray("<html><p>Sorry"), response, std::nullopt};
         }
         if (fault != Fault::Silence) {
-            URLResult result = m_session.perform(request);
+            URLRequest sent = request;
+            if (fault == Fault::HalfSent && sent.httpBody)
+                sent.httpBody->truncate(sent.httpBody->size() / 2);
+            URLResult result = m_session.perform(sent);
             if (fault == Fault::CutOff && result.data)
                 result.data->truncate(result.data->size() / 2);
             if (fault == Fault::CutOff)
@@ -127,6 +132,7 @@ public:
 
     Fault fault = Fault::None;
     QByteArray method; ///< the requests that it happens to; empty for all
+    QString address;   ///< a part of their address
     int status = 0;
     int requests = 0;
 
