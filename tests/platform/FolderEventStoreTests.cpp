@@ -3,6 +3,7 @@
 #include "platform/MemoryEventStore.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace vidora {
 namespace {
@@ -233,9 +234,15 @@ TEST_F(FolderEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
     for (unsigned seed = 0; seed < 8; ++seed) {
         QDir(root).removeRecursively();
         SeededRandom dice(seed);
-        auto store = open();
-        std::map<QString, QByteArray> foreign;
+        std::unique_ptr<FolderEventStore> stores[] = {open(), open()};
+        const bool shared = seed % 2 == 1; // by two programs, which tell each other by the files alone
+        const auto commits = [&] { return shared || dice.uniform(2) == 0; };
+        std::map<QString, QByteArray> foreign{
+            {QStringLiteral("huge.ics"),
+             foreignEvent("h", "20261122T190000Z", "X:" + QByteArray(10 << 20, 'x') + "\n")}};
+        writeRaw(folder + QStringLiteral("/huge.ics"), foreign.begin()->second);
         for (int step = 0; step < 120; ++step) {
+            auto& store = stores[shared ? dice.uniform(2) : 0];
             const QString name = QStringLiteral("w%1.ics").arg(dice.uniform(8));
             const Instant at = start + Seconds(1800) * dice.uniform(6);
             const auto events = all(*store);
@@ -244,10 +251,11 @@ TEST_F(FolderEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
             const auto unknown = [&](const Event& event) {
                 return std::none_of(events.begin(), events.end(), [&](const Event& e) { return e.url == event.url; });
             };
-            switch (dice.uniform(9)) {
-            case 0:
-                foreign[name] = foreignEvent(name.toUtf8() + QByteArray::number(step), "20261122T190000Z",
-                                             dice.uniform(2) ? "RRULE:FREQ=DAILY\n" : "");
+            switch (dice.uniform(11)) {
+            case 0: // new or moved
+                foreign[name] =
+                    foreignEvent(name.toUtf8(), "20261122T1" + QByteArray::number(dice.uniform(10)) + "0000Z",
+                                 dice.uniform(2) ? "RRULE:FREQ=DAILY\n" : "");
                 writeRaw(folder + QLatin1Char('/') + name, foreign[name]);
                 break;
             case 1:
@@ -261,8 +269,7 @@ TEST_F(FolderEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
             case 3:
             case 4: {
                 Event event = broadcast(own(*store), QStringLiteral("Show"), at);
-                EXPECT_FALSE(unknown(event) &&
-                             store->saveEvent(event, EventSpan::ThisEvent, dice.uniform(2) == 0).has_value());
+                EXPECT_FALSE(unknown(event) && store->saveEvent(event, EventSpan::ThisEvent, commits()).has_value());
                 break;
             }
             case 5:
@@ -270,31 +277,90 @@ TEST_F(FolderEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
                     Event event = broadcast(ours->calendar, ours->title, at);
                     event.eventIdentifier = ours->eventIdentifier;
                     if (unknown(event))
-                        store->saveEvent(event, EventSpan::ThisEvent, dice.uniform(2) == 0);
+                        store->saveEvent(event, EventSpan::ThisEvent, commits());
                 }
                 break;
             case 6:
                 if (ours != events.end())
-                    store->removeEvent(*ours, EventSpan::ThisEvent, dice.uniform(2) == 0);
+                    store->removeEvent(*ours, EventSpan::ThisEvent, commits());
                 break;
             case 7:
                 store->commit();
+                break;
+            case 8: // ours, moved by hand
+                if (ours != events.end() && QFile::exists(root + QLatin1Char('/') + ours->eventIdentifier)) {
+                    const QString path = root + QLatin1Char('/') + ours->eventIdentifier;
+                    const QByteArray bytes = readRaw(path);
+                    Event event = *ours;
+                    event.startDate += Seconds(900);
+                    event.endDate += Seconds(900);
+                    writeRaw(path, ICalendarEvent::change(bytes, event, clock.now()).value_or(bytes));
+                }
+                break;
+            case 9: // another file's name
+                if (foreign.contains(name)) {
+                    const QString newName = QStringLiteral("n%1.ics").arg(step);
+                    QFile::rename(folder + QLatin1Char('/') + name, folder + QLatin1Char('/') + newName);
+                    foreign[newName] = foreign.extract(name).mapped();
+                }
                 break;
             default:
                 dice.uniform(2) ? store->reset() : static_cast<void>(store = open());
             }
         }
-        store->commit();
+        for (const auto& store : stores)
+            store->commit();
         std::set<QString> addresses;
         auto present = filesOf(folder);
         for (const auto& [name, bytes] : foreign)
             EXPECT_EQ(present[name], bytes) << name.toStdString() << " seed " << seed;
-        for (const Event& event : all(*store)) {
+        for (const Event& event : all(*stores[0])) {
             const bool first = !event.url || addresses.insert(event.url->text()).second;
             EXPECT_TRUE(first) << "twice, seed " << seed;
         }
         std::erase_if(present, [&](const auto& file) { return foreign.contains(file.first); });
         EXPECT_EQ(present.size(), addresses.size());
+    }
+}
+
+TEST_F(FolderEventStoreTest, SharesAFolderWithProgramsThatWriteAtTheSameTime)
+{
+    open();
+    constexpr int rounds = 60;
+    const auto device = [&](unsigned seed) {
+        SeededRandom dice(seed);
+        FolderEventStore store(root, QStringLiteral("This device"), clock, dice);
+        for (int round = 0; round < rounds; ++round) {
+            Event event = broadcast(own(store), QStringLiteral("Show"), start + Seconds(1800) * dice.uniform(6));
+            const auto events = all(store);
+            const auto present =
+                std::find_if(events.begin(), events.end(), [&](const Event& e) { return e.url == event.url; });
+            if (present == events.end())
+                EXPECT_FALSE(store.saveEvent(event, EventSpan::ThisEvent));
+            else if (dice.uniform(2))
+                store.removeEvent(*present, EventSpan::ThisEvent, true); // the other one may have been faster
+        }
+    };
+    std::map<QString, QByteArray> foreign;
+    const auto others = [&] {
+        for (int round = 0; round < rounds; ++round) {
+            const QString name = QStringLiteral("w%1.ics").arg(round % 5);
+            foreign[name] = foreignEvent(name.toUtf8(), "20261122T190000Z", QByteArray("X-N:1\n").repeated(round * 9));
+            writeRaw(folder + QLatin1Char('/') + name, foreign[name]);
+        }
+    };
+    std::thread threads[] = {std::thread(device, 1), std::thread(device, 2), std::thread(others)};
+    for (std::thread& thread : threads)
+        thread.join();
+    auto present = filesOf(folder);
+    std::set<QString> addresses;
+    for (const auto& [name, bytes] : present) {
+        const auto read = ICalendarEvent::read(bytes);
+        ASSERT_TRUE(read) << name.toStdString();
+        if (foreign.contains(name))
+            EXPECT_EQ(bytes, foreign[name]);
+        else
+            EXPECT_TRUE(addresses.insert(read->event.url->text()).second);
     }
 }
 
