@@ -31,7 +31,9 @@ public:
     };
 
     /// `wantsNetwork`: the command may fetch. Starts the sample region when there is no guide of the user's own.
-    Device(const CommandLine& line, Access access, bool wantsNetwork);
+    /// `loadPriority`: of reading the lists, which goes on behind this call.
+    Device(const CommandLine& line, Access access, bool wantsNetwork,
+           QualityOfService loadPriority = QualityOfService::UserInitiated);
     ~Device();
 
     VidoraAppDelegate& delegate() { return *m_delegate; }

@@ -220,10 +220,7 @@ void UpdateCycle::publish(Pass& pass, const ListingParser::Result& result)
 {
     pass.parsedAnything = true;
     m_services.listings.saveAllShows();
-    std::unordered_map<ObjectId, ShowList> firstShows;
     for (const auto& [channel, list] : result) {
-        const std::size_t count = std::min<std::size_t>(list->size(), m_services.showCount());
-        firstShows[channel].assign(list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count));
         pass.shows += list->size();
         // The store stamps a channel's load time behind what it has to save; waiting for that here keeps the channel's
         // next source from being fetched as well.
@@ -232,7 +229,25 @@ void UpdateCycle::publish(Pass& pass, const ListingParser::Result& result)
         if (object && !object->reloadNeeded())
             pass.missing.erase(channel);
     }
-    m_mainBlocks.async([this, firstShows = std::move(firstShows)] { m_observer.delivered(firstShows); });
+    tellOfDelivery(result);
+}
+
+void UpdateCycle::tellOfDelivery(const ListingParser::Result& result)
+{
+    constexpr std::size_t channelsAtOnce = 16;
+    std::unordered_map<ObjectId, ShowList> firstShows;
+    const auto tell = [&] {
+        m_mainBlocks.async([this, lists = std::exchange(firstShows, {})] { m_observer.delivered(lists); });
+    };
+    for (const auto& [channel, list] : result) {
+        const std::size_t count = std::min<std::size_t>(list->size(), m_services.showCount());
+        firstShows[channel].assign(list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count));
+        if (firstShows.size() == channelsAtOnce)
+            tell();
+    }
+    if (!firstShows.empty())
+        tell();
+    m_mainBlocks.async([this] { m_observer.deliveryEnded(); });
 }
 
 void UpdateCycle::setLoading(const ChannelItems& items, bool loading) const

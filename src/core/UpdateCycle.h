@@ -30,8 +30,11 @@ public:
     virtual void passStarted(std::size_t channels) = 0;
     /// One source of these channels is about to be fetched.
     virtual void fetching(const std::vector<ObjectId>& channels) = 0;
-    /// A source delivered the lists, each cut to as many upcoming shows as a row of the home screen holds.
+    /// A source delivered the lists, each cut to as many upcoming shows as a row of the home screen holds. Of a source
+    /// of many channels a few at a time, so that the main thread is soon free again.
     virtual void delivered(const std::unordered_map<ObjectId, ShowList>& lists) = 0;
+    /// All lists of a source have been handed over.
+    virtual void deliveryEnded() {}
     /// `shows` were read in the whole pass; `failed` channels had no source that delivered.
     virtual void passEnded(std::size_t shows, const std::vector<ObjectId>& failed) = 0;
 };
@@ -89,6 +92,7 @@ private:
     /// What came of it, for the log.
     QString parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
     void publish(Pass& pass, const ListingParser::Result& result);
+    void tellOfDelivery(const ListingParser::Result& result);
     void setLoading(const ChannelItems& items, bool loading) const;
 
     const Services m_services;

@@ -101,9 +101,10 @@ void VidoraAppDelegate::makeAlarms()
 
 void VidoraAppDelegate::makeStore()
 {
-    m_listings = std::make_unique<TVListings>(TVListings::Surroundings{
-        m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices, *m_icons,
-        *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(), &m_shows});
+    m_listings = std::make_unique<TVListings>(
+        TVListings::Surroundings{m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices,
+                                 *m_icons, *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(),
+                                 &m_shows, m_environment.loadPriority});
     m_alarmEngine->setListings(*m_listings);
     m_fetcher =
         std::make_unique<PageFetcher>(m_session, m_cache, m_environment.sleeper, m_networkActivity, m_networkAlerts);
@@ -289,7 +290,14 @@ void VidoraAppDelegate::delivered(const std::unordered_map<ObjectId, ShowList>& 
         return;
     for (const auto& [channel, entries] : lists)
         m_screens.reloadChannel(channel, entries);
-    m_screens.reloadData();
+}
+
+void VidoraAppDelegate::deliveryEnded()
+{
+    if (m_updateObserver)
+        m_updateObserver->deliveryEnded();
+    if (m_application.applicationState() != Application::State::Background)
+        m_screens.reloadData();
 }
 
 void VidoraAppDelegate::passEnded(std::size_t shows, const std::vector<ObjectId>& failed)

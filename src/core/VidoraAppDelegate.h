@@ -51,6 +51,7 @@ struct Environment
     bool readOnly = false;                    ///< another process owns the home: nothing is written
     EventStore* eventStore = nullptr;         ///< null: the user has no calendar
     PublicDatabase* publicDatabase = nullptr; ///< null: nobody counts
+    QualityOfService loadPriority = QualityOfService::UserInitiated; ///< of reading the lists at launch
 };
 
 /// The root object: creates the central objects at launch, holds them for the whole run, is the only receiver of the
@@ -155,6 +156,7 @@ private:
     void passStarted(std::size_t channels) override;
     void fetching(const std::vector<ObjectId>& channels) override;
     void delivered(const std::unordered_map<ObjectId, ShowList>& lists) override;
+    void deliveryEnded() override;
     void passEnded(std::size_t shows, const std::vector<ObjectId>& failed) override;
 
     const Environment m_environment;

@@ -84,6 +84,20 @@ void makeFolder(const QString& folder)
     ::mkdir(QFile::encodeName(folder), 0700); // a failure shows in the next step
 }
 
+bool openRegular(QFile& file, const QString& path)
+{
+    // A pipe would block and a device never end: their kind is checked on what was opened, not on the name.
+    const int descriptor = ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+        file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
+        return true;
+    ::close(descriptor);
+    return false;
+}
+
 } // namespace
 
 FileLayer& FileLayer::system()
@@ -115,23 +129,22 @@ std::optional<FileError> AtomicFile::write(const QString& path, QByteArrayView b
 
 std::optional<QByteArray> AtomicFile::read(const QString& path, qint64 maximumSize)
 {
-    // A pipe would block and a device never end: their kind is checked on what was opened, not on the name.
-    const int descriptor = ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return std::nullopt;
-    struct stat status = {};
     QFile file;
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
-        !file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
-        ::close(descriptor);
-        return std::nullopt;
-    }
-    if (file.size() > maximumSize)
+    if (!openRegular(file, path) || file.size() > maximumSize)
         return std::nullopt;
     QByteArray bytes = file.read(maximumSize + 1); // it may grow meanwhile
     if (file.error() != QFileDevice::NoError || bytes.size() > maximumSize)
         return std::nullopt;
     return bytes;
+}
+
+std::optional<QByteArray> AtomicFile::readStart(const QString& path, qint64 size)
+{
+    QFile file;
+    if (!openRegular(file, path))
+        return std::nullopt;
+    QByteArray bytes = file.read(size);
+    return file.error() == QFileDevice::NoError ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 void AtomicFile::removeLeftovers(const QString& folder)

@@ -67,6 +67,8 @@ void RootViewController::viewDidAppear()
 {
     if (m_channelEntriesLoaded && !m_modifiedSelectedChannels)
         return;
+    if (!m_hasContent)
+        showFirstRows();
     selectedChannelsChanged();
     if (!m_modifiedSelectedChannels)
         return;
@@ -106,17 +108,46 @@ void RootViewController::selectedChannelsChanged()
     m_delegate.listings().onAirShowsWithQueue(
         DispatchQueue::main(),
         m_mainBlocks.guarded([this, selection, headers = headersOf(selection), pause](std::vector<ShowList> entries) {
-            entries.resize(selection.size());
-            reloadData([&] {
-                m_selectedChannelsArray = selection;
-                m_channelTitles = headers.titles;
-                m_channelIcons = headers.icons;
-                m_channelIconNames = headers.iconNames;
-                m_channelEntries = std::move(entries);
-                m_hasContent = true;
-            });
-            surroundingsChanged();
+            show(selection, headers, std::move(entries));
         }));
+}
+
+// The lists may take long to load. What the beginnings of their files tell stands there until then.
+void RootViewController::showFirstRows()
+{
+    const auto selection = m_delegate.channels().selected();
+    m_delegate.listings().onAirShowsOfFilesWithQueue(
+        DispatchQueue::main(),
+        m_mainBlocks.guarded([this, selection, headers = headersOf(selection)](std::vector<ShowList> entries) {
+            if (!m_hasContent)
+                show(selection, headers, std::move(entries));
+        }));
+}
+
+void RootViewController::show(const std::vector<ObjectId>& channels, const Headers& headers,
+                              std::vector<ShowList> entries)
+{
+    entries.resize(channels.size());
+    const auto isAlike = [](const ShowList& a, const ShowList& b) { return a.size() == b.size(); };
+    const bool rowsStay =
+        m_hasContent && channels == m_selectedChannelsArray &&
+        std::equal(entries.begin(), entries.end(), m_channelEntries.begin(), m_channelEntries.end(), isAlike);
+    const auto change = [&] {
+        m_selectedChannelsArray = channels;
+        m_channelTitles = headers.titles;
+        m_channelIcons = headers.icons;
+        m_channelIconNames = headers.iconNames;
+        m_channelEntries = std::move(entries);
+        m_hasContent = true;
+    };
+    if (rowsStay) { // a view keeps its place then
+        change();
+        for (std::size_t section = 0; section < numberOfSections(); ++section)
+            reloadRows(section, 0, numberOfRowsInSection(section));
+    } else {
+        reloadData(change);
+    }
+    surroundingsChanged();
 }
 
 std::size_t RootViewController::numberOfRowsInSection(std::size_t section) const

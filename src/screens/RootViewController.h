@@ -72,6 +72,8 @@ private:
         std::vector<QString> titles, icons, iconNames;
     };
     Headers headersOf(const std::vector<ObjectId>& channels) const;
+    void showFirstRows();
+    void show(const std::vector<ObjectId>& channels, const Headers& headers, std::vector<ShowList> entries);
     ScreenRow headerRow(std::size_t section) const;
     AttributedText updatedText(const ObjectId& channel) const;
     std::optional<double> progressOf(const TVEntry& entry) const;

@@ -3,6 +3,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <iterator>
 
 namespace vidora {
 
@@ -82,7 +83,14 @@ void ScreenItemModel::countRows()
     m_sectionStarts.assign(1, 0);
     for (std::size_t section = 0; section < m_screen->numberOfSections(); ++section)
         m_sectionStarts.push_back(m_sectionStarts.back() + static_cast<int>(m_screen->numberOfRowsInSection(section)));
-    m_rows.assign(static_cast<std::size_t>(m_sectionStarts.back()), std::nullopt);
+    m_rows.clear();
+    m_rows.resize(static_cast<std::size_t>(m_sectionStarts.back()));
+}
+
+void ScreenItemModel::shiftSectionsBehind(std::size_t section, int by)
+{
+    std::for_each(m_sectionStarts.begin() + static_cast<std::ptrdiff_t>(section) + 1, m_sectionStarts.end(),
+                  [by](int& start) { start += by; });
 }
 
 RowPath ScreenItemModel::pathOf(int row) const
@@ -131,9 +139,9 @@ QVariant ScreenItemModel::data(const QModelIndex& index, int role) const
 
 const ScreenRow& ScreenItemModel::rowAt(int row) const
 {
-    std::optional<ScreenRow>& kept = m_rows[static_cast<std::size_t>(row)];
+    std::unique_ptr<const ScreenRow>& kept = m_rows[static_cast<std::size_t>(row)];
     if (!kept)
-        kept = m_screen->rowAt(pathOf(row));
+        kept = std::make_unique<const ScreenRow>(m_screen->rowAt(pathOf(row)));
     return *kept;
 }
 
@@ -194,24 +202,30 @@ void ScreenItemModel::reloadEnded()
 void ScreenItemModel::insertionBegins(std::size_t section, std::size_t first, std::size_t count)
 {
     const int row = flatRow(section, first);
-    beginInsertRows({}, row, row + static_cast<int>(count) - 1);
+    m_change = {section, row, static_cast<int>(count)};
+    beginInsertRows({}, row, row + m_change.count - 1);
 }
 
 void ScreenItemModel::insertionEnded()
 {
-    countRows();
+    std::vector<std::unique_ptr<const ScreenRow>> added(static_cast<std::size_t>(m_change.count));
+    m_rows.insert(m_rows.begin() + m_change.row, std::make_move_iterator(added.begin()),
+                  std::make_move_iterator(added.end()));
+    shiftSectionsBehind(m_change.section, m_change.count);
     endInsertRows();
 }
 
 void ScreenItemModel::removalBegins(std::size_t section, std::size_t first, std::size_t count)
 {
     const int row = flatRow(section, first);
-    beginRemoveRows({}, row, row + static_cast<int>(count) - 1);
+    m_change = {section, row, static_cast<int>(count)};
+    beginRemoveRows({}, row, row + m_change.count - 1);
 }
 
 void ScreenItemModel::removalEnded()
 {
-    countRows();
+    m_rows.erase(m_rows.begin() + m_change.row, m_rows.begin() + m_change.row + m_change.count);
+    shiftSectionsBehind(m_change.section, -m_change.count);
     endRemoveRows();
 }
 
@@ -234,7 +248,7 @@ void ScreenItemModel::rowsChanged(std::size_t section, std::size_t first, std::s
 {
     const int row = flatRow(section, first);
     const int last = row + static_cast<int>(count) - 1;
-    std::fill(m_rows.begin() + row, m_rows.begin() + last + 1, std::nullopt);
+    std::for_each(m_rows.begin() + row, m_rows.begin() + last + 1, [](auto& kept) { kept.reset(); });
     Q_EMIT dataChanged(index(row), index(last));
 }
 

@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 
+#include <memory>
 #include <vector>
 
 namespace vidora {
@@ -79,16 +80,24 @@ private:
     void rowsChanged(std::size_t section, std::size_t first, std::size_t count) override;
     void surroundingsChanged() override;
 
+    struct Change
+    {
+        std::size_t section = 0;
+        int row = 0, count = 0;
+    };
+
     void countRows();
+    void shiftSectionsBehind(std::size_t section, int by);
     int flatRow(std::size_t section, std::size_t row) const;
     const ScreenRow& rowAt(int row) const;
     QVariant value(const ScreenRow& row, int flat, int role) const;
 
     const std::shared_ptr<ScreenModel> m_screen;
     RichTextStyle m_style;
-    std::vector<int> m_sectionStarts;                     ///< flat row of each section's first, and the count of all
-    mutable std::vector<std::optional<ScreenRow>> m_rows; ///< what was asked for since the last change
+    std::vector<int> m_sectionStarts; ///< flat row of each section's first, and the count of all
+    mutable std::vector<std::unique_ptr<const ScreenRow>> m_rows; ///< what was asked for since the last change
     bool m_moves = false;
+    Change m_change; ///< between the two calls of an insertion or a removal
 };
 
 } // namespace vidora

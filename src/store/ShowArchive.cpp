@@ -180,4 +180,19 @@ ShowList ShowArchive::unarchiveObjectWithFile(const QString& file)
     return list;
 }
 
+ShowList ShowArchive::firstShowsOfFile(const QString& file, std::size_t count,
+                                       const std::function<bool(const TVEntry&)>& takes)
+{
+    constexpr qint64 usual = 16 * 1024, growth = 8;
+    for (qint64 size = usual; size <= maximumFileSize; size *= growth) {
+        const std::optional<QByteArray> bytes = AtomicFile::readStart(file, size);
+        if (!bytes)
+            break;
+        ShowList list = ShowArchiveReader(*bytes).readFirst(count, takes);
+        if (list.size() == count || bytes->size() < size)
+            return list;
+    }
+    return {};
+}
+
 } // namespace vidora

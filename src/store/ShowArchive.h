@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 namespace vidora {
 
 /// The form in which a list of shows lies on disk: a CBOR sequence (RFC 8742) of the list and its checksum. The list is
@@ -31,6 +33,10 @@ public:
     static bool archiveRootObject(const ShowList& list, const QString& toFile, FileLayer& files = FileLayer::system());
     /// The list of a file; a missing, unreadable or damaged one is an empty list.
     static ShowList unarchiveObjectWithFile(const QString& file);
+    /// The first shows of a file that `takes` accepts, up to `count`, for a look ahead of the whole: reads no more than
+    /// it needs, and can't know whether the file is whole.
+    static ShowList firstShowsOfFile(const QString& file, std::size_t count,
+                                     const std::function<bool(const TVEntry&)>& takes);
 };
 
 } // namespace vidora

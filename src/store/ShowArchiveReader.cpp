@@ -41,6 +41,21 @@ ShowList ShowArchiveReader::readList()
     return list;
 }
 
+ShowList ShowArchiveReader::readFirst(std::size_t count, const std::function<bool(const TVEntry&)>& takes)
+{
+    ShowList list;
+    try {
+        require(m_reader.isArray() && m_reader.enterContainer());
+        while (list.size() < count && m_reader.hasNext()) {
+            Show show = readElement();
+            if (show && takes(*show->entry))
+                list.push_back(std::move(show));
+        }
+    } catch (const Malformed&) {
+    }
+    return list;
+}
+
 Show ShowArchiveReader::readElement()
 {
     ShowElement element;

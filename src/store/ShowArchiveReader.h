@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVarLengthArray>
 
+#include <functional>
 #include <string_view>
 
 namespace vidora {
@@ -21,8 +22,11 @@ public:
     };
 
     explicit ShowArchiveReader(const QByteArray& bytes);
-    /// The list that the bytes are. Once.
+    /// The list that the bytes are. Once, and not after the other one.
     ShowList readList();
+    /// Of a list of which the bytes are the start: the first shows that `takes` accepts, up to `count`. Fewer where the
+    /// bytes end ahead of them, which is no fault here. Once.
+    ShowList readFirst(std::size_t count, const std::function<bool(const TVEntry&)>& takes);
 
 private:
     /// Remembers the last text of a field that is mostly the same in a whole list, so that all records share it.

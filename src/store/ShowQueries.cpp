@@ -82,6 +82,23 @@ void TVListings::onAirShowsWithQueue(DispatchQueue& queue, std::function<void(st
         });
 }
 
+void TVListings::onAirShowsOfFilesWithQueue(DispatchQueue& queue,
+                                            std::function<void(std::vector<ShowList>)> block) const
+{
+    std::vector<QString> paths;
+    for (const ObjectId& channel : m_surroundings.selection.selected())
+        paths.push_back(listingsPath(channel));
+    const auto count = static_cast<std::size_t>(m_surroundings.settings.showCount());
+    DispatchQueue::global(QualityOfService::UserInteractive)
+        .async([&queue, paths = std::move(paths), count, now = m_surroundings.clock.now(), block = std::move(block)] {
+            std::vector<ShowList> result;
+            for (const QString& path : paths)
+                result.push_back(ShowArchive::firstShowsOfFile(
+                    path, count, [now](const TVEntry& entry) { return endsAfter(entry, now); }));
+            queue.async([block, result = std::move(result)] { block(result); });
+        });
+}
+
 void TVListings::showCountForSelectedChannelsForQueue(DispatchQueue& queue,
                                                       std::function<void(std::unordered_map<ObjectId, int>)> withBlock)
 {

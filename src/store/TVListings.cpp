@@ -30,7 +30,7 @@ void TVListings::load(const std::vector<ObjectId>& channels)
     const auto serialQueue = DispatchQueue::serial(QStringLiteral("ostrel.serialQueue"));
     DispatchGroup group;
     for (const ObjectId& channel : channels) {
-        group.async(DispatchQueue::global(QualityOfService::UserInitiated), [this, &loaded, &serialQueue, channel] {
+        group.async(DispatchQueue::global(m_surroundings.loadPriority), [this, &loaded, &serialQueue, channel] {
             auto list = std::make_shared<const ShowList>(
                 cutThePast(ShowArchive::unarchiveObjectWithFile(listingsPath(channel)), m_surroundings.clock.now()));
             if (!list->empty())

@@ -43,6 +43,7 @@ public:
         ApplicationLife& application;
         FileLayer& files = FileLayer::system();
         const FavoriteTitles* favorites = nullptr; ///< null: there are none
+        QualityOfService loadPriority = QualityOfService::UserInitiated;
     };
     using Completion = std::function<void()>;
     using ShowsBlock = std::function<void(SharedShowList)>;
@@ -99,6 +100,9 @@ public:
     /// For each selected channel, in order, its next shows up to `showCount`, the one on air first. A channel without a
     /// list is read from its file for this once.
     void onAirShowsWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block);
+    /// The same out of the beginnings of the files, whatever is in memory. Does not wait for the load: what a screen
+    /// shows until the load is done.
+    void onAirShowsOfFilesWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block) const;
     /// For each selected channel how many shows are ahead of it, up to `showCount`.
     void showCountForSelectedChannelsForQueue(DispatchQueue& queue,
                                               std::function<void(std::unordered_map<ObjectId, int>)> withBlock);

@@ -66,6 +66,44 @@ TEST_F(UpdateCycleTest, fetchesAFeedOnceForAllItsChannels)
     EXPECT_TRUE(device.session.takeRequests().isEmpty()) << "fresh lists are not fetched again";
 }
 
+TEST_F(UpdateCycleTest, handsTheChannelsOfALargeFeedOverInSmallPieces)
+{
+    struct Deliveries final : UpdateObserver
+    {
+        void passStarted(std::size_t) override {}
+        void fetching(const std::vector<ObjectId>&) override {}
+        void delivered(const std::unordered_map<ObjectId, ShowList>& lists) override
+        {
+            largest = std::max(largest, lists.size());
+            for (const auto& [channel, shows] : lists)
+                channels += shows.size() == 4;
+        }
+        void deliveryEnded() override { channelsAtEnd.push_back(channels); }
+        void passEnded(std::size_t, const std::vector<ObjectId>&) override { isOver = true; }
+        std::size_t largest = 0;
+        int channels = 0;
+        std::vector<int> channelsAtEnd;
+        bool isOver = false;
+    } deliveries;
+    std::vector<TestChannel> channels;
+    QStringList ids;
+    for (int i = 0; i < 50; ++i) {
+        ids << QString::number(i);
+        channels.push_back({QStringLiteral("58f4ded60befe78cb336%1").arg(i, 4, 10, QLatin1Char('0')),
+                            ids.back(),
+                            {QStringLiteral("n.") + ids.back()}});
+    }
+    device.session.answer(feedN, xml(guide(ids, QStringLiteral("N"))));
+    start(channels);
+    device.delegate->setUpdateObserver(&deliveries);
+    device.delegate->checkAndUpdateAllChannels();
+    DispatchQueue::runMain([&] { return deliveries.isOver; });
+    device.delegate->setUpdateObserver(nullptr);
+    EXPECT_EQ(deliveries.channels, 50);
+    EXPECT_LE(deliveries.largest, 16u);
+    EXPECT_EQ(deliveries.channelsAtEnd, std::vector<int>{50});
+}
+
 TEST_F(UpdateCycleTest, passesOverTheSecondSourceOfAChannelThatWasDelivered)
 {
     const auto served = with(one, {QStringLiteral("n.a"), QStringLiteral("tvpc.a")});

@@ -64,6 +64,25 @@ TEST_F(ModelChangesTest, HomeFollowsAPassChannelByChannel)
     EXPECT_EQ(watched.model.rowCount(), 5);
 }
 
+TEST_F(ModelChangesTest, HomeKeepsItsPlaceWhenTheSameRowsComeAgain)
+{
+    broadcast(1, words("a|b|c"));
+    start({channel(1, QStringLiteral("One")), channel(2, QStringLiteral("Two"))});
+    device.update();
+    WatchedModel watched(tabs->visibleScreen());
+    int resets = 0, changes = 0;
+    QObject::connect(&watched.model, &QAbstractItemModel::modelReset, [&] { ++resets; });
+    QObject::connect(&watched.model, &QAbstractItemModel::dataChanged, [&] { ++changes; });
+    home().selectedChannelsChanged();
+    DispatchQueue::runMain([&] { return changes > 0; });
+    EXPECT_EQ(watched.texts(), words("One|08:30 a|09:30 b|10:30 c|Two"));
+    EXPECT_EQ(resets, 0);
+    device.clock.advance(Seconds(3'601));
+    home().selectedChannelsChanged();
+    DispatchQueue::runMain([&] { return resets > 0; });
+    EXPECT_EQ(watched.texts(), words("One|09:30 b|10:30 c|Two"));
+}
+
 TEST_F(ModelChangesTest, ChannelIsReadAgainWhenItsPassIsOver)
 {
     broadcast(1, words("a|b"));

@@ -162,6 +162,34 @@ TEST(ShowArchive, HostileBytesCostLittle)
         EXPECT_THROW(ShowArchiveReader(bytes).readList(), ShowArchiveReader::Malformed);
 }
 
+TEST(ShowArchive, ReadsTheFirstShowsOfAFileFromItsStart)
+{
+    ShowList list{TestShow{QStringLiteral("over"), -60, 0}.show(channelId(7))};
+    for (int i = 0; i < 30; ++i) // each of 10,000 bytes
+        list.push_back(fullDraft().publish());
+    list.push_back(TestShow{QStringLiteral("last"), 60, 120}.show(channelId(7)));
+    const QTemporaryDir folder;
+    const QString whole = folder.filePath(QStringLiteral("whole"));
+    ShowArchive::archiveRootObject(list, whole);
+    const auto first = [](const QString& file, std::size_t count, bool (*takes)(const TVEntry&)) {
+        return ShowArchive::firstShowsOfFile(file, count, takes);
+    };
+    const auto all = [](const TVEntry&) { return true; };
+    const auto later = [](const TVEntry& entry) { return entry.endDateTime() > testNow; };
+    const auto latest = [](const TVEntry& entry) { return entry.dateTime() > testNow; };
+    for (const std::size_t count : {0, 1, 2, 31, 32, 40})
+        EXPECT_EQ(first(whole, count, all).size(), std::min<std::size_t>(count, 32));
+    ASSERT_EQ(first(whole, 1, later).size(), 1u);
+    EXPECT_EQ(fields(*first(whole, 1, later)[0]), fields(*ShowArchive::unarchiveObjectWithFile(whole)[1]));
+    EXPECT_EQ(titles(first(whole, 4, latest)), QStringList{QStringLiteral("last")});
+
+    const QString cut = folder.filePath(QStringLiteral("cut"));
+    QFile(whole).copy(cut);
+    QFile::resize(cut, 25'000);
+    EXPECT_EQ(first(cut, 4, all).size(), 3u) << "those that are there as a whole";
+    EXPECT_TRUE(first(folder.filePath(QStringLiteral("missing")), 4, all).empty());
+}
+
 // A disk that fails or tears a write at any step leaves the file that was there.
 TEST(ShowArchive, FailedWritesLeaveTheOldFile)
 {

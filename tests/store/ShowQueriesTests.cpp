@@ -80,6 +80,27 @@ TEST_F(ShowQueriesTest, OnAirAnswersForEachSelectedChannel)
     EXPECT_TRUE(cached(three)->empty()) << "a list read for a query isn't kept";
 }
 
+TEST_F(ShowQueriesTest, OnAirAnswersOutOfTheFilesAsOutOfTheLoadedLists)
+{
+    for (const ObjectId& channel : {one, three})
+        ShowArchive::archiveRootObject(*listOf(channel, {{"past"_s, -20, 0},
+                                                         {"a"_s, -10, 10},
+                                                         {"b"_s, 10, 20},
+                                                         {"c"_s, 20, 30},
+                                                         {"d"_s, 30, 40},
+                                                         {"e"_s, 40, 50}}),
+                                       file(channel));
+    start();
+    const auto ofFiles = answer<std::vector<ShowList>>(
+        [&](auto block) { listings->onAirShowsOfFilesWithQueue(DispatchQueue::main(), std::move(block)); });
+    const auto loaded = answer<std::vector<ShowList>>(
+        [&](auto block) { listings->onAirShowsWithQueue(DispatchQueue::main(), std::move(block)); });
+    ASSERT_EQ(ofFiles.size(), 3u);
+    for (std::size_t i = 0; i < ofFiles.size(); ++i)
+        EXPECT_EQ(titles(ofFiles[i]), titles(loaded[i]));
+    EXPECT_EQ(titles(ofFiles[2]), QStringList({"a"_s, "b"_s, "c"_s, "d"_s}));
+}
+
 TEST_F(ShowQueriesTest, Categories)
 {
     store(one, {{"unclassified"_s, 0, 10, {}},

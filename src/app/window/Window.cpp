@@ -143,7 +143,8 @@ int runWindow(const CommandLine& line)
     SingleInstance instance(homeOf(line));
     if (instance.handOver(address))
         return 0;
-    Device device(line, Device::Access::Write, true);
+    // The window is to open ahead of the lists, of which it looks into the beginnings first.
+    Device device(line, Device::Access::Write, true, QualityOfService::Background);
     int status = 1;
     {
         OpenWindow window(device);
