@@ -226,9 +226,7 @@ void FolderEventStore::add(Event& event)
     QString uid = event.url ? identityOf(*event.url) : freshIdentity(m_random);
     Place place{event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")};
     const auto present = find(place);
-    const bool same =
-        present && present->single && present->event.url == event.url && present->event.startDate == event.startDate;
-    if (same) {
+    if (present && present->single && event.url && present->event.url == event.url) { // be it moved by hand since
         event.eventIdentifier = identifierOf(place);
         const auto earlier = m_waiting.find(place);
         m_waiting.insert_or_assign(place,

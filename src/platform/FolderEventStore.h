@@ -16,7 +16,7 @@ namespace vidora {
 /// knows; whatever else the folder holds is never touched.
 ///
 /// A new event with an address gets its identity from that address, so that the same event made twice, here or by
-/// another device that shares the folder, is one event.
+/// another device that shares the folder, is one event, wherever the user has moved it.
 class FolderEventStore final : public EventStore
 {
 public:

@@ -163,6 +163,13 @@ TEST_F(FolderEventStoreTest, MakesAnEventOnce)
     ASSERT_FALSE(other->commit());
     ASSERT_EQ(all(*store).size(), 1U);
     Event moved = all(*store).at(0);
+    moved.startDate -= Seconds(900);
+    ASSERT_FALSE(other->saveEvent(moved, EventSpan::ThisEvent)); // by hand
+    Event wanted = broadcast(own(*store), QStringLiteral("Dnevnik"), start);
+    ASSERT_FALSE(store->saveEvent(wanted, EventSpan::ThisEvent));
+    EXPECT_EQ(all(*other).size(), 1U);
+    moved = all(*store).at(0);
+    EXPECT_EQ(moved.startDate, start);
     moved.url = URL::fromText(u"vidora://elsewhere/1");
     ASSERT_FALSE(store->saveEvent(moved, EventSpan::ThisEvent));
     Event again = broadcast(own(*store), QStringLiteral("Dnevnik"), start);
