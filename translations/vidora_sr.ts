@@ -442,9 +442,9 @@
     <message numerus="yes">
         <source>Skipped: %n programmes without a start and an end with an offset.</source>
         <translation>
-            <numerusform>Прескочено: %n емисија без почетка и краја са одступањем од УТЦ.</numerusform>
-            <numerusform>Прескочено: %n емисије без почетка и краја са одступањем од УТЦ.</numerusform>
-            <numerusform>Прескочено: %n емисија без почетка и краја са одступањем од УТЦ.</numerusform>
+            <numerusform>Прескочено: %n емисија без почетка и краја са одступањем од UTC.</numerusform>
+            <numerusform>Прескочено: %n емисије без почетка и краја са одступањем од UTC.</numerusform>
+            <numerusform>Прескочено: %n емисија без почетка и краја са одступањем од UTC.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

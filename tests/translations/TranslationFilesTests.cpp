@@ -61,8 +61,8 @@ Texts readTexts(const QString& path)
 /// space to which something will be joined.
 QStringList keptParts(const QString& text)
 {
-    static const QRegularExpression kept(
-        QStringLiteral("%[0-9n]|--[a-z-]+|\\bvidora [a-z-]+|\\d\\d:\\d\\d\\S*|\\bXMLTV\\b|^ | $"));
+    static const QRegularExpression kept(QStringLiteral(
+        "%[0-9n]|--[a-z-]+|\\bvidora [a-z-]+|\\bcalendars [a-z]+|\\d\\d:\\d\\d\\S*|\\b(?:XMLTV|CalDAV)\\b|^ | $"));
     QStringList parts;
     for (auto match = kept.globalMatch(text); match.hasNext();)
         parts << match.next().captured();
