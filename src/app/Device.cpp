@@ -161,6 +161,8 @@ void Device::endBySignal(int signal)
     m_endSignal = signal;
     m_network.invalidateAndCancel();
     m_sleeper.invalidateAndWake();
+    if (endRequested)
+        endRequested();
     // A second request ends the process where it stands: files are whole at every moment.
     m_mainBlocks.async([this] { m_signals.reset(); });
 }

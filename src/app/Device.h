@@ -48,6 +48,8 @@ public:
     /// command comes to its end by itself. Any thread.
     int endSignal() const { return m_endSignal; }
     bool isEnding() const { return m_endSignal != 0; }
+    /// Called on the main thread at the first such signal. May be empty.
+    std::function<void()> endRequested;
     /// Commits what is pending and ends everything that runs.
     void quit();
 

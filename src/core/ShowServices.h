@@ -3,9 +3,11 @@
 #include "content/ShowElement.h"
 #include "platform/ViewControllers.h"
 
+#include <QSize>
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -40,10 +42,12 @@ struct ShowImage
 {
     QString source;   ///< the address under which the window finds it; may be empty
     double width = 0; ///< in logical pixels; 0 for a show that is known to have no picture
+    /// The picture stays in memory, and `source` good, for as long as somebody has this.
+    std::shared_ptr<const void> held = {};
     friend bool operator==(const ShowImage&, const ShowImage&) = default;
 };
 
-/// Fetches and fits pictures of shows.
+/// Fetches and fits pictures of shows. What goes on when the window closes brings nothing any more.
 class ShowPictures
 {
 public:
@@ -54,6 +58,10 @@ public:
     virtual std::optional<ShowImage> image100AtURL(const URL& url, bool load) = 0;
     /// Returns at once; `received` is called on the main queue, and not at all on a failure.
     virtual void asyncLoadOfShowImageAtURL(const URL& url, Received received) = 0;
+    /// Returns at once. The picture fitted to `size`, in logical pixels, enlarged if need be. `mainBlock` is called on
+    /// the main queue, with nothing for a picture that can't be decoded; not at all when no answer comes.
+    virtual void imageAtURL(const URL& url, const QSize& size,
+                            std::function<void(const std::optional<ShowImage>& image)> mainBlock) = 0;
 };
 
 /// What a show's own page gave. Parts are present from the front.
@@ -79,7 +87,7 @@ public:
 struct ShowServices
 {
     ShowMarks* marks = nullptr;
-    ShowPictures* pictures = nullptr;
+    std::shared_ptr<ShowPictures> pictures = nullptr; ///< shared with work that is under way on other threads
     ShowDetails* details = nullptr;
 };
 

@@ -127,12 +127,13 @@ NetworkURLSession::Transfer::Transfer(CURLSH* share)
 URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 maximumBodySize,
                                            const std::atomic<bool>& cancelled)
 {
-    m_maximumBodySize = maximumBodySize;
+    m_maximumBodySize = std::min(maximumBodySize, request.maximumBodySize.value_or(maximumBodySize));
     m_headerSize = 0;
     m_body = QByteArray("");
     m_response = URLResponse();
     m_refusal.clear();
     const HeaderList headers(request.headerFields);
+    curl_easy_setopt(m_easy, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(m_maximumBodySize));
     curl_easy_setopt(m_easy, CURLOPT_URL, request.url.text().toUtf8().constData());
     curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers.list);
     setUp(request);
@@ -178,17 +179,18 @@ void NetworkURLSession::Transfer::setUp(const URLRequest& request)
 QString NetworkURLSession::Transfer::wait(const URLRequest& request, const std::atomic<bool>& cancelled)
 {
     const auto end = SteadyClock::now() + request.timeoutIntervalForResource;
+    // The session's end wakes a transfer up; a request's own is looked for.
+    const Milliseconds longestNap = request.cancelled ? Milliseconds(100) : Seconds(60);
     m_lastByte = SteadyClock::now();
     int running = 1;
     while (curl_multi_perform(m_multi, &running) == CURLM_OK && running > 0) {
         const auto deadline = std::min(end, m_lastByte + request.timeoutIntervalForRequest);
         const auto left = std::chrono::ceil<Milliseconds>(deadline - SteadyClock::now());
-        if (cancelled)
+        if (cancelled || (request.cancelled && *request.cancelled))
             return QStringLiteral("cancelled");
         if (left <= Milliseconds::zero())
             return QStringLiteral("timed out");
-        curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(std::min<Milliseconds>(left, Seconds(60)).count()),
-                        nullptr);
+        curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(std::min(left, longestNap).count()), nullptr);
     }
     int queued = 0;
     const CURLMsg* message = curl_multi_info_read(m_multi, &queued);

@@ -4,6 +4,10 @@
 #include "platform/Instant.h"
 #include "platform/URL.h"
 
+#include <atomic>
+#include <memory>
+#include <optional>
+
 namespace vidora {
 
 enum class CachePolicy
@@ -41,6 +45,10 @@ struct URLRequest
     /// The longest time for all of it.
     Milliseconds timeoutIntervalForResource{60'000};
     HeaderFields headerFields;
+    /// A longer body, decoded, is an error, and so is the announcement of one; without, what the session takes.
+    std::optional<qint64> maximumBodySize;
+    /// Once it is true the request ends with an error, within a moment. Null: it is not to be ended early.
+    std::shared_ptr<const std::atomic<bool>> cancelled;
     /// Requests of another method, with a body or with credentials never touch a cache.
     QByteArray httpMethod = "GET";
     std::optional<QByteArray> httpBody;

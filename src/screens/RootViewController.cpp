@@ -377,7 +377,7 @@ void RootViewController::rowDisplayed(RowPath path)
 
 void RootViewController::loadImage(const ObjectId& channel, const Show& show)
 {
-    ShowPictures* pictures = m_delegate.showServices().pictures;
+    const auto pictures = m_delegate.showServices().pictures;
     if (!pictures || show->pictures->empty())
         return;
     m_mainBlocks.after(pictureDelay, [this, pictures, channel, show] {

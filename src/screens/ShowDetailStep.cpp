@@ -4,11 +4,11 @@ namespace vidora {
 
 namespace {
 
-ShowImage anyImage(const std::optional<Pictures>& pictures, ShowPictures* source)
+ShowImage anyImage(const std::optional<Pictures>& pictures, const ShowServices& services)
 {
-    if (!source || !pictures || pictures->empty())
+    if (!services.pictures || !pictures || pictures->empty())
         return {};
-    return source->image100AtURL(*pictures->begin(), true).value_or(ShowImage());
+    return services.pictures->image100AtURL(*pictures->begin(), true).value_or(ShowImage());
 }
 
 /// The show with what its page gave; a part that it has already stays.
@@ -28,15 +28,15 @@ ShowImage loadShow(Show& show, const ShowServices& services)
     if (!show->entry->url()) {
         if (show->count() < 4 && services.details)
             services.details->findFilm(show);
-        return show->count() < 4 ? ShowImage() : anyImage(show->pictures, services.pictures);
+        return show->count() < 4 ? ShowImage() : anyImage(show->pictures, services);
     }
     if (show->count() >= 3)
-        return anyImage(show->pictures, services.pictures);
+        return anyImage(show->pictures, services);
     const auto description = services.details ? services.details->netDescriptionFor(show->entry) : std::nullopt;
     if (!description)
         return {};
     show = extended(show, *description);
-    return anyImage(description->pictures, services.pictures);
+    return anyImage(description->pictures, services);
 }
 
 } // namespace

@@ -194,6 +194,16 @@ TEST_F(NetworkURLSessionTest, ReportsFaultsWithoutDataInTheGivenTime)
     EXPECT_TRUE(session.perform(endless).error);
     NetworkURLSession small(1000);
     EXPECT_EQ(small.perform(request("/endless")).error->description, QStringLiteral("body too large"));
+    URLRequest picture = request("/endless");
+    picture.maximumBodySize = 1000;
+    EXPECT_EQ(session.perform(picture).error->description, QStringLiteral("body too large"));
+    picture = request("/cut");
+    picture.maximumBodySize = 999;
+    EXPECT_EQ(session.perform(picture).error->description, QStringLiteral("Maximum file size exceeded"))
+        << "refused by what is announced";
+    URLRequest unwanted = request("/silent");
+    unwanted.cancelled = std::make_shared<std::atomic<bool>>(true);
+    EXPECT_EQ(session.perform(unwanted).error->description, QStringLiteral("cancelled"));
     const URLResult cut = session.perform(request("/cut"));
     EXPECT_FALSE(cut.data);
     EXPECT_TRUE(cut.error);

@@ -1,46 +1,44 @@
+#include "TestPictures.h"
 #include "app/window/WindowImages.h"
 
-#include <QBuffer>
-#include <QtEndian>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <zlib.h>
 
 namespace vidora {
 namespace {
 
-QByteArray png(int width, int height)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
-
-/// A small picture whose header claims another size (ISO/IEC 15948, 11.2.2).
-QByteArray claiming(quint32 width, quint32 height)
-{
-    QByteArray data = png(4, 4);
-    qToBigEndian(width, data.data() + 16);
-    qToBigEndian(height, data.data() + 20);
-    const QByteArray header = data.mid(12, 17);
-    const auto checksum = crc32(0, reinterpret_cast<const Bytef*>(header.constData()), 17);
-    qToBigEndian(static_cast<quint32>(checksum), data.data() + 29);
-    return data;
-}
+using test::png;
 
 TEST(WindowImages, FitsPicturesAndRefusesWhatIsTooLarge)
 {
     const QSize bounds(99, 99);
     EXPECT_EQ(boundedImage::fromData(png(400, 200), bounds)->size(), QSize(99, 49));
     EXPECT_EQ(boundedImage::fromData(png(40, 20), bounds)->size(), QSize(40, 20));
-    for (const QByteArray& hostile :
-         {claiming(30'000, 30'000), claiming(16'000, 16'000), claiming(1, 100'000), png(20, 20).left(40), QByteArray(),
-          QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"),
-          QByteArray(static_cast<qsizetype>(boundedImage::maximumBytes) + 1, 'x')})
+    EXPECT_EQ(boundedImage::fromData(png(40, 20), bounds, boundedImage::Enlarging::Allowed)->size(), QSize(99, 49));
+    for (const QByteArray& hostile : {test::pngClaiming(30'000, 30'000), test::pngClaiming(16'000, 16'000),
+                                      test::pngClaiming(1, 100'000), png(20, 20).left(40), QByteArray(),
+                                      QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"),
+                                      QByteArray(static_cast<qsizetype>(boundedImage::maximumBytes) + 1, 'x')})
         EXPECT_FALSE(boundedImage::fromData(hostile, bounds)) << hostile.left(40).toStdString();
+}
+
+TEST(WindowImages, DrawsNothingThatReadsFilesOrMultiplies)
+{
+    const QTemporaryDir folder;
+    const auto drawing = [&](const char* content) {
+        QFile file(folder.filePath(QStringLiteral("icon.svg")));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(QByteArray("<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+                                  "width='10' height='5'>") +
+                       content + "</svg>");
+        return file.fileName();
+    };
+    const auto drawn = [&](const QString& path) { return boundedImage::fromFile(path, QSize(100, 72)); };
+    EXPECT_EQ(drawn(drawing("<rect width='10' height='5'/>"))->size(), QSize(100, 50));
+    EXPECT_FALSE(drawn(drawing("<image width='9' height='9' xlink:href='/etc/hostname'/>")));
+    EXPECT_FALSE(drawn(drawing("<g id='a'><rect width='1' height='1'/></g><g id='b'><use xlink:href='#a'/></g>")));
+    EXPECT_FALSE(drawn(folder.filePath(QStringLiteral("missing.svg"))));
 }
 
 TEST(WindowImages, DrawsSymbolsInAColour)

@@ -1,33 +1,34 @@
 #include "app/window/ShowPictureLoader.h"
 
 #include "app/window/WindowImages.h"
+#include "platform/WorkerPool.h"
 
 #include <QCryptographicHash>
 
 namespace vidora {
 
-QString ShowPictureShelf::put(const QString& address, QImage image)
+ShowImage ShowPictureShelf::put(const QString& address, QImage image, double scale)
 {
-    const QByteArray digest = QCryptographicHash::hash(address.toUtf8(), QCryptographicHash::Sha256);
+    const double width = image.width() / scale;
+    const QString name = QStringLiteral("%1x%2 %3").arg(image.width()).arg(image.height()).arg(address);
+    const QByteArray digest = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha256);
     const QString key = QString::fromLatin1(digest.toHex().left(32));
+    const auto held = std::make_shared<const QImage>(std::move(image));
     const std::lock_guard lock(m_mutex);
-    if (m_images.size() >= most)
-        m_images.erase(m_images.begin());
-    m_images.insert_or_assign(key, std::move(image));
-    return key;
+    if (m_images.size() >= m_tidyAt) {
+        std::erase_if(m_images, [](const auto& entry) { return entry.second.expired(); });
+        m_tidyAt = 2 * m_images.size() + 64;
+    }
+    m_images.insert_or_assign(key, held);
+    return {QLatin1String("image://pictures/") + key, width, held};
 }
 
 QImage ShowPictureShelf::get(const QString& key) const
 {
     const std::lock_guard lock(m_mutex);
     const auto at = m_images.find(key);
-    return at == m_images.end() ? QImage() : at->second;
-}
-
-void ShowPictureShelf::clear()
-{
-    const std::lock_guard lock(m_mutex);
-    m_images.clear();
+    const auto image = at == m_images.end() ? nullptr : at->second.lock();
+    return image ? *image : QImage();
 }
 
 ShowPictureImages::ShowPictureImages(std::shared_ptr<const ShowPictureShelf> shelf)
@@ -44,6 +45,24 @@ QImage ShowPictureImages::requestImage(const QString& id, QSize* size, const QSi
     return image;
 }
 
+namespace {
+
+URLRequest requestFor(const URL& url, Seconds request, Seconds resource)
+{
+    URLRequest made(url);
+    made.timeoutIntervalForRequest = request;
+    made.timeoutIntervalForResource = resource;
+    made.maximumBodySize = boundedImage::maximumBytes;
+    return made;
+}
+
+URLRequest requestOfRow(const URL& url)
+{
+    return requestFor(url, Seconds{20}, Seconds{30});
+}
+
+} // namespace
+
 ShowPictureLoader::ShowPictureLoader(VidoraAppDelegate& delegate, double limit, double scale)
     : m_delegate(delegate)
     , m_limit(limit)
@@ -52,41 +71,95 @@ ShowPictureLoader::ShowPictureLoader(VidoraAppDelegate& delegate, double limit, 
 {
 }
 
-ShowPictureLoader::~ShowPictureLoader()
+void ShowPictureLoader::stop()
 {
-    m_loadImageQueue->sync([] {});
+    *m_isStopped = true;
+    std::unique_lock lock(m_mutex);
+    m_idle.wait(lock, [this] { return m_running == 0; });
+}
+
+ShowPictureLoader::Body ShowPictureLoader::fetch(URLRequest request)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (*m_isStopped)
+            return std::nullopt;
+        ++m_running;
+    }
+    const BlockingScope blocking; // the pool's other work, the update pass among it, doesn't wait for a picture
+    request.headerFields.set("User-Agent", m_delegate.userAgent().value());
+    request.cancelled = m_isStopped;
+    m_delegate.networkActivity().startNetworkActivity();
+    URLResult result = m_delegate.session().perform(request);
+    m_delegate.networkActivity().stopNetworkActivity();
+    if (!result.data && result.error && request.cachePolicy == CachePolicy::ReturnCacheDataElseLoad && !*m_isStopped)
+        m_delegate.networkAlerts().noRemoteHostAlert(*result.error);
+    {
+        const std::lock_guard lock(m_mutex);
+        --m_running;
+        m_idle.notify_all();
+    }
+    return std::move(result.data);
+}
+
+std::optional<ShowImage> ShowPictureLoader::fitted(const URL& url, const QByteArray& data) const
+{
+    const int side = static_cast<int>(m_limit * m_scale);
+    auto image = boundedImage::fromData(data, QSize(side, side));
+    return image ? std::optional(m_shelf->put(url.text(), std::move(*image), m_scale)) : std::nullopt;
+}
+
+void ShowPictureLoader::deliver(DispatchQueue::Block block) const
+{
+    DispatchQueue::main().async([stopped = m_isStopped, block = std::move(block)] {
+        if (!*stopped)
+            block();
+    });
 }
 
 std::optional<ShowImage> ShowPictureLoader::image100AtURL(const URL& url, bool load)
 {
-    URLRequest request(url);
+    URLRequest request = requestOfRow(url);
     request.cachePolicy = load ? CachePolicy::ReturnCacheDataElseLoad : CachePolicy::ReturnCacheDataDontLoad;
-    request.timeoutIntervalForRequest = Seconds{20};
-    request.timeoutIntervalForResource = Seconds{30};
-    request.headerFields.set("User-Agent", m_delegate.userAgent().value());
-    m_delegate.networkActivity().startNetworkActivity();
-    const URLResult result = m_delegate.session().perform(request);
-    m_delegate.networkActivity().stopNetworkActivity();
-    if (!result.data) {
-        if (load && result.error)
-            m_delegate.networkAlerts().noRemoteHostAlert(*result.error);
-        return std::nullopt;
-    }
-    const int side = static_cast<int>(m_limit * m_scale);
-    auto image = boundedImage::fromData(*result.data, QSize(side, side));
-    if (!image)
-        return std::nullopt;
-    const double width = image->width() / m_scale;
-    const QString key = m_shelf->put(url.text(), std::move(*image));
-    return ShowImage{QLatin1String("image://pictures/") + key, width};
+    const Body data = fetch(std::move(request));
+    return data ? fitted(url, *data) : std::nullopt;
+}
+
+void ShowPictureLoader::fetchInTurn(const URLRequest& request, std::function<void(const QByteArray&)> received)
+{
+    m_loadImageQueue->async([self = shared_from_this(), request, received = std::move(received)] {
+        {
+            const BlockingScope blocking;
+            self->m_turns.acquire();
+        }
+        DispatchQueue::global(QualityOfService::UserInitiated).async([self, request, received] {
+            const Body data = self->fetch(request);
+            self->m_turns.release();
+            if (data)
+                DispatchQueue::global(QualityOfService::Background).async([received, data] { received(*data); });
+        });
+    });
 }
 
 void ShowPictureLoader::asyncLoadOfShowImageAtURL(const URL& url, Received received)
 {
-    m_loadImageQueue->async([this, url, received = m_mainBlocks.guarded(std::move(received))] {
-        if (const auto image = image100AtURL(url, true))
-            DispatchQueue::main().async([received, image] { received(*image); });
+    fetchInTurn(requestOfRow(url), [self = shared_from_this(), url, received](const QByteArray& data) {
+        if (const auto image = self->fitted(url, data))
+            self->deliver([received, image] { received(*image); });
     });
+}
+
+void ShowPictureLoader::imageAtURL(const URL& url, const QSize& size,
+                                   std::function<void(const std::optional<ShowImage>&)> mainBlock)
+{
+    fetchInTurn(requestFor(url, Seconds{10}, Seconds{20}),
+                [self = shared_from_this(), url, size, mainBlock](const QByteArray& data) {
+                    auto image = boundedImage::fromData(data, size * self->m_scale, boundedImage::Enlarging::Allowed);
+                    std::optional<ShowImage> fitted;
+                    if (image)
+                        fitted = self->m_shelf->put(url.text(), std::move(*image), self->m_scale);
+                    self->deliver([mainBlock, fitted] { mainBlock(fitted); });
+                });
 }
 
 } // namespace vidora

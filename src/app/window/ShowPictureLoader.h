@@ -7,26 +7,26 @@
 #include <QImage>
 #include <QQuickImageProvider>
 
+#include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <semaphore>
 #include <unordered_map>
 
 namespace vidora {
 
-/// The fitted pictures of shows that were received, by the key under which QML asks for them. Any thread.
+/// The fitted pictures of shows, by the key under which QML asks for them: those that somebody still holds. Any thread.
 class ShowPictureShelf
 {
 public:
-    QString put(const QString& address, QImage image);
+    /// `scale`: physical pixels of the picture to a logical one.
+    ShowImage put(const QString& address, QImage image, double scale);
     QImage get(const QString& key) const;
-    void clear();
 
 private:
-    /// What rows in sight and those near them need, many times over.
-    static constexpr std::size_t most = 1'000;
-
     mutable std::mutex m_mutex;
-    std::unordered_map<QString, QImage> m_images;
+    std::unordered_map<QString, std::weak_ptr<const QImage>> m_images;
+    std::size_t m_tidyAt = 64; ///< when so many are known, those that are gone are struck off
 };
 
 /// "image://pictures/KEY".
@@ -40,28 +40,44 @@ private:
     const std::shared_ptr<const ShowPictureShelf> m_shelf;
 };
 
-/// Fetches pictures through the shared response cache, refuses what is too large from its header, and keeps them
-/// fitted.
-class ShowPictureLoader final : public ShowPictures
+/// Fetches pictures through the shared response cache, a few side by side, refuses what is too large before it is
+/// decoded, and decodes and fits away from the main thread. Held by shared pointers.
+class ShowPictureLoader final : public ShowPictures, public std::enable_shared_from_this<ShowPictureLoader>
 {
 public:
-    /// The delegate outlives this object. `limit`: longest side of a fitted picture, in logical pixels; `scale`: of the
-    /// screen.
+    /// `limit`: longest side of a fitted picture, in logical pixels; `scale`: of the screen. The delegate must live
+    /// until `stop`.
     ShowPictureLoader(VidoraAppDelegate& delegate, double limit, double scale);
-    /// On the main thread. Waits for the request that is under way.
-    ~ShowPictureLoader() override;
+
+    /// Ends what is under way: nothing is fetched or received any more, and the delegate is not used. Main thread.
+    void stop();
 
     std::optional<ShowImage> image100AtURL(const URL& url, bool load) override;
     void asyncLoadOfShowImageAtURL(const URL& url, Received received) override;
+    void imageAtURL(const URL& url, const QSize& size,
+                    std::function<void(const std::optional<ShowImage>& image)> mainBlock) override;
 
-    std::shared_ptr<ShowPictureShelf> shelf() const { return m_shelf; }
+    std::shared_ptr<const ShowPictureShelf> shelf() const { return m_shelf; }
 
 private:
+    using Body = std::optional<QByteArray>;
+    Body fetch(URLRequest request);
+    /// Fetches in its turn; `received` is called on a queue of the background, and not at all when nothing came.
+    void fetchInTurn(const URLRequest& request, std::function<void(const QByteArray& data)> received);
+    std::optional<ShowImage> fitted(const URL& url, const QByteArray& data) const;
+    void deliver(DispatchQueue::Block block) const;
+
+    static constexpr std::ptrdiff_t sideBySide = 6;
+
     VidoraAppDelegate& m_delegate;
     const double m_limit, m_scale;
     const std::shared_ptr<ShowPictureShelf> m_shelf = std::make_shared<ShowPictureShelf>();
-    const BlockOwner m_mainBlocks;
-    std::shared_ptr<DispatchQueue> m_loadImageQueue;
+    const std::shared_ptr<DispatchQueue> m_loadImageQueue;
+    const std::shared_ptr<std::atomic<bool>> m_isStopped = std::make_shared<std::atomic<bool>>(false);
+    std::counting_semaphore<sideBySide> m_turns{sideBySide};
+    std::mutex m_mutex;
+    std::condition_variable m_idle;
+    int m_running = 0; ///< requests that use the delegate
 };
 
 } // namespace vidora

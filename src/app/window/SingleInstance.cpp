@@ -44,6 +44,12 @@ void SingleInstance::listen(std::function<void(const QString&)> handler)
         Log::line(QStringLiteral("single instance: %1").arg(m_server.errorString()));
 }
 
+void SingleInstance::close()
+{
+    m_server.close();
+    m_handler = {};
+}
+
 void SingleInstance::receive()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
@@ -54,10 +60,12 @@ void SingleInstance::receive()
             if (!socket->canReadLine())
                 return;
             const QString message = QString::fromUtf8(socket->readLine(longestMessage)).trimmed();
-            socket->write("ok\n");
+            if (m_handler)
+                socket->write("ok\n");
             socket->flush();
             socket->disconnectFromServer();
-            m_handler(message);
+            if (m_handler)
+                m_handler(message);
         };
         QObject::connect(socket, &QLocalSocket::readyRead, socket, read);
         read();

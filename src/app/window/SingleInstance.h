@@ -20,6 +20,8 @@ public:
     bool handOver(const QString& message) const;
     /// Becomes the one that others hand over to. Called with each message, on the main thread.
     void listen(std::function<void(const QString& message)> handler);
+    /// Nobody hands over to this process any more.
+    void close();
 
 private:
     void receive();

@@ -9,7 +9,6 @@
 #include "app/window/WindowModel.h"
 #include "platform/Log.h"
 #include "platform/MemoryWarnings.h"
-#include "platform/Signals.h"
 #include "platform/SignificantTimeChange.h"
 
 #include <QDirIterator>
@@ -27,6 +26,7 @@ namespace vidora {
 
 namespace {
 
+constexpr int endedBySignal = 128; // as shells have it
 const QString modules = QStringLiteral("qrc:/qt/qml");
 const QString files = QStringLiteral(":/qt/qml/Vidora");
 
@@ -54,20 +54,21 @@ class OpenWindow
 public:
     explicit OpenWindow(Device& device)
         : m_device(device)
-        , m_pictures(delegate(), pictureLimit(), QGuiApplication::primaryScreen()->devicePixelRatio())
+        , m_pictures(std::make_shared<ShowPictureLoader>(delegate(), pictureLimit(),
+                                                         QGuiApplication::primaryScreen()->devicePixelRatio()))
         , m_model(delegate())
         , m_appearance([this](bool dark) { m_model.setDark(chosenAppearance().value_or(dark)); })
-        , m_memoryWarnings([this] { memoryWarning(); }, device.clock())
+        , m_memoryWarnings([this] { memoryWarning(); }, m_machineClock)
         , m_timeChange([this] { delegate().applicationSignificantTimeChange(); })
-        , m_signals([](int) { QCoreApplication::quit(); })
     {
         ShowServices services = delegate().showServices();
-        services.pictures = &m_pictures;
+        services.pictures = m_pictures;
         delegate().setShowServices(services);
         delegate().applicationIconBadge = [this](int count) { m_badge.setCount(count); };
         delegate().updateBadge();
+        m_device.endRequested = [] { QCoreApplication::quit(); };
         prepareEngine(m_engine);
-        m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures.shelf()));
+        m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures->shelf()));
         m_engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue<QObject*>(&m_model)}});
         m_engine.load(QUrl(modules + QLatin1String("/Vidora/Main.qml")));
     }
@@ -76,22 +77,25 @@ public:
     {
         delegate().setShowServices({});
         delegate().applicationIconBadge = {};
+        m_device.endRequested = {};
+        m_pictures->stop();
     }
 
     bool isOpen() const { return !m_engine.rootObjects().isEmpty(); }
 
     void receive(const QString& address)
     {
-        if (auto* window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0))) {
-            window->show();
-            window->raise();
-            window->requestActivate();
+        if (QQuickWindow* shown = window()) {
+            shown->show();
+            shown->raise();
+            shown->requestActivate();
         }
         m_model.openAddress(address);
     }
 
 private:
     VidoraAppDelegate& delegate() { return m_device.delegate(); }
+    QQuickWindow* window() { return qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0)); }
 
     /// What the user set by hand, whatever the desktop says.
     std::optional<bool> chosenAppearance()
@@ -102,10 +106,12 @@ private:
         return chosen == QLatin1String("light") ? std::optional(false) : std::nullopt;
     }
 
+    /// What only the window has; the device tells the delegate. Icons and pictures out of sight are made anew on
+    /// demand.
     void memoryWarning()
     {
-        delegate().applicationDidReceiveMemoryWarning();
-        m_pictures.shelf()->clear();
+        if (QQuickWindow* shown = window())
+            shown->releaseResources();
         m_engine.trimComponentCache();
     }
 
@@ -119,12 +125,12 @@ private:
 
     Device& m_device;
     LauncherBadge m_badge;
-    ShowPictureLoader m_pictures;
+    const std::shared_ptr<ShowPictureLoader> m_pictures;
     WindowModel m_model;
     Appearance m_appearance;
+    const SystemClock m_machineClock;
     MemoryWarnings m_memoryWarnings;
     SignificantTimeChange m_timeChange;
-    Signals m_signals;
     QQmlApplicationEngine m_engine;
 };
 
@@ -154,10 +160,11 @@ int runWindow(const CommandLine& line)
             if (!address.isEmpty())
                 DispatchQueue::main().async([&] { window.receive(address); });
             status = QCoreApplication::exec();
+            instance.close(); // from here on a second start waits for the home instead
         }
     }
     device.quit();
-    return status;
+    return device.isEnding() ? endedBySignal + device.endSignal() : status;
 }
 
 int testWindow()

@@ -2,12 +2,12 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 namespace vidora {
 
@@ -21,19 +21,27 @@ bool isOfTheWeb(const QByteArray& format)
     return formats.contains(format);
 }
 
+/// An SVG document (SVG 1.1) without what reads files, or multiplies what there is to draw.
+bool isPlainDrawing(const QByteArray& data)
+{
+    constexpr std::array hostile{"<use", "<image", "<!ENTITY", ":use", ":image", "<!DOCTYPE"};
+    return std::none_of(hostile.begin(), hostile.end(), [&](const char* mark) { return data.contains(mark); });
+}
+
 bool isBounded(QSize size)
 {
     return size.width() > 0 && size.height() > 0 && size.width() <= maximumSide && size.height() <= maximumSide &&
            static_cast<qint64>(size.width()) * size.height() <= maximumPixels;
 }
 
-std::optional<QImage> read(QImageReader& reader, QSize bounds, bool enlarges)
+std::optional<QImage> read(QImageReader& reader, QSize bounds, Enlarging enlarging)
 {
     const QSize size = reader.size();
     if (!isBounded(size))
         return std::nullopt;
-    const QSize fitted = size.scaled(bounds, Qt::KeepAspectRatio);
-    if (enlarges || fitted.width() < size.width())
+    const bool liesOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize fitted = size.scaled(liesOnItsSide ? bounds.transposed() : bounds, Qt::KeepAspectRatio);
+    if (enlarging == Enlarging::Allowed || fitted.width() < size.width() || fitted.height() < size.height())
         reader.setScaledSize(fitted.expandedTo(QSize(1, 1)));
     reader.setAutoTransform(true);
     QImage image = reader.read();
@@ -42,7 +50,7 @@ std::optional<QImage> read(QImageReader& reader, QSize bounds, bool enlarges)
 
 } // namespace
 
-std::optional<QImage> fromData(const QByteArray& data, QSize bounds)
+std::optional<QImage> fromData(const QByteArray& data, QSize bounds, Enlarging enlarging)
 {
     if (data.size() > maximumBytes)
         return std::nullopt;
@@ -50,17 +58,24 @@ std::optional<QImage> fromData(const QByteArray& data, QSize bounds)
     buffer.setData(data);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
-    return isOfTheWeb(reader.format()) ? read(reader, bounds, false) : std::nullopt;
+    return isOfTheWeb(reader.format()) ? read(reader, bounds, enlarging) : std::nullopt;
 }
 
 std::optional<QImage> fromFile(const QString& path, QSize bounds)
 {
-    if (QFileInfo(path).size() > maximumBytes)
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    QImageReader reader(path);
+    const QByteArray data = file.read(maximumBytes + 1);
+    if (data.size() > maximumBytes)
+        return std::nullopt;
+    QBuffer buffer;
+    buffer.setData(data);
+    QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
-    const bool isDrawing = reader.format() == "svg" || reader.format() == "svgz";
-    return isDrawing || isOfTheWeb(reader.format()) ? read(reader, bounds, true) : std::nullopt;
+    if (reader.format() == "svg" ? isPlainDrawing(data) : isOfTheWeb(reader.format()))
+        return read(reader, bounds, Enlarging::Allowed);
+    return std::nullopt;
 }
 
 } // namespace boundedImage

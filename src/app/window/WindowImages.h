@@ -18,9 +18,16 @@ constexpr qint64 maximumBytes = 16 * 1024 * 1024;
 constexpr qint64 maximumPixels = 40'000'000;
 constexpr int maximumSide = 16'384;
 
-/// Of the web: JPEG, PNG, GIF, WebP, BMP by their content, at most `bounds` large, never enlarged.
-std::optional<QImage> fromData(const QByteArray& data, QSize bounds);
-/// Of the program and of guides: the same and SVG, fitted into `bounds`, enlarged too.
+enum class Enlarging
+{
+    Never,
+    Allowed
+};
+
+/// Of the web: JPEG, PNG, GIF, WebP, BMP by their content, fitted into `bounds`.
+std::optional<QImage> fromData(const QByteArray& data, QSize bounds, Enlarging enlarging = Enlarging::Never);
+/// Of the program and of guides: the same and SVG, fitted into `bounds`, enlarged too. A drawing that refers to other
+/// files, or to itself over and over, is refused.
 std::optional<QImage> fromFile(const QString& path, QSize bounds);
 
 } // namespace boundedImage

@@ -1,0 +1,120 @@
+#include "TestPictures.h"
+#include "app/window/ShowPictureLoader.h"
+#include "app/window/WindowImages.h"
+#include "support/TestDevice.h"
+
+#include <QtTest/QTest>
+
+#include <gmock/gmock.h>
+
+namespace vidora {
+namespace {
+
+class ShowPictureTest : public ::testing::Test
+{
+protected:
+    ShowPictureTest()
+    {
+        device.setCatalogue({});
+        device.launch();
+        loader = std::make_shared<ShowPictureLoader>(*device.delegate, 99.0, 2.0);
+        device.delegate->tabBarController().alertPresented = [this](const Alert&) { ++alerts; };
+        device.clock.advance(Seconds(61)); // behind the quiet time of the start
+    }
+    ~ShowPictureTest() override { loader->stop(); }
+
+    URL serve(const char* name, const QByteArray& body, const char* type = "image/png")
+    {
+        const QString address = QStringLiteral("http://pictures.example/") + QString::fromLatin1(name);
+        device.session.answer(address, {200, body, type, {}});
+        return *URL::fromText(address);
+    }
+    QSize sizeOf(const std::optional<ShowImage>& image) const
+    {
+        return image ? loader->shelf()->get(image->source.section(QLatin1Char('/'), -1)).size() : QSize();
+    }
+    /// On the threads on which it may be called.
+    std::optional<ShowImage> image100(const URL& url, bool load = true)
+    {
+        std::optional<ShowImage> image;
+        const auto queue = DispatchQueue::serial(QStringLiteral("test"));
+        queue->sync([&] { image = loader->image100AtURL(url, load); });
+        test::settle();
+        return image;
+    }
+
+    test::TestDevice device;
+    std::shared_ptr<ShowPictureLoader> loader;
+    int alerts = 0;
+};
+
+TEST_F(ShowPictureTest, FetchesOnceAndFitsWithoutEnlarging)
+{
+    const URL large = serve("large.png", test::png(800, 400)), small = serve("small.png", test::png(40, 60));
+    EXPECT_FALSE(image100(large, false)) << "not in the cache";
+    EXPECT_EQ(alerts, 0);
+    const auto first = image100(large);
+    EXPECT_EQ(sizeOf(first), QSize(198, 99));
+    EXPECT_EQ(first->width, 99);
+    EXPECT_EQ(sizeOf(image100(large, false)), QSize(198, 99));
+    EXPECT_EQ(sizeOf(image100(small)), QSize(40, 60));
+    EXPECT_EQ(device.session.takeRequests(), (QStringList{large.text(), small.text()}));
+
+    std::optional<ShowImage> enlarged;
+    loader->imageAtURL(small, QSize(100, 120), [&](const auto& image) { enlarged = image; });
+    DispatchQueue::runMain([&] { return enlarged.has_value(); });
+    EXPECT_EQ(sizeOf(enlarged), QSize(160, 240));
+    EXPECT_TRUE(device.session.takeRequests().isEmpty());
+}
+
+TEST_F(ShowPictureTest, KeepsAPictureWhileItIsHeldAndEmptiesTheCacheAtAWarning)
+{
+    const URL url = serve("show.png", test::png(300, 300));
+    std::optional<ShowImage> image;
+    loader->asyncLoadOfShowImageAtURL(url, [&](const ShowImage& received) { image = received; });
+    DispatchQueue::runMain([&] { return image.has_value(); });
+    device.delegate->applicationDidReceiveMemoryWarning();
+    EXPECT_EQ(sizeOf(image), QSize(198, 198)) << "a row shows it";
+    EXPECT_FALSE(image100(url, false)) << "the cache is empty";
+    const ShowImage gone{image->source, 0};
+    image.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sizeOf(gone).isEmpty(); }, 60'000)) << "nobody holds it";
+}
+
+TEST_F(ShowPictureTest, HostilePicturesShowNothing)
+{
+    const QByteArray whole = test::png(300, 300);
+    for (const QByteArray& body : {whole.left(whole.size() / 2), whole.left(20), QByteArray("<html>404</html>"),
+                                   QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"),
+                                   test::pngClaiming(30'000, 30'000)}) {
+        const URL url = serve("hostile.png", body);
+        EXPECT_FALSE(image100(url)) << body.left(30).toStdString();
+        int answers = 0;
+        loader->imageAtURL(url, QSize(50, 50), [&](const auto& image) {
+            EXPECT_FALSE(image);
+            ++answers;
+        });
+        DispatchQueue::runMain([&] { return answers == 1; });
+        device.delegate->applicationDidReceiveMemoryWarning();
+    }
+    EXPECT_EQ(alerts, 0) << "somebody answered";
+    EXPECT_FALSE(image100(*URL::fromText(u"http://nowhere.example/show.png")));
+    EXPECT_EQ(alerts, 1);
+}
+
+TEST_F(ShowPictureTest, BringsNothingAnyMoreOnceStopped)
+{
+    const URL url = serve("show.png", test::png(300, 300));
+    bool received = false;
+    loader->asyncLoadOfShowImageAtURL(url, [&](const ShowImage&) { received = true; });
+    loader->stop();
+    EXPECT_FALSE(image100(url));
+    device.delegate.reset(); // what still waits for its turn must not touch it
+    loader->asyncLoadOfShowImageAtURL(url, [&](const ShowImage&) { received = true; });
+    DispatchQueue::global(QualityOfService::Background).sync([] {});
+    test::settle();
+    EXPECT_FALSE(received);
+}
+
+} // namespace
+} // namespace vidora
