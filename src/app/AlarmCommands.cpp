@@ -325,16 +325,16 @@ void AlarmRun::alarm()
     if (start - std::chrono::minutes(lead) <= m_device.clock().now())
         throw Refusal{localized("It is too late for an alarm %n minutes ahead.", static_cast<std::size_t>(lead))};
     const QString title = entry.identificator().value_or(QString());
-    // What belongs to no favourite goes with the next synchronisation that finds favourites.
-    const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
-    if (!isFollowed)
-        m_engine.addFavorite(title);
     m_engine.removeAlarmForTitle(title, entry.channel(), start, true, m_engine.alarmedEntry(entry) >= 0);
     settle();
     m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
     settle();
     if (m_engine.alarmedEntry(entry) < 0)
         throw Refusal{translated("No alarm was set: no calendar can be written.")};
+    // What belongs to no favourite goes with the next synchronisation that finds favourites.
+    const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
+    if (!isFollowed)
+        m_engine.addFavorite(title);
     QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show));
     if (!isFollowed)
         text += QLatin1Char('\n') + translated("A favourite: %1").arg(title);
