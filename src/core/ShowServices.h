@@ -23,6 +23,7 @@ struct SwipeAction
     bool destructive = false;
     QString colour; ///< role of the background; empty for the usual one
     std::function<void()> perform;
+    QString description{}; ///< what it does, for those who can't tell by the title
 };
 
 /// What favourites and alarms know of a show. Main thread.

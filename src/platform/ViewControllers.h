@@ -42,8 +42,16 @@ struct TabBarItem
 
 struct AlertAction
 {
+    enum class Style
+    {
+        Default,
+        Cancel,     ///< leaves everything as it is; also what Escape means
+        Destructive ///< can't be undone
+    };
+
     QString title;
     std::function<void()> handler; ///< may be empty
+    Style style = Style::Default;
 };
 
 /// A message that the user must answer.

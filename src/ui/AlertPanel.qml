@@ -2,16 +2,26 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
 
-// A message that must be answered: by one of its buttons, never by a tap beside it.
+// A message that must be answered: by one of its buttons, never by a tap beside it. Escape means the one that leaves
+// everything as it is, or the only one.
 Popup {
     id: panel
 
+    /// "title", "message" and "actions": maps of "title", "cancels" and "destructive".
     property var alert: ({ title: "", message: "", actions: [] })
+    readonly property int cancelling: alert.actions.length === 1 ? 0 : alert.actions.findIndex(action => action.cancels)
+    readonly property int usual: cancelling >= 0 ? cancelling : alert.actions.length - 1
     signal answered(int index)
 
     function show(message) {
         alert = message
         open()
+    }
+    function answer(index) {
+        if (index < 0 || !opened)
+            return
+        close()
+        answered(index)
     }
 
     parent: Overlay.overlay
@@ -21,7 +31,7 @@ Popup {
     modal: true
     focus: true
     closePolicy: Popup.NoAutoClose
-    onOpened: if (buttons.count > 0) buttons.itemAt(buttons.count - 1).forceActiveFocus(Qt.TabFocusReason)
+    onOpened: buttons.itemAt(usual)?.forceActiveFocus(Qt.TabFocusReason)
 
     Overlay.modal: Rectangle { color: Theme.scrim }
     background: Rectangle {
@@ -31,49 +41,68 @@ Popup {
         border.color: Theme.separator
     }
     contentItem: ColumnLayout {
-        spacing: 8
+        spacing: 12
         Accessible.role: Accessible.AlertMessage
         Accessible.name: panel.alert.title + ". " + panel.alert.message
-        Keys.onEscapePressed: panel.answer(0)
-        Text {
+        Keys.onEscapePressed: panel.answer(panel.cancelling)
+        Flickable {
             Layout.fillWidth: true
-            text: panel.alert.title
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
-            font.pixelSize: Theme.title
-            font.weight: Font.Bold
-            color: Theme.label
+            implicitHeight: Math.min(texts.height, panel.parent ? panel.parent.height / 2 : 400)
+            contentHeight: texts.height
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+            Column {
+                id: texts
+                width: parent.width
+                spacing: 8
+                Text {
+                    width: parent.width
+                    text: panel.alert.title
+                    textFormat: Text.PlainText
+                    wrapMode: Text.Wrap
+                    horizontalAlignment: Text.AlignHCenter
+                    font.pixelSize: Theme.title
+                    font.weight: Font.Bold
+                    color: Theme.label
+                }
+                Text {
+                    width: parent.width
+                    text: panel.alert.message
+                    textFormat: Text.PlainText
+                    wrapMode: Text.Wrap
+                    horizontalAlignment: Text.AlignHCenter
+                    font.pixelSize: Theme.body
+                    color: Theme.secondaryLabel
+                }
+            }
         }
-        Text {
+        GridLayout {
+            id: line
             Layout.fillWidth: true
-            text: panel.alert.message
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
-            font.pixelSize: Theme.body
-            color: Theme.secondaryLabel
-        }
-        RowLayout {
-            Layout.topMargin: 8
-            spacing: 8
+            columns: fits ? Math.max(1, buttons.count) : 1
+            columnSpacing: 8
+            rowSpacing: 4
+            readonly property bool fits: {
+                let wanted = 0
+                for (let i = 0; i < buttons.count; ++i)
+                    wanted += (buttons.itemAt(i)?.implicitWidth ?? 0) + columnSpacing
+                return wanted <= panel.width - 2 * panel.padding + columnSpacing
+            }
             Repeater {
                 id: buttons
                 model: panel.alert.actions
                 TextButton {
-                    required property string modelData
+                    required property var modelData
                     required property int index
                     Layout.fillWidth: true
-                    text: modelData
-                    prominent: index === buttons.count - 1
+                    Layout.minimumWidth: 0
+                    text: modelData.title
+                    destructive: modelData.destructive ?? false
+                    prominent: !destructive && (!modelData.cancels || buttons.count === 1)
                     onClicked: panel.answer(index)
                 }
             }
         }
-    }
-
-    function answer(index) {
-        close()
-        answered(index)
     }
 }

@@ -9,12 +9,18 @@ Menu {
     property var actions: []
     signal chosen(int index)
 
-    width: Math.max(200, Math.min(340, widest + 44))
+    width: Math.max(200, Math.min(340, metrics.width + 60))
     padding: 6
     margins: 8
     modal: true
     dim: false
-    property real widest: 0
+
+    TextMetrics {
+        id: metrics
+        font.pixelSize: Theme.body
+        text: menu.actions.map(action => menu.textOf(action)).sort((a, b) => a.length - b.length).pop() ?? ""
+    }
+    function textOf(action) { return [action.title, action.description].filter(part => part).join("  ") }
 
     background: Rectangle {
         radius: Theme.radius
@@ -31,7 +37,7 @@ Menu {
             required property var modelData
             required property int index
             implicitHeight: Math.max(Theme.touchTarget, label.implicitHeight + 16)
-            text: [modelData.title, modelData.description].filter(part => part).join("  ")
+            text: menu.textOf(modelData)
             Accessible.role: Accessible.MenuItem
             Accessible.name: modelData.description || modelData.title
             onTriggered: menu.chosen(index)
@@ -48,7 +54,6 @@ Menu {
                 verticalAlignment: Text.AlignVCenter
                 font.pixelSize: Theme.body
                 color: item.modelData.destructive ? Theme.destructive : Theme.label
-                Component.onCompleted: menu.widest = Math.max(menu.widest, implicitWidth)
             }
         }
     }

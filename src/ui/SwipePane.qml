@@ -15,6 +15,7 @@ Item {
     /// A drag begins: whoever has the actions gives them now.
     signal uncovering()
     signal performed(int index)
+    signal menuWanted(real x, real y)
 
     function close() { rest = 0 }
 
@@ -51,16 +52,22 @@ Item {
             enabled: !handler.active
             NumberAnimation { duration: 160; easing.type: Easing.OutCubic }
         }
+        TapHandler { // on the row itself a right button would also be a click
+            acceptedButtons: Qt.RightButton
+            onTapped: point => pane.menuWanted(point.position.x, point.position.y)
+        }
         DragHandler {
             id: handler
             target: null
             enabled: pane.swipeable
             yAxis.enabled: false
             onActiveChanged: {
-                if (active)
+                if (active) {
                     pane.uncovering()
-                else
+                    tray.forceLayout()
+                } else {
                     pane.rest = pane.drawnAtRelease > tray.width / 2 ? tray.width : 0
+                }
             }
             onActiveTranslationChanged: if (active) pane.drawnAtRelease = pane.drawn
         }

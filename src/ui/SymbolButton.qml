@@ -18,8 +18,8 @@ AbstractButton {
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.Button
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 
     ToolTip.visible: hovered && text !== ""
     ToolTip.delay: 700

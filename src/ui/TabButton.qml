@@ -21,8 +21,8 @@ AbstractButton {
     Accessible.name: badge === "" ? text : text + ", " + badge
     Accessible.selectable: true
     Accessible.selected: current
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 
     background: Rectangle {
         radius: Theme.radius

@@ -40,11 +40,6 @@ ItemDelegate {
     onClicked: if (model.selectable) chosen()
     onPressAndHold: menuWanted(pressX, pressY)
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: point => row.menuWanted(point.position.x, point.position.y)
-    }
-
     background: Item {
         Rectangle {
             anchors.fill: parent

@@ -110,6 +110,7 @@ FocusScope {
                             list.openPane = pane
                             actions = table.actionsOf(place.index)
                         }
+                        onMenuWanted: (x, y) => table.openMenu(place.index, pane, x, y)
                         onPerformed: index => table.perform(place.index, index)
                         TableRow {
                             id: row
@@ -196,8 +197,8 @@ FocusScope {
         }
     }
 
-    RowMenu {
-        id: menu
+    readonly property RowMenu menu: RowMenu {
+        id: rowMenu
         property int row: -1
         onChosen: index => table.perform(row, index)
     }
@@ -218,9 +219,9 @@ FocusScope {
         if (actions.length === 0)
             return
         list.currentIndex = index
-        menu.row = index
-        menu.actions = actions
-        menu.popup(item, x, y)
+        rowMenu.row = index
+        rowMenu.actions = actions
+        rowMenu.popup(item, x, y)
     }
     function choose(index) {
         if (index < 0)

@@ -6,10 +6,11 @@ AbstractButton {
     id: button
 
     property bool prominent: false
+    property bool destructive: false
     property string symbol
     property string description
 
-    readonly property color tint: prominent ? Theme.accentText : Theme.accent
+    readonly property color tint: prominent ? Theme.accentText : destructive ? Theme.destructive : Theme.accent
 
     readonly property int symbolWidth: symbol === "" ? 0 : 26
 
@@ -19,8 +20,8 @@ AbstractButton {
     hoverEnabled: true
     Accessible.role: Accessible.Button
     Accessible.name: description || text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 
     background: Rectangle {
         anchors.fill: parent

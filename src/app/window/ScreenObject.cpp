@@ -123,6 +123,7 @@ QVariantList ScreenObject::swipeActions(int row)
     if (isRow(row) && m_rows.index(row, 0).data(ScreenItemModel::SwipeableRole).toBool()) {
         for (const SwipeAction& action : screen().swipeActions(m_rows.pathOf(row)))
             list << QVariantMap{{QStringLiteral("title"), action.title},
+                                {QStringLiteral("description"), action.description},
                                 {QStringLiteral("destructive"), action.destructive},
                                 {QStringLiteral("colour"), action.colour}};
     }

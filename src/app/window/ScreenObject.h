@@ -58,7 +58,8 @@ public:
     Q_INVOKABLE void refresh();
     Q_INVOKABLE int rowOfSection(int section) const { return m_rows.firstRowOfSection(section); }
     Q_INVOKABLE void rowDisplayed(int row);
-    /// What a swipe on the row uncovers: maps of "title", "destructive" and "colour", the name of a role or empty.
+    /// What a swipe on the row uncovers: maps of "title", "description", "destructive" and "colour", the name of
+    /// a role or empty.
     Q_INVOKABLE QVariantList swipeActions(int row);
     Q_INVOKABLE void performSwipe(int row, int action);
 

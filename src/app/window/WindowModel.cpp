@@ -193,9 +193,12 @@ void WindowModel::presentAlert(Alert alert)
 void WindowModel::showNextAlert()
 {
     const Alert& alert = m_alerts.front();
-    QStringList actions;
-    for (const AlertAction& action : alert.actions)
-        actions << action.title;
+    QVariantList actions;
+    for (const AlertAction& action : alert.actions) {
+        actions << QVariantMap{{QStringLiteral("title"), action.title},
+                               {QStringLiteral("cancels"), action.style == AlertAction::Style::Cancel},
+                               {QStringLiteral("destructive"), action.style == AlertAction::Style::Destructive}};
+    }
     Q_EMIT alertPresented({{QStringLiteral("title"), alert.title},
                            {QStringLiteral("message"), alert.message},
                            {QStringLiteral("actions"), actions}});

@@ -74,7 +74,8 @@ Q_SIGNALS:
     void popoverChanged();
     void playerChanged();
     void darkChanged();
-    /// A message with "title", "message" and the titles of its "actions"; the next comes once this one is answered.
+    /// A message with "title", "message" and its "actions", maps of "title", "cancels" and "destructive"; the next
+    /// comes once this one is answered.
     void alertPresented(const QVariantMap& alert);
 
 private:
