@@ -2,9 +2,9 @@
 
 #include "content/TextFolding.h"
 #include "platform/DeviceSettings.h"
+#include "platform/Localized.h"
 
 #include <QCollator>
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -62,9 +62,8 @@ QString ambiguousName(const QString& name, const QStringList& candidates, const 
     QString list = shown.mid(0, mostNamed).join(QLatin1String(", "));
     if (shown.size() > mostNamed)
         list += QStringLiteral(", ...");
-    return candidates.isEmpty()
-               ? QCoreApplication::translate("vidora", "There is no \"%1\". There are: %2").arg(name, list)
-               : QCoreApplication::translate("vidora", "\"%1\" may be: %2").arg(name, list);
+    return candidates.isEmpty() ? localized("There is no \"%1\". There are: %2").arg(name, list)
+                                : localized("\"%1\" may be: %2").arg(name, list);
 }
 
 NamedChannel channelNamed(const QString& name, const ChannelData& channels)

@@ -4,7 +4,6 @@
 #include "core/GuideImport.h"
 #include "platform/Localized.h"
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -15,11 +14,6 @@
 namespace vidora {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("vidora", text);
-}
 
 // One line on a terminal that the next one takes the place of.
 void showProgress(const QString& text)
@@ -75,7 +69,7 @@ QJsonObject reportJson(const ImportReport& report, std::size_t stillSelected)
 
 QString reportText(const ImportReport& report, std::size_t stillSelected)
 {
-    QString text = translated("%1 channels, %2 programmes on %3 days.")
+    QString text = localized("%1 channels, %2 programmes on %3 days.")
                        .arg(report.channels.size())
                        .arg(report.guide.programmes)
                        .arg(report.guide.days) +
@@ -83,7 +77,7 @@ QString reportText(const ImportReport& report, std::size_t stillSelected)
     text += stillSelected > 0
                 ? localized("%n of the channels chosen before are in it; \"vidora update\" reads their shows.",
                             stillSelected)
-                : translated("Choose channels with \"vidora select X...\", then \"vidora update\".");
+                : localized("Choose channels with \"vidora select X...\", then \"vidora update\".");
     return text + QLatin1Char('\n');
 }
 
@@ -94,10 +88,10 @@ int importGuide(const CommandLine& line, Device& device)
     const GuideImport guideImport(device.network(), Device::ownCatalogue(device.folders()),
                                   Device::ownIcons(device.folders()));
     std::optional<std::variant<ImportReport, QString>> outcome;
-    showProgress(translated("reading %1").arg(line.arguments.front()));
+    showProgress(localized("reading %1").arg(line.arguments.front()));
     DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
         auto made = guideImport.import(line.arguments.front(), [&](std::size_t done, std::size_t of) {
-            showProgress(translated("icons: %1 of %2").arg(done).arg(of));
+            showProgress(localized("icons: %1 of %2").arg(done).arg(of));
             return !device.isEnding();
         });
         DispatchQueue::main().async([&, made = std::move(made)]() mutable { outcome = std::move(made); });

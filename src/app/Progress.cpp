@@ -1,8 +1,7 @@
 #include "app/Progress.h"
 
 #include "app/ChannelNames.h"
-
-#include <QCoreApplication>
+#include "platform/Localized.h"
 
 #include <algorithm>
 #include <sys/ioctl.h>
@@ -64,7 +63,7 @@ void Progress::draw(const QString& text)
         return;
     const auto done = static_cast<int>(std::min(m_done.size(), m_wanted));
     const int filled = done * barWidth / static_cast<int>(m_wanted);
-    const QString count = QCoreApplication::translate("vidora", "%1 of %2 channels").arg(done).arg(m_wanted);
+    const QString count = localized("%1 of %2 channels").arg(done).arg(m_wanted);
     QString line = QLatin1Char('[') + QString(filled, QLatin1Char('#')) + QString(barWidth - filled, QLatin1Char('.')) +
                    QLatin1String("] ") + count + QLatin1String("  ") + text;
     line.truncate(terminalWidth() - 1);

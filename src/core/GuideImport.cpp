@@ -6,8 +6,8 @@
 #include "core/SupportedChannelTypes.h"
 #include "listings/PageFetcher.h"
 #include "platform/AtomicFile.h"
+#include "platform/Localized.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
@@ -22,11 +22,6 @@ namespace {
 
 constexpr qint64 maximumCatalogue = 16 * 1024 * 1024;
 const QString region = QStringLiteral("Other");
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("vidora", text);
-}
 
 std::optional<URL> addressOfSource(const QString& source)
 {
@@ -92,15 +87,15 @@ std::variant<Page, QString> GuideImport::fetch(const URL& address) const
     OwnGuideSession session(m_network, address);
     const URLResult result = session.perform(URLRequest(address));
     if (result.error)
-        return translated("%1 can't be reached: %2").arg(address.text(), result.error->description);
+        return localized("%1 can't be reached: %2").arg(address.text(), result.error->description);
     const int status = result.response ? result.response->statusCode : 0;
     if (status < 200 || status >= 300)
-        return translated("%1 answered with status %2.").arg(address.text()).arg(status);
+        return localized("%1 answered with status %2.").arg(address.text(), QString::number(status));
     if (!result.data || result.data->isEmpty())
-        return translated("%1 is empty.").arg(address.text());
+        return localized("%1 is empty.").arg(address.text());
     const auto page = PageFetcher::pageFromData(*result.data, *result.response);
     if (!page)
-        return translated("%1 is in an encoding that is not known.").arg(address.text());
+        return localized("%1 is in an encoding that is not known.").arg(address.text());
     return *page;
 }
 
@@ -108,21 +103,21 @@ std::variant<ImportReport, QString> GuideImport::import(const QString& source, c
 {
     const auto address = addressOfSource(source);
     if (!address)
-        return translated("%1 is no address of a guide: it takes http, https or a file.").arg(source);
+        return localized("%1 is no address of a guide: it takes http, https or a file.").arg(source);
     const auto fetched = fetch(*address);
     if (const auto* message = std::get_if<QString>(&fetched))
         return *message;
     auto guide = readGuideSummary(std::get<Page>(fetched));
     if (!guide)
-        return translated("%1 is no XMLTV guide.").arg(address->text());
+        return localized("%1 is no XMLTV guide.").arg(address->text());
     if (guide->channels.empty())
-        return translated("The guide at %1 has no channels.").arg(address->text());
+        return localized("The guide at %1 has no channels.").arg(address->text());
 
     ImportReport report{*address, std::move(*guide), {}, 0};
     QHash<QString, QString> iconNames;
     const auto icons = saveGuideIcons(m_network, report.guide.channels, m_iconFolder, iconNames, progress);
     if (!icons)
-        return translated("The import was ended; the guide of before stays.");
+        return localized("The import was ended; the guide of before stays.");
     report.iconsFetched = *icons;
     QVariantList records;
     for (const GuideChannel& channel : report.guide.channels) {
@@ -132,7 +127,7 @@ std::variant<ImportReport, QString> GuideImport::import(const QString& source, c
     const QVariantMap catalogue{{QStringLiteral("Guide"), address->text()}, {QStringLiteral("Channels"), records}};
     if (const auto error =
             AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly))
-        return translated("The catalogue can't be written: %1").arg(error->text);
+        return localized("The catalogue can't be written: %1").arg(error->text);
     return report;
 }
 
