@@ -83,7 +83,7 @@ private:
     void silentHours();
     void calendars();
 
-    QString argument() const { return m_line.arguments.join(QLatin1Char(' ')); }
+    QString argument() const { return m_line.arguments.join(QLatin1Char(' ')).trimmed(); }
     /// Waits until nothing is being done to the calendar.
     void settle();
     void answer(const QString& text, const QJsonObject& json) const;
@@ -170,13 +170,13 @@ std::optional<QString> AlarmRun::listedTitle()
 QString AlarmRun::described(const Favorite& favorite) const
 {
     if (favorite.minutes() < 0)
-        return favorite.identificator();
+        return printable(favorite.identificator());
     const auto minutes = static_cast<std::size_t>(favorite.minutes());
     const QString text =
         !favorite.previouslyShown()   ? localized("%1: alarm %n minutes ahead of each broadcast", minutes)
         : *favorite.previouslyShown() ? localized("%1: alarm %n minutes ahead of each replay", minutes)
                                       : localized("%1: alarm %n minutes ahead of each premiere", minutes);
-    return text.arg(favorite.identificator());
+    return text.arg(printable(favorite.identificator()));
 }
 
 QJsonObject AlarmRun::json(const Favorite& favorite)
@@ -197,8 +197,10 @@ void AlarmRun::favourite()
     if ((premieres || replays) && lead < 0)
         throw Refusal{translated("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
     const std::optional<QString> listed = listedTitle();
-    const QString title = listed.value_or(argument());
+    QString title = listed.value_or(argument());
     m_engine.addFavorite(title);
+    if (title.endsWith(QLatin1Char(' ')))
+        title.chop(1); // as it is kept
     if (lead >= 0) {
         // What was set before would keep its lead time.
         if (m_engine.alarmedIdentificatorType(title))
@@ -242,7 +244,7 @@ void AlarmRun::unfavourite()
     const QString title = favouriteNamed();
     m_engine.removeFavorite(title);
     settle();
-    answer(translated("No longer a favourite: %1").arg(title), {{QStringLiteral("removed"), title}});
+    answer(translated("No longer a favourite: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
 }
 
 void AlarmRun::favourites()
@@ -337,7 +339,7 @@ void AlarmRun::alarm()
         m_engine.addFavorite(title);
     QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show));
     if (!isFollowed)
-        text += QLatin1Char('\n') + translated("A favourite: %1").arg(title);
+        text += QLatin1Char('\n') + translated("A favourite: %1").arg(printable(title));
     answer(text, {{QStringLiteral("minutes"), lead},
                   {QStringLiteral("favouriteAdded"), !isFollowed},
                   {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
@@ -350,7 +352,7 @@ void AlarmRun::unalarm()
         const QString title = listed ? *listed : favouriteNamed();
         m_engine.removeAlarmForTitle(title, true, true);
         settle();
-        answer(translated("No alarms any more: %1").arg(title), {{QStringLiteral("removed"), title}});
+        answer(translated("No alarms any more: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
         return;
     }
     const Show show = broadcast();

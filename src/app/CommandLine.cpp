@@ -137,7 +137,8 @@ private:
         const auto arity = commands().constFind(line.command);
         if (arity == commands().cend())
             fail(localized("Unknown command %1.").arg(line.command));
-        else if (line.arguments.size() < arity->least)
+        else if (line.arguments.size() < arity->least ||
+                 (!line.arguments.isEmpty() && line.arguments.join(QString()).trimmed().isEmpty()))
             fail(localized("%1 needs an argument.").arg(line.command));
         else if (line.arguments.size() > arity->most)
             fail(localized("%1 does not take \"%2\".").arg(line.command, line.arguments.at(arity->most)));

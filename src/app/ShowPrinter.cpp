@@ -21,16 +21,6 @@ QDateTime localTime(Instant instant, const QTimeZone& zone)
     return QDateTime::fromMSecsSinceEpoch(unixMilliseconds(instant), zone);
 }
 
-// A provider's text may hold anything; control characters would move the terminal's cursor.
-QString printable(QString text)
-{
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
-            character = QLatin1Char(' ');
-    }
-    return text.simplified();
-}
-
 bool isOutputColoured()
 {
     return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
@@ -51,6 +41,15 @@ QLatin1String renditionOf(const QString& role)
 }
 
 } // namespace
+
+QString printable(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
+            character = QLatin1Char(' ');
+    }
+    return text.simplified();
+}
 
 ShowPrinter::ShowPrinter(const ChannelData& channels)
     : m_channels(channels)

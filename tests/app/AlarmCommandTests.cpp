@@ -107,4 +107,18 @@ TEST(AlarmCommands, OneBroadcast)
     EXPECT_TRUE(events(home).isEmpty());
 }
 
+TEST(AlarmCommands, TitlesThatCarryMoreThanWords)
+{
+    const Home home;
+    const auto favourite = [&](const char* title) {
+        return home.run({QStringLiteral("favourite"), QString::fromUtf8(title)});
+    };
+    EXPECT_EQ(favourite(" ").status, 2);
+    EXPECT_EQ(favourite("  spaced  ").output.section(QLatin1Char('\n'), 0, 0), QStringLiteral("A favourite: spaced"));
+    EXPECT_EQ(favourite("red\x1b[31m").status, 0);
+    EXPECT_EQ(favourite("100%1 %2").status, 0);
+    EXPECT_EQ(home.run({QStringLiteral("favourites")}).output, QStringLiteral("100%1 %2\nred [31m\nspaced\n"));
+    EXPECT_EQ(home.run({QStringLiteral("unfavourite"), QStringLiteral(" Spaced ")}).status, 0);
+}
+
 } // namespace vidora::test
