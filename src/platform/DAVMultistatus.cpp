@@ -2,6 +2,7 @@
 
 #include "platform/XMLEventStream.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace vidora {
@@ -9,7 +10,7 @@ namespace vidora {
 namespace {
 
 constexpr std::size_t maximalResponses = 50'000;
-constexpr std::size_t maximalElements = 64;
+constexpr std::size_t maximalElements = 64; ///< properties of a resource, and elements in one
 
 QByteArray localName(std::string_view name)
 {
@@ -21,7 +22,7 @@ QByteArray localName(std::string_view name)
 
 int statusOf(const QByteArray& line) // "HTTP/1.1 404 Not Found"
 {
-    return line.mid(line.indexOf(' ') + 1, 3).toInt();
+    return std::max(0, line.mid(line.indexOf(' ') + 1, 3).toInt());
 }
 
 class Reader final : public XMLEventReceiver
@@ -45,7 +46,7 @@ public:
     {
         const auto size = static_cast<qsizetype>(piece.size());
         m_text.append(piece.data(), size);
-        if (inProperty())
+        if (inKnownProperty())
             m_properties.texts[m_path[4]].append(piece.data(), size);
     }
     void endElement(std::string_view) override
@@ -74,12 +75,15 @@ private:
     {
         return m_path.size() >= 5 && m_path[1] == "response" && m_path[2] == "propstat" && m_path[3] == "prop";
     }
+    bool inKnownProperty() const { return inProperty() && m_properties.texts.contains(m_path[4]); }
     void takeElement(const QByteArray& element, const char* const* attributes)
     {
-        if (depth() == 5)
+        if (depth() == 5 && m_properties.texts.size() < maximalElements)
             m_properties.texts[element]; // an empty property is one that the server has
+        if (depth() == 5 || !inKnownProperty())
+            return;
         auto& elements = m_properties.elements[m_path[4]];
-        if (depth() == 5 || elements.size() >= maximalElements)
+        if (elements.size() >= maximalElements)
             return;
         elements.insert(element);
         for (; *attributes; attributes += 2) {
@@ -93,7 +97,7 @@ private:
             m_response.href = QString::fromUtf8(m_text.trimmed());
         else if (element == "status")
             m_response.status = statusOf(m_text.trimmed());
-        else if (element == "propstat" && m_properties.status / 100 == 2) {
+        else if (element == "propstat" && m_properties.status / 100 == 2 && m_response.texts.size() < maximalElements) {
             m_response.texts.merge(m_properties.texts);
             m_response.elements.merge(m_properties.elements);
         }

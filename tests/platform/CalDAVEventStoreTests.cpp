@@ -213,8 +213,25 @@ TEST(DAVMultistatus, ReadsWhatServersWrite)
     EXPECT_FALSE(read->responses[0].texts.contains("getetag"));
     EXPECT_EQ(read->responses[1].status, 404);
     EXPECT_EQ(read->syncToken, QStringLiteral("t"));
-    for (const QByteArray& broken : {whole.left(whole.size() - 5), QByteArray("<html><body/></html>"), QByteArray()})
-        EXPECT_FALSE(DAVMultistatus::read(broken));
+    QByteArray bomb = "<!DOCTYPE m [<!ENTITY e0 \"boom\">";
+    for (int i = 1; i < 12; ++i)
+        bomb += "<!ENTITY e" + QByteArray::number(i) + " \"" +
+                QByteArray("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "\">";
+    bomb += "]><multistatus xmlns=\"DAV:\"><response><href>&e11;</href></response></multistatus>";
+    const auto responses = [](int count) -> QByteArray {
+        return "<multistatus xmlns=\"DAV:\">" + QByteArray("<response><href>/a</href></response>").repeated(count) +
+               "</multistatus>";
+    };
+    EXPECT_TRUE(DAVMultistatus::read(responses(50'000)));
+    for (const QByteArray& broken :
+         {whole.left(whole.size() - 5), QByteArray("<html><body/></html>"), QByteArray(), bomb, responses(50'001),
+          QByteArray("<multistatus xmlns=\"DAV:\">" + QByteArray("<a>").repeated(100'000))})
+        EXPECT_FALSE(DAVMultistatus::read(broken)) << broken.left(200).toStdString();
+    QByteArray many = "<multistatus><response><href>/a</href><propstat><prop>";
+    for (int i = 0; i < 100'000; ++i)
+        many += "<p" + QByteArray::number(i) + "/>";
+    many += "</prop><status>HTTP/1.1 200 OK</status></propstat></response></multistatus>";
+    EXPECT_LT(DAVMultistatus::read(many)->responses.at(0).texts.size(), 100U);
 }
 
 TEST(SecretStore, KeepsSecretsFromOthers)
