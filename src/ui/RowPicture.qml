@@ -22,28 +22,33 @@ Item {
         fillMode: Image.PreserveAspectFit
         sourceSize: picture.icon ? Qt.size(100, 72) : undefined
     }
-    Rectangle {
-        visible: !picture.icon && image.status === Image.Ready
+    Loader {
+        active: !picture.icon && image.status === Image.Ready
         anchors.centerIn: parent
         width: image.paintedWidth
         height: image.paintedHeight
-        color: "transparent"
-        border.width: 1
-        border.color: Theme.separator
-    }
-    Rectangle {
-        visible: picture.progress >= 0 && image.status === Image.Ready
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: parent.height - 15
-        width: image.paintedWidth * 0.85
-        height: 9
-        radius: 4.5
-        color: "#f2ffffff"
-        Rectangle {
-            width: Math.max(height, parent.width * Math.min(1, picture.progress))
-            height: parent.height
-            radius: parent.radius
-            color: "#4340b8"
+        sourceComponent: Item {
+            Rectangle {
+                anchors.fill: parent
+                color: "transparent"
+                border.width: 1
+                border.color: Theme.separator
+            }
+            Rectangle {
+                visible: picture.progress >= 0
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: picture.height - (picture.height - parent.height) / 2 - 15
+                width: parent.width * 0.85
+                height: 9
+                radius: 4.5
+                color: "#f2ffffff"
+                Rectangle {
+                    width: Math.max(height, parent.width * Math.min(1, picture.progress))
+                    height: parent.height
+                    radius: parent.radius
+                    color: "#4340b8"
+                }
+            }
         }
     }
 }

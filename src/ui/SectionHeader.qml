@@ -7,8 +7,7 @@ Item {
     property string title
     property int side: 0
 
-    height: title === "" ? 0 : words.implicitHeight + 14
-    visible: title !== ""
+    implicitHeight: words.implicitHeight + 14
     Accessible.role: Accessible.Heading
     Accessible.name: title
 

@@ -62,50 +62,58 @@ ItemDelegate {
             height: 1
             color: Theme.separator
         }
-        Rectangle {
+        Loader {
             anchors.fill: parent
             anchors.margins: 1
-            visible: row.highlightedByKeys
-            color: "transparent"
-            radius: Theme.radius
-            border.width: 2
-            border.color: Theme.focus
+            active: row.highlightedByKeys
+            sourceComponent: Rectangle {
+                color: "transparent"
+                radius: Theme.radius
+                border.width: 2
+                border.color: Theme.focus
+            }
         }
     }
 
     contentItem: Item {
         id: content
-        implicitHeight: Math.max(texts.height, picture.visible ? picture.height : 0,
-                                 remove.visible || handle.visible || ending.item?.implicitHeight > 30 ? Theme.touchTarget : 0)
+        implicitHeight: Math.max(texts.height, picture.height,
+                                 remove.active || handle.active || row.model.accessory === "play" ? Theme.touchTarget : 0)
 
-        SymbolButton {
+        // Most rows are no more than texts; what few of them have is made for those few.
+        Loader {
             id: remove
-            visible: row.model.deletable
+            active: row.model.deletable
             anchors.verticalCenter: parent.verticalCenter
-            width: visible ? Theme.touchTarget : 0
-            symbol: "delete"
-            color: Theme.alarmRed
-            text: qsTranslate("vidora", "Delete %1").arg(row.plain)
-            onClicked: row.deletePressed()
+            width: active ? Theme.touchTarget : 0
+            sourceComponent: SymbolButton {
+                symbol: "delete"
+                color: Theme.alarmRed
+                text: qsTranslate("vidora", "Delete %1").arg(row.plain)
+                onClicked: row.deletePressed()
+            }
         }
-        RowPicture {
+        Loader {
             id: picture
-            visible: source !== ""
+            readonly property bool icon: String(row.model.icon) !== ""
+            active: icon || row.model.picture !== ""
             anchors.left: remove.right
             y: icon ? (parent.height - height) / 2 : 0
-            width: visible ? implicitWidth : 0
-            height: implicitHeight
-            icon: String(row.model.icon) !== ""
-            source: icon ? "image://icons/" + encodeURIComponent(row.model.icon) : row.model.picture
-            progress: row.model.progress
+            width: active ? implicitWidth : 0
+            height: active ? implicitHeight : 0
+            sourceComponent: RowPicture {
+                icon: picture.icon
+                source: icon ? "image://icons/" + encodeURIComponent(row.model.icon) : row.model.picture
+                progress: row.model.progress
+            }
         }
         Column {
             id: texts
             anchors.left: picture.right
-            anchors.leftMargin: picture.visible ? Theme.spacing : 0
-            anchors.right: ending.left
-            anchors.rightMargin: ending.active ? 8 : 0
-            y: picture.visible && !picture.icon ? Math.max(0, Math.min(4, (parent.height - height) / 2))
+            anchors.leftMargin: picture.active ? Theme.spacing : 0
+            anchors.right: end.left
+            anchors.rightMargin: end.width > 0 ? 8 : 0
+            y: picture.active && !picture.icon ? Math.max(0, Math.min(4, (parent.height - height) / 2))
                                                 : (parent.height - height) / 2
             spacing: 2
             Text {
@@ -120,56 +128,62 @@ ItemDelegate {
                 color: row.isHeader ? Theme.indigo : Theme.label
                 Accessible.ignored: true
             }
-            Text {
+            Loader {
                 width: parent.width
-                visible: text !== ""
-                text: row.model.subtitle
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                maximumLineCount: 1
-                font.pixelSize: Theme.small
-                color: Theme.colours[row.model.subtitleColour] ?? Theme.secondaryLabel
-                Accessible.ignored: true
+                active: row.model.subtitle !== ""
+                visible: active
+                sourceComponent: Text {
+                    text: row.model.subtitle
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    maximumLineCount: 1
+                    font.pixelSize: Theme.small
+                    color: Theme.colours[row.model.subtitleColour] ?? Theme.secondaryLabel
+                    Accessible.ignored: true
+                }
+            }
+        }
+        Item {
+            id: end
+            anchors.right: handle.left
+            width: ending.active ? ending.width : mark.visible ? mark.width : 0
+            height: parent.height
+            Symbol {
+                id: mark
+                anchors.verticalCenter: parent.verticalCenter
+                visible: name !== ""
+                name: ["checkmark", "disclosure"].includes(row.model.accessory) ? row.model.accessory : ""
+                size: name === "checkmark" ? 22 : 16
+                color: name === "checkmark" ? Theme.accent : Theme.lightGrey
+                mirror: name === "disclosure" && LayoutMirroring.enabled
+            }
+            Loader {
+                id: ending
+                anchors.verticalCenter: parent.verticalCenter
+                active: row.model.accessory === "play" || row.model.accessory === "activity"
+                sourceComponent: row.model.accessory === "play" ? playButton : busy
             }
         }
         Loader {
-            id: ending
-            anchors.right: handle.left
-            anchors.verticalCenter: parent.verticalCenter
-            active: row.model.accessory !== "none"
-            width: active && item ? item.implicitWidth : 0
-            sourceComponent: row.model.accessory === "play" ? playButton
-                           : row.model.accessory === "activity" ? busy : mark
-            Component {
-                id: playButton
-                SymbolButton {
-                    symbol: "play"
-                    text: qsTranslate("vidora", "Play %1").arg(row.plain)
-                    onClicked: row.accessoryPressed()
-                }
-            }
-            Component {
-                id: busy
-                ActivityIndicator { }
-            }
-            Component {
-                id: mark
-                Symbol {
-                    name: row.model.accessory === "checkmark" ? "checkmark" : "disclosure"
-                    size: row.model.accessory === "checkmark" ? 22 : 16
-                    color: row.model.accessory === "checkmark" ? Theme.accent : Theme.lightGrey
-                    mirror: row.model.accessory !== "checkmark" && LayoutMirroring.enabled
-                }
-            }
-        }
-        ReorderHandle {
             id: handle
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: row.model.movable
-            width: visible ? implicitWidth : 0
-            height: implicitHeight
-            row: row
+            active: row.model.movable
+            width: active ? Theme.touchTarget : 0
+            readonly property var owner: row
+            sourceComponent: ReorderHandle { row: handle.owner }
         }
+    }
+    Component {
+        id: playButton
+        SymbolButton {
+            symbol: "play"
+            text: qsTranslate("vidora", "Play %1").arg(row.plain)
+            onClicked: row.accessoryPressed()
+        }
+    }
+    Component {
+        id: busy
+        ActivityIndicator { }
     }
 }

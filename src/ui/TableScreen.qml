@@ -90,11 +90,15 @@ FocusScope {
                     width: ListView.view.width
                     height: heading.height + row.implicitHeight + (last ? 14 : 0)
                     ListView.onPooled: pane.close()
-                    SectionHeader {
+                    Loader {
                         id: heading
                         width: parent.width
-                        side: table.side
-                        title: place.first ? place.model.sectionTitle : ""
+                        height: active ? implicitHeight : 0
+                        active: place.first && place.model.sectionTitle !== ""
+                        sourceComponent: SectionHeader {
+                            side: table.side
+                            title: place.model.sectionTitle
+                        }
                     }
                     SwipePane {
                         id: pane
