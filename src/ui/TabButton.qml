@@ -13,7 +13,7 @@ AbstractButton {
 
     readonly property color tint: current ? Theme.accent : Theme.secondaryLabel
 
-    implicitHeight: rail ? Math.max(72, Theme.tiny + 60) : Math.max(56, Theme.tiny + 45)
+    implicitHeight: rail ? Math.max(72, Theme.tiny * 2 + 48) : Math.max(56, Theme.tiny + 45)
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     opacity: enabled ? 1 : 0.42
@@ -72,6 +72,9 @@ AbstractButton {
             horizontalAlignment: Text.AlignHCenter
             text: button.text
             textFormat: Text.PlainText
+            wrapMode: button.rail ? Text.WordWrap : Text.NoWrap
+            maximumLineCount: 2
+            lineHeight: 0.9
             elide: Text.ElideRight
             font.pixelSize: Theme.tiny
             font.weight: button.current ? Font.DemiBold : Font.Normal
