@@ -1,6 +1,7 @@
 #include "app/AlarmCommands.h"
 
 #include "app/ChannelNames.h"
+#include "app/Refusal.h"
 #include "app/ShowPrinter.h"
 #include "platform/DeviceSettings.h"
 #include "platform/Localized.h"
@@ -28,12 +29,6 @@ void say(const QString& message)
     std::fprintf(stderr, "%s\n", message.toUtf8().constData());
 }
 
-/// Thrown where a command can't do what was asked; says why.
-struct Refusal
-{
-    QString message;
-};
-
 class AlarmRun
 {
 public:
@@ -56,7 +51,6 @@ public:
             {QStringLiteral("unalarm"), &AlarmRun::unalarm},
             {QStringLiteral("alerts"), &AlarmRun::alerts},
             {QStringLiteral("silent-hours"), &AlarmRun::silentHours},
-            {QStringLiteral("calendars"), &AlarmRun::calendars},
         };
         return table;
     }
@@ -81,7 +75,6 @@ private:
     void unalarm();
     void alerts();
     void silentHours();
-    void calendars();
 
     QString argument() const { return m_line.arguments.join(QLatin1Char(' ')).trimmed(); }
     /// Waits until nothing is being done to the calendar.
@@ -419,39 +412,6 @@ void AlarmRun::silentHours()
                                                "every time of the day.");
     answer(text,
            {{QStringLiteral("enabled"), hours.enabled()}, {QStringLiteral("from"), from}, {QStringLiteral("to"), to}});
-}
-
-void AlarmRun::calendars()
-{
-    const std::vector<Calendar> all = m_delegate.eventStore().calendarsForEntityType(EntityType::Event);
-    if (!m_line.arguments.isEmpty()) {
-        if (m_engine.hasEvents())
-            throw Refusal{translated("You have to remove all your alerts before changing calendar")};
-        QStringList titles;
-        for (const Calendar& calendar : all) {
-            if (calendar.allowsContentModifications)
-                titles << calendar.title;
-        }
-        const QString title = named(titles);
-        m_engine.saveCalendar(*std::find_if(all.begin(), all.end(), [&](const Calendar& calendar) {
-            return calendar.allowsContentModifications && calendar.title == title;
-        }));
-        settle();
-    }
-    const auto selected = m_engine.selectedCalendar();
-    QJsonArray array;
-    QStringList lines;
-    for (const Calendar& calendar : all) {
-        const bool isSelected = selected == calendar;
-        array.append(QJsonObject{{QStringLiteral("title"), calendar.title},
-                                 {QStringLiteral("source"), calendar.source},
-                                 {QStringLiteral("writable"), calendar.allowsContentModifications},
-                                 {QStringLiteral("selected"), isSelected}});
-        lines << (isSelected ? QStringLiteral("* ") : QStringLiteral("  ")) + calendar.title + QLatin1String("  (") +
-                     calendar.source + QLatin1Char(')');
-    }
-    lines << translated("Calendars lie in %1.").arg(Device::calendars(m_device.folders()));
-    answer(lines.join(QLatin1Char('\n')), {{QStringLiteral("calendars"), array}});
 }
 
 } // namespace

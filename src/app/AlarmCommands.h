@@ -5,7 +5,7 @@
 
 namespace vidora {
 
-/// Whether a command is about favourites, alarms or calendars.
+/// Whether a command is about favourites and alarms.
 bool isAlarmCommand(const QString& command);
 /// Whether it does more than show what there is.
 bool changesAlarms(const CommandLine& line);

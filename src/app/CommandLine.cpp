@@ -43,6 +43,7 @@ const QHash<QString, QHash<QString, bool>>& optionsOfCommands()
         {QStringLiteral("alarm"),
          {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}, {QStringLiteral("--before"), true}}},
         {QStringLiteral("unalarm"), {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}}},
+        {QStringLiteral("calendars"), {{QStringLiteral("--user"), true}, {QStringLiteral("--force"), false}}},
     };
     return table;
 }

@@ -19,8 +19,8 @@ struct CommandLine
     bool log = false;
     bool help = false;
     bool selfTest = false; ///< load every part of the window, show nothing
-    /// The options that only some commands take, by name: "--alarm", "--at", "--before", "--on" with their values,
-    /// "--premieres" and "--replays" with empty ones.
+    /// The options that only some commands take, by name: those with a value such as "--alarm", "--at", "--user", and
+    /// those without one, such as "--premieres", with an empty one.
     QHash<QString, QString> options;
     std::optional<QString> home;
     std::optional<Instant> clock;

@@ -41,6 +41,12 @@ constexpr Entry alarmCommands[] = {
     {QT_TRANSLATE_NOOP("vidora", "silent-hours [off | FROM TO]"),
      QT_TRANSLATE_NOOP("vidora", "when favourites must not ring")},
     {"calendars [X]", QT_TRANSLATE_NOOP("vidora", "the calendars, or choose the one for alarms")},
+    {QT_TRANSLATE_NOOP("vidora", "calendars add ADDRESS --user NAME"),
+     QT_TRANSLATE_NOOP("vidora", "use the calendars of a CalDAV server; asks for the password")},
+    {QT_TRANSLATE_NOOP("vidora", "calendars test [NAME]"),
+     QT_TRANSLATE_NOOP("vidora", "what the servers of the accounts say")},
+    {QT_TRANSLATE_NOOP("vidora", "calendars remove NAME [--force]"),
+     QT_TRANSLATE_NOOP("vidora", "use an account no more")},
 };
 
 constexpr Entry options[] = {

@@ -1,9 +1,11 @@
 #include "app/Commands.h"
 
 #include "app/AlarmCommands.h"
+#include "app/CalendarCommands.h"
 #include "app/ChannelNames.h"
 #include "app/Device.h"
 #include "app/GuideImportCommand.h"
+#include "app/PasswordPrompt.h"
 #include "app/Progress.h"
 #include "app/ShowPrinter.h"
 #include "content/TVListingsCategory.h"
@@ -342,7 +344,7 @@ bool changes(const CommandLine& line)
 {
     const QString& command = line.command;
     return fetches(command) || command == QLatin1String("select") || command == QLatin1String("unselect") ||
-           command == QLatin1String("import") || changesAlarms(line);
+           command == QLatin1String("import") || changesAlarms(line) || changesCalendars(line);
 }
 
 } // namespace
@@ -351,6 +353,14 @@ int runCommand(const CommandLine& line)
 {
     if (line.log)
         Log::setSink(say);
+    std::optional<QString> password;
+    if (wantsCalendarPassword(line)) {
+        password = readPassword(translated("Password of %1: ").arg(line.options.value(QStringLiteral("--user"))));
+        if (!password) {
+            say(translated("No password was given."));
+            return 1;
+        }
+    }
     Device device(line, changes(line) ? Device::Access::Write : Device::Access::Read, fetches(line.command));
     // The blocks queued at launch (pruning, the channel objects) come ahead of every command.
     bool launched = false;
@@ -360,8 +370,10 @@ int runCommand(const CommandLine& line)
     int status = 1;
     if (!changes(line) || fetches(line.command) || device.keepsChanges())
         status = line.command == QLatin1String("import") ? importGuide(line, device)
-                 : isAlarmCommand(line.command)          ? runAlarmCommand(line, device)
-                                                         : CommandRun(line, device).run();
+                 : line.command == QLatin1String("calendars")
+                     ? runCalendarCommand(line, device, password.value_or(QString()))
+                 : isAlarmCommand(line.command) ? runAlarmCommand(line, device)
+                                                : CommandRun(line, device).run();
     device.quit();
     // What a shell reports of a process that a signal ended.
     constexpr int endedBySignal = 128;

@@ -3,6 +3,7 @@
 #include "core/GuideImport.h"
 #include "platform/AtomicFile.h"
 #include "platform/FolderEventStore.h"
+#include "platform/KeyringSecretStore.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,9 @@ namespace vidora {
 namespace {
 
 constexpr qint64 maximumEndpoints = 1024 * 1024;
+constexpr qint64 maximumCalendarAnswer = 64LL * 1024 * 1024;
+/// How long a process that ends waits for a word of the calendar servers.
+constexpr Milliseconds patienceWithServers = Seconds(5);
 
 QByteArray contents(const QString& path)
 {
@@ -62,6 +66,10 @@ QString Device::calendars(const StandardFolders& folders)
 {
     return folders.documents + QLatin1String("/calendars");
 }
+QString Device::calendarAccounts(const StandardFolders& folders)
+{
+    return folders.settings + QLatin1String("/calendar-accounts.json");
+}
 QString Device::ownIcons(const StandardFolders& folders)
 {
     return folders.documents + QLatin1String("/icons");
@@ -79,6 +87,7 @@ bool Device::hasOwnGuide() const
 Device::Device(const CommandLine& line, Access access, bool wantsNetwork, QualityOfService loadPriority)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
+    , m_calendarNetwork(maximumCalendarAnswer)
 {
     m_folders.make();
     lockHome(access);
@@ -90,8 +99,7 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork, Qualit
     m_guideSession = std::make_unique<OwnGuideSession>(m_network, guide);
     // A look at another moment must not change the user's own calendars, where the past would pass for the future.
     if (!line.clock || line.home)
-        m_eventStore = std::make_unique<FolderEventStore>(
-            calendars(m_folders), QCoreApplication::translate("vidora", "This device"), *m_clock, m_random);
+        openCalendars(access);
     m_publicDatabase =
         std::make_unique<EmbeddedPublicDatabase>(m_folders.documents + QLatin1String("/public.sqlite"), *m_clock);
     m_delegate = std::make_unique<VidoraAppDelegate>(
@@ -105,6 +113,25 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork, Qualit
 }
 
 Device::~Device() = default;
+
+/// Commands that only show wait for no server.
+void Device::openCalendars(Access access)
+{
+    m_secrets = std::make_unique<FallbackSecretStore>(
+        std::make_unique<KeyringSecretStore>(),
+        std::make_unique<FileSecretStore>(m_folders.documents + QLatin1String("/calendar-passwords.json")));
+    m_eventStore = std::make_unique<CombinedEventStore>();
+    m_eventStore->addSource(QStringLiteral("device"),
+                            std::make_shared<FolderEventStore>(calendars(m_folders),
+                                                               QCoreApplication::translate("vidora", "This device"),
+                                                               *m_clock, m_random));
+    m_calendarAccounts = std::make_unique<CalendarAccounts>(
+        CalendarAccountSurroundings{calendarAccounts(m_folders),
+                                    m_folders.documents + QLatin1String("/calendar-mirrors"), *m_secrets,
+                                    m_calendarNetwork, *m_clock, m_random, m_sleeper,
+                                    access == Access::Read || m_lock->outcome() != HomeLock::Outcome::First},
+        *m_eventStore);
+}
 
 void Device::lockHome(Access access)
 {
@@ -160,6 +187,7 @@ void Device::endBySignal(int signal)
     Log::line(QStringLiteral("ending by signal %1").arg(signal));
     m_endSignal = signal;
     m_network.invalidateAndCancel();
+    m_calendarNetwork.invalidateAndCancel();
     m_sleeper.invalidateAndWake();
     if (endRequested)
         endRequested();
@@ -175,6 +203,29 @@ void Device::quit()
     DispatchQueue::runMain([&] { return calendarIsSettled; });
     m_delegate->applicationDidEnterBackground();
     m_delegate->applicationWillTerminate();
+    if (m_calendarAccounts)
+        waitForCalendarServers();
+}
+
+/// What was changed goes out ahead of the end, unless a server keeps silent: then it waits for the next time.
+void Device::waitForCalendarServers()
+{
+    bool isOver = false;
+    m_delegate->alarmEngine().whenIdle([&] { m_calendarAccounts->whenExchanged([&] { isOver = true; }); });
+    const BlockOwner blocks;
+    const std::function<void(int)> watch = [&](int answers) {
+        blocks.after(patienceWithServers, [&, answers] {
+            const int now = m_calendarAccounts->answerCount();
+            if (now != answers) {
+                watch(now);
+                return;
+            }
+            Log::line(QStringLiteral("calendar servers keep silent; what they don't have waits"));
+            m_calendarNetwork.invalidateAndCancel();
+        });
+    };
+    watch(m_calendarAccounts->answerCount());
+    DispatchQueue::runMain([&] { return isOver; });
 }
 
 } // namespace vidora

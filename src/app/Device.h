@@ -5,9 +5,9 @@
 #include "core/OwnGuideSession.h"
 #include "core/VidoraAppDelegate.h"
 #include "platform/BlockOwner.h"
+#include "platform/CalendarAccounts.h"
 #include "platform/Clock.h"
 #include "platform/EmbeddedPublicDatabase.h"
-#include "platform/EventStore.h"
 #include "platform/HomeLock.h"
 #include "platform/MemoryWarnings.h"
 #include "platform/NetworkURLSession.h"
@@ -41,6 +41,8 @@ public:
     const StandardFolders& folders() const { return m_folders; }
     /// The network as it is; the delegate's own treats the imported guide apart.
     URLSession& network() { return m_network; }
+    /// The user's accounts on calendar servers; null where there are no calendars.
+    CalendarAccounts* calendarAccounts() { return m_calendarAccounts.get(); }
     bool hasOwnGuide() const;
     /// Whether what a command changes can be kept.
     bool keepsChanges() const { return m_lock->outcome() == HomeLock::Outcome::First; }
@@ -58,6 +60,8 @@ public:
     static QString ownCatalogue(const StandardFolders& folders);
     /// The folder whose folders are calendars, to be shared with other calendar programs.
     static QString calendars(const StandardFolders& folders);
+    /// The file of the accounts on calendar servers.
+    static QString calendarAccounts(const StandardFolders& folders);
     static QString ownIcons(const StandardFolders& folders);
     /// Addresses of providers that the user sets by hand.
     static QString ownEndpoints(const StandardFolders& folders);
@@ -65,6 +69,8 @@ public:
 
 private:
     void lockHome(Access access);
+    void openCalendars(Access access);
+    void waitForCalendarServers();
     void watchSystem();
     void endBySignal(int signal);
     Endpoints readEndpoints(bool wantsNetwork, std::optional<Instant> clock, const std::optional<URL>& guide);
@@ -74,10 +80,13 @@ private:
     SystemRandom m_random;
     SystemSleeper m_sleeper;
     NetworkURLSession m_network;
+    NetworkURLSession m_calendarNetwork;
     std::unique_ptr<OwnGuideSession> m_guideSession;
     std::unique_ptr<HomeLock> m_lock;
     SampleRegionProcess m_region;
-    std::unique_ptr<EventStore> m_eventStore;
+    std::unique_ptr<SecretStore> m_secrets;
+    std::unique_ptr<CombinedEventStore> m_eventStore;
+    std::unique_ptr<CalendarAccounts> m_calendarAccounts;
     std::unique_ptr<EmbeddedPublicDatabase> m_publicDatabase;
     std::unique_ptr<VidoraAppDelegate> m_delegate;
     std::atomic<int> m_endSignal = 0;

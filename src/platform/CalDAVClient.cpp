@@ -57,6 +57,58 @@ CalDAVClient::Outcome outcomeOf(int status)
     return status / 100 == 4 ? Outcome::Rejected : Outcome::Failed;
 }
 
+CalDAVClient::Trouble troubleOf(const URLError& error)
+{
+    using Trouble = CalDAVClient::Trouble;
+    switch (error.kind) {
+    case URLError::Kind::NoSuchHost:
+        return Trouble::NoSuchHost;
+    case URLError::Kind::NoConnection:
+        return Trouble::NoConnection;
+    case URLError::Kind::NoEncryption:
+        return Trouble::NoEncryption;
+    case URLError::Kind::Certificate:
+        return Trouble::Certificate;
+    case URLError::Kind::TimedOut:
+    case URLError::Kind::Cancelled:
+        return Trouble::TimedOut;
+    case URLError::Kind::Other:
+        break;
+    }
+    return Trouble::Other;
+}
+
+CalDAVClient::Trouble troubleOf(int status)
+{
+    using Trouble = CalDAVClient::Trouble;
+    switch (status) {
+    case 401:
+        return Trouble::Password;
+    case 403:
+        return Trouble::Forbidden;
+    case 404:
+    case 405:
+    case 410:
+    case 501:
+        return Trouble::NoCalendars;
+    default:
+        break;
+    }
+    if (status / 100 == 2)
+        return Trouble::None;
+    if (status / 100 == 3)
+        return Trouble::Elsewhere;
+    return status / 100 == 5 ? Trouble::Server : Trouble::Other;
+}
+
+/// Trouble that another request to the same host would meet again.
+bool concernsTheHost(CalDAVClient::Trouble trouble)
+{
+    using Trouble = CalDAVClient::Trouble;
+    return trouble == Trouble::NoSuchHost || trouble == Trouble::NoConnection || trouble == Trouble::NoEncryption ||
+           trouble == Trouble::Certificate || trouble == Trouble::TimedOut;
+}
+
 /// Whether a password may go there as it stands: encrypted, or not out of this machine.
 bool keepsSecrets(const QUrl& address)
 {
@@ -100,10 +152,32 @@ bool CalDAVClient::learnAuthentication(const HeaderFields& fields, const QUrl& a
         offered = URLAuthentication::Digest;
     else if (offers.contains("basic") && keepsSecrets(address))
         offered = URLAuthentication::Basic;
+    else if (offers.contains("basic"))
+        m_lastTrouble = Trouble::OpenLine;
     if (!offered || m_authentication == offered)
         return false;
+    if (!hasPassword()) {
+        m_lastTrouble = Trouble::NoPassword;
+        return false;
+    }
     m_authentication = offered;
     return true;
+}
+
+bool CalDAVClient::hasPassword()
+{
+    if (m_account.password.isNull() && m_account.keptPassword) {
+        m_account.password = m_account.keptPassword().value_or(QString());
+        m_account.keptPassword = {};
+    }
+    return !m_account.password.isNull();
+}
+
+CalDAVClient::Outcome CalDAVClient::fail(Trouble trouble, const QString& answer)
+{
+    m_lastTrouble = trouble;
+    m_lastAnswer = answer;
+    return Outcome::Failed;
 }
 
 bool CalDAVClient::mayFollow(const QUrl& from, const QUrl& to) const
@@ -140,8 +214,11 @@ CalDAVClient::Answer CalDAVClient::askOnce(const Query& query)
     m_hasAnswered = result.response.has_value();
     if (result.error && result.response && result.response->statusCode / 100 == 2)
         answer.outcome = Outcome::TooLarge;
+    m_lastTrouble = result.error ? troubleOf(*result.error) : Trouble::Other;
     if (result.error || !result.response || !result.data)
         return answer;
+    ++m_answerCount;
+    m_lastTrouble = troubleOf(result.response->statusCode);
     answer.status = result.response->statusCode;
     answer.outcome = outcomeOf(answer.status);
     answer.headerFields = std::move(result.response->headerFields);
@@ -169,7 +246,8 @@ CalDAVClient::Answer CalDAVClient::ask(Query query)
                 continue;
             }
         }
-        if (answer.outcome == Outcome::Failed && answer.status / 100 != 3 && !tried) {
+        if (answer.outcome == Outcome::Failed && answer.status / 100 != 3 && !tried &&
+            !concernsTheHost(m_lastTrouble)) {
             tried = true;
             m_sleeper.sleep(pauseBeforeRetry);
             continue;
@@ -186,8 +264,8 @@ CalDAVClient::Answer CalDAVClient::askMultistatus(const Query& query, std::vecto
         return answer;
     auto multistatus = answer.status == 207 ? DAVMultistatus::read(answer.body) : std::nullopt;
     if (!multistatus) {
-        m_lastAnswer += QStringLiteral(", which is no calendar server's answer");
-        answer.outcome = Outcome::Failed;
+        answer.outcome =
+            fail(Trouble::NoCalendars, m_lastAnswer + QStringLiteral(", which is no calendar server's answer"));
         return answer;
     }
     responses = std::move(multistatus->responses);
@@ -221,8 +299,10 @@ CalDAVClient::Outcome CalDAVClient::discover(QUrl& home)
     const QString text = m_account.address.trimmed();
     const bool whole = text.startsWith(QLatin1String("https://")) || text.startsWith(QLatin1String("http://"));
     QUrl given(whole ? text : QStringLiteral("https://") + text, QUrl::StrictMode);
-    if (!given.isValid() || given.host().isEmpty())
+    if (!given.isValid() || given.host().isEmpty()) {
+        fail(Trouble::BadAddress, QStringLiteral("\"%1\" is no address").arg(text));
         return Outcome::Rejected;
+    }
     given.setUserInfo({});
     QUrl wellKnown = given; // RFC 6764, 5
     wellKnown.setPath(QStringLiteral("/.well-known/caldav"));
@@ -239,10 +319,25 @@ CalDAVClient::Outcome CalDAVClient::discover(QUrl& home)
             return Outcome::Done;
         }
         outcome = links.outcome;
-        if (outcome == Outcome::Refused)
+        if (outcome == Outcome::Refused || concernsTheHost(m_lastTrouble))
             return outcome;
     }
-    return outcome == Outcome::Done ? Outcome::Missing : outcome;
+    if (outcome != Outcome::Done)
+        return outcome;
+    fail(Trouble::NoCalendars, m_lastAnswer + QStringLiteral(", without a word of calendars"));
+    return Outcome::Missing;
+}
+
+CalDAVClient::Findings CalDAVClient::examine()
+{
+    Findings findings;
+    const bool done =
+        discover(findings.home) == Outcome::Done && calendars(findings.home, findings.calendars) == Outcome::Done;
+    if (!done)
+        findings.trouble = m_lastTrouble == Trouble::None ? Trouble::Other : m_lastTrouble;
+    findings.lastAnswer = m_lastAnswer;
+    findings.authentication = m_authentication;
+    return findings;
 }
 
 CalDAVClient::Outcome CalDAVClient::calendars(const QUrl& home, std::vector<RemoteCalendar>& result)
@@ -274,7 +369,9 @@ CalDAVClient::Outcome CalDAVClient::calendars(const QUrl& home, std::vector<Remo
             result.push_back(std::move(calendar));
     }
     // A list without the place that was asked about is no list, and says nothing about calendars that are not in it.
-    return answer.outcome == Outcome::Done && !complete ? Outcome::Failed : answer.outcome;
+    return answer.outcome == Outcome::Done && !complete
+               ? fail(Trouble::NoCalendars, m_lastAnswer + QStringLiteral(", which is no list of calendars"))
+               : answer.outcome;
 }
 
 CalDAVClient::Outcome CalDAVClient::changes(const RemoteCalendar& calendar, const QString& token, Changes& result)

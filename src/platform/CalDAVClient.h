@@ -6,6 +6,9 @@
 
 #include <QUrl>
 
+#include <atomic>
+#include <functional>
+
 namespace vidora {
 
 struct DAVResponse;
@@ -15,15 +18,17 @@ struct CalDAVAccount
 {
     QString address; ///< a host ("calendar.example.org") or an address; without a scheme "https:" is meant
     QString user;
-    QString password;
+    QString password; ///< null: it is asked for, once the server wants it
+    /// Where the password is kept: asked on the thread of the request, at most once. Nothing when it can't be had.
+    std::function<std::optional<QString>()> keptPassword = {};
 };
 
 /// The requests of calendar access over WebDAV (RFC 4791, RFC 4918, RFC 6578): one operation of the protocol each,
 /// without memory of calendars. Blocks; one thread at a time, never the main one.
 ///
 /// Redirects are followed within the host that the account names and the hosts below it, and never from HTTPS to HTTP:
-/// a password goes nowhere else, and as it stands only over HTTPS or to this machine. An answer that doesn't come, or
-/// the server's own trouble, is tried once more.
+/// a password goes nowhere else, and as it stands only over HTTPS or to this machine. An answer that got lost, or the
+/// server's own trouble, is tried once more; a host that can't be reached is not.
 class CalDAVClient
 {
 public:
@@ -36,6 +41,25 @@ public:
         Rejected, ///< any other answer that says no: 400, 403, 409, 413, 415, 423, 507, ...
         TooLarge, ///< an answer came that can't be had whole
         Failed    ///< no answer, the server's own trouble, or something that is no answer to the question
+    };
+    /// Why a request came to nothing, as far as it can be told.
+    enum class Trouble
+    {
+        None,
+        BadAddress,
+        NoSuchHost,
+        NoConnection,
+        NoEncryption,
+        Certificate,
+        TimedOut,
+        NoPassword,  ///< the server wants one and none could be had
+        Password,    ///< the server takes this user with this password for nobody
+        OpenLine,    ///< the password would go over the line as it stands
+        Forbidden,   ///< the user is known and may not
+        Elsewhere,   ///< the server sends us to where no password of the account may go
+        NoCalendars, ///< a server, but none of calendars at this address
+        Server,      ///< the server's own trouble
+        Other
     };
     struct RemoteCalendar
     {
@@ -61,8 +85,20 @@ public:
         bool whole = false; ///< `present` is all there is, not only what changed
     };
 
+    /// What there is of an account: to tell the user.
+    struct Findings
+    {
+        Trouble trouble = Trouble::None; ///< none: all was found
+        QString lastAnswer;
+        std::optional<URLAuthentication> authentication;
+        QUrl home; ///< empty when the trouble was to find it
+        std::vector<RemoteCalendar> calendars;
+    };
+
     CalDAVClient(URLSession& session, Sleeper& sleeper, CalDAVAccount account);
 
+    /// The way to the calendars from the beginning, and what they are.
+    Findings examine();
     /// The address below which the user's calendars lie.
     Outcome discover(QUrl& home);
     Outcome calendars(const QUrl& home, std::vector<RemoteCalendar>& result);
@@ -83,6 +119,8 @@ public:
     /// Whether the server answered the last request, be it that it can't.
     bool hasAnswered() const { return m_hasAnswered; }
     int requestCount() const { return m_requestCount; }
+    /// How many answers of whatever kind have come. Any thread.
+    int answerCount() const { return m_answerCount; }
 
 private:
     struct Query
@@ -112,17 +150,21 @@ private:
     Answer ask(Query query);
     Answer askOnce(const Query& query);
     bool learnAuthentication(const HeaderFields& fields, const QUrl& address);
+    bool hasPassword();
+    Outcome fail(Trouble trouble, const QString& answer);
     bool mayFollow(const QUrl& from, const QUrl& to) const;
     Answer askMultistatus(const Query& query, std::vector<DAVResponse>& responses, QString& syncToken);
     Links linksIn(const QUrl& address);
 
     URLSession& m_session;
     Sleeper& m_sleeper;
-    const CalDAVAccount m_account;
+    CalDAVAccount m_account;
     std::optional<URLAuthentication> m_authentication;
     QString m_lastAnswer;
     bool m_hasAnswered = false;
+    Trouble m_lastTrouble = Trouble::None;
     int m_requestCount = 0;
+    std::atomic<int> m_answerCount = 0;
 };
 
 } // namespace vidora

@@ -2,6 +2,7 @@
 
 #include "platform/CalDAVClient.h"
 #include "platform/CalDAVMirror.h"
+#include "platform/DispatchQueue.h"
 #include "platform/FolderEventStore.h"
 
 namespace vidora {
@@ -14,12 +15,22 @@ namespace vidora {
 /// `refreshInterval`: one request for all calendars and two for each that changed. After a failure the server is left
 /// alone for `pauseAfterFailure`.
 ///
+/// With `Exchange::InBackground` the two do not wait for the server: what is to be asked and sent is put on a queue of
+/// the store's own, and reads answer from the mirror meanwhile. A server that can't be reached then holds up nobody.
+///
 /// Nothing is sent but events that this program saved or removed, each on the condition that the server still has the
 /// version the change was made to. Where it has another one, that one stays and comes into the mirror: the user, who
 /// changed it elsewhere, is right. An answer that got lost is recognised when the change is sent again.
 class CalDAVEventStore final : public EventStore
 {
 public:
+    enum class Exchange
+    {
+        WhileCallerWaits,
+        InBackground,
+        Never ///< the mirror is all there is; changes wait in it for another time
+    };
+
     static constexpr Seconds refreshInterval{60};
     static constexpr Seconds pauseAfterFailure{60};
     static constexpr Seconds pauseAfterRefusal{15 * 60}; ///< servers lock out who keeps giving a wrong password
@@ -27,10 +38,17 @@ public:
     /// `folder`: of the mirror, this account's alone. What is passed by reference must outlive the store; the session
     /// should bound its bodies: an event that is longer is left out.
     CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session, const Clock& clock,
-                     Random& random, Sleeper& sleeper, FileLayer& layer = FileLayer::system());
+                     Random& random, Sleeper& sleeper, Exchange exchange = Exchange::WhileCallerWaits,
+                     FileLayer& layer = FileLayer::system());
+    /// Waits for what is going on in the background.
+    ~CalDAVEventStore() override;
 
-    /// Asks the server now, whatever was asked when: to test an account. Nothing on success.
+    /// Asks the server now and waits for it, whatever was asked when: to test an account. Nothing on success.
     std::optional<EventStoreError> refresh();
+    /// Queues the block on the main queue once nothing is going on in the background.
+    void whenExchanged(DispatchQueue::Block block) { m_exchanges.notify(DispatchQueue::main(), std::move(block)); }
+    /// How many answers the server has given: who waits sees whether something is going on. Any thread.
+    int answerCount() const { return m_client.answerCount(); }
     /// How many changes wait for the server.
     int unsentChanges();
     int requestCount() const { return m_client.requestCount(); }
@@ -59,6 +77,7 @@ private:
     bool noteFailure(Outcome outcome);
     bool isWithin(const std::optional<Instant>& moment, Seconds period) const;
     bool mayAsk() const;
+    void exchange(std::function<void()> work);
     std::optional<EventStoreError> write();
     bool findHome();
     bool refreshAll();
@@ -66,26 +85,40 @@ private:
     bool pull(const QString& calendar, const CalDAVClient::RemoteCalendar& remote);
     bool bring(CalDAVMirror& mirror, const QString& calendar, const std::vector<CalDAVClient::RemoteEvent>& wanted);
     bool write(const CalDAVMirror& mirror, const QString& calendar) const;
+    bool isWanted(const CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event) const;
     void keep(CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event);
     void forget(CalDAVMirror& mirror, const QString& calendar, const QString& name);
     void pushAll();
     bool push(const QString& calendar);
-    Outcome send(CalDAVMirror& mirror, const QString& calendar, const QString& name, CalDAVMirror::Change change);
-    Outcome sendDocument(CalDAVMirror& mirror, const QString& calendar, const QString& name);
-    Outcome settle(CalDAVMirror& mirror, const QString& calendar, const QString& name);
+    Outcome send(CalDAVMirror& mirror, const QString& calendar, const QString& name, const CalDAVMirror::Order& order);
+    Outcome sendDocument(CalDAVMirror& mirror, const QString& calendar, const QString& name,
+                         const CalDAVMirror::Order& order);
+    Outcome settle(CalDAVMirror& mirror, const QString& calendar, const QString& name, const CalDAVMirror::Order& order,
+                   const std::optional<QByteArray>& sent);
 
     const QString m_folder;
     const QString m_accountAddress;
     const Clock& m_clock;
+    const Exchange m_exchange;
     FileLayer& m_layer;
     FolderEventStore m_files;
+
+    std::mutex m_exchangeMutex; ///< held while the server is asked; guards the following
     CalDAVClient m_client;
-    std::mutex m_mutex; ///< held while the server is asked
-    std::map<QString, CalDAVMirror> m_mirrors;
     QUrl m_home;
     std::optional<Instant> m_refreshed;
     std::optional<Instant> m_failed;
     Seconds m_pause{0}; ///< after that
+
+    /// Held for work on the disk alone. Outboxes change under it at any time; all else about a mirror changes under
+    /// both, so that whoever exchanges reads it without.
+    std::mutex m_mutex;
+    std::map<QString, CalDAVMirror> m_mirrors;
+    std::uint64_t m_lastOrder = 0;
+
+    DispatchGroup m_exchanges;
+    std::atomic<bool> m_isPushQueued = false;
+    std::shared_ptr<DispatchQueue> m_queue; ///< null unless exchanges are in the background
 };
 
 } // namespace vidora

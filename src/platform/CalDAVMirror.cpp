@@ -52,7 +52,7 @@ CalDAVMirror CalDAVMirror::read(const QString& folder)
     const QJsonObject outbox = object.value(QLatin1String("outbox")).toObject();
     for (auto change = outbox.begin(); change != outbox.end(); ++change) {
         if (isPlainName(change.key()))
-            mirror.outbox[change.key()] =
+            mirror.outbox[change.key()].change =
                 change.value().toString() == QLatin1String("remove") ? Change::Remove : Change::Put;
     }
     for (auto& [name, item] : mirror.items) {
@@ -71,8 +71,8 @@ bool CalDAVMirror::write(const QString& folder, FileLayer& layer) const
     for (const auto& [name, item] : items)
         itemObject.insert(name, QJsonArray{item.href, item.tag});
     QJsonObject outboxObject;
-    for (const auto& [name, change] : outbox)
-        outboxObject.insert(name, change == Change::Remove ? QStringLiteral("remove") : QStringLiteral("put"));
+    for (const auto& [name, order] : outbox)
+        outboxObject.insert(name, order.change == Change::Remove ? QStringLiteral("remove") : QStringLiteral("put"));
     const QJsonObject object{{QStringLiteral("address"), address},
                              {QStringLiteral("token"), token},
                              {QStringLiteral("items"), itemObject},

@@ -24,16 +24,30 @@ struct CalDAVMirror
         Remove
     };
 
+    /// A change that the server doesn't have. Its number, of no meaning after a restart, tells it from a later change
+    /// of the same event.
+    struct Order
+    {
+        Change change = Change::Put;
+        std::uint64_t number = 0;
+    };
+
     QString address;
-    QString token;                    ///< up to which the server's changes are known
-    std::map<QString, Item> items;    ///< by the name of the copy
-    std::map<QString, Change> outbox; ///< our changes that the server doesn't have, by the name of the copy
+    QString token;                   ///< up to which the server's changes are known
+    std::map<QString, Item> items;   ///< by the name of the copy
+    std::map<QString, Order> outbox; ///< our changes that the server doesn't have, by the name of the copy
 
     /// A missing or unreadable file is an empty mirror, all of which has to be fetched. So has the copy of an event
     /// that is missing or empty, as a loss of power may leave it.
     static CalDAVMirror read(const QString& folder);
     /// True when it is on the disk.
     bool write(const QString& folder, FileLayer& layer) const;
+
+    bool isLatest(const QString& name, const Order& order) const
+    {
+        const auto present = outbox.find(name);
+        return present != outbox.end() && present->second.number == order.number;
+    }
 
     /// The name of the copy of an event on the server: the last part of its address where that can be a file's name.
     QString nameFor(const QUrl& event) const;

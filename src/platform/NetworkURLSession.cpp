@@ -17,9 +17,27 @@ using SteadyClock = std::chrono::steady_clock;
 
 constexpr qsizetype maximumHeaderSize = 256 * 1024;
 
-URLResult failure(const QString& description)
+URLResult failure(const QString& description, URLError::Kind kind = URLError::Kind::Other)
 {
-    return {std::nullopt, std::nullopt, URLError{description, {}, {}}};
+    return {std::nullopt, std::nullopt, URLError{description, {}, {}, kind}};
+}
+
+URLError::Kind kindOf(CURLcode code)
+{
+    switch (code) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+        return URLError::Kind::NoSuchHost;
+    case CURLE_COULDNT_CONNECT:
+        return URLError::Kind::NoConnection;
+    case CURLE_SSL_CONNECT_ERROR:
+        return URLError::Kind::NoEncryption;
+    case CURLE_PEER_FAILED_VERIFICATION:
+        return URLError::Kind::Certificate;
+    case CURLE_OPERATION_TIMEDOUT:
+        return URLError::Kind::TimedOut;
+    default:
+        return URLError::Kind::Other;
+    }
 }
 
 struct HeaderList
@@ -77,7 +95,7 @@ struct NetworkURLSession::Shared
 class NetworkURLSession::Transfer
 {
 public:
-    explicit Transfer(CURLSH* share);
+    Transfer(CURLSH* share, const QByteArray& authorities);
     Transfer(const Transfer&) = delete;
     Transfer& operator=(const Transfer&) = delete;
     ~Transfer()
@@ -91,7 +109,7 @@ public:
 
 private:
     void setUp(const URLRequest& request);
-    QString wait(const URLRequest& request, const std::atomic<bool>& cancelled);
+    std::optional<URLError> wait(const URLRequest& request, const std::atomic<bool>& cancelled);
     static std::size_t bodyArrived(char* bytes, std::size_t, std::size_t size, void* self);
     static std::size_t headerArrived(char* bytes, std::size_t, std::size_t size, void* self);
     bool takeHeaderLine(const QByteArray& line);
@@ -106,7 +124,7 @@ private:
     QString m_refusal; ///< why a callback of ours broke the transfer off
 };
 
-NetworkURLSession::Transfer::Transfer(CURLSH* share)
+NetworkURLSession::Transfer::Transfer(CURLSH* share, const QByteArray& authorities)
     : m_multi(curl_multi_init())
     , m_easy(curl_easy_init())
 {
@@ -122,6 +140,10 @@ NetworkURLSession::Transfer::Transfer(CURLSH* share)
     curl_easy_setopt(m_easy, CURLOPT_WRITEDATA, this);
     curl_easy_setopt(m_easy, CURLOPT_HEADERFUNCTION, &headerArrived);
     curl_easy_setopt(m_easy, CURLOPT_HEADERDATA, this);
+    if (!authorities.isEmpty()) {
+        curl_easy_setopt(m_easy, CURLOPT_CAINFO, authorities.constData());
+        curl_easy_setopt(m_easy, CURLOPT_CAPATH, nullptr);
+    }
 }
 
 URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 maximumBodySize,
@@ -138,17 +160,16 @@ URLResult NetworkURLSession::Transfer::run(const URLRequest& request, qint64 max
     curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers.list);
     setUp(request);
     curl_multi_add_handle(m_multi, m_easy);
-    const QString error = wait(request, cancelled);
+    std::optional<URLError> error = wait(request, cancelled);
     curl_multi_remove_handle(m_multi, m_easy);
     curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, nullptr);
 
     URLResult result;
     if (m_response.statusCode != 0)
         result.response = std::move(m_response);
-    if (error.isNull())
+    if (!error)
         result.data = std::exchange(m_body, {});
-    else
-        result.error = URLError{error, {}, {}};
+    result.error = std::move(error);
     m_body = {};
     return result;
 }
@@ -175,8 +196,8 @@ void NetworkURLSession::Transfer::setUp(const URLRequest& request)
     }
 }
 
-/// Drives the transfer to its end. A null text for a whole response, else what went wrong.
-QString NetworkURLSession::Transfer::wait(const URLRequest& request, const std::atomic<bool>& cancelled)
+/// Drives the transfer to its end. Nothing for a whole response, else what went wrong.
+std::optional<URLError> NetworkURLSession::Transfer::wait(const URLRequest& request, const std::atomic<bool>& cancelled)
 {
     const auto end = SteadyClock::now() + request.timeoutIntervalForResource;
     // The session's end wakes a transfer up; a request's own is looked for.
@@ -187,18 +208,19 @@ QString NetworkURLSession::Transfer::wait(const URLRequest& request, const std::
         const auto deadline = std::min(end, m_lastByte + request.timeoutIntervalForRequest);
         const auto left = std::chrono::ceil<Milliseconds>(deadline - SteadyClock::now());
         if (cancelled || (request.cancelled && *request.cancelled))
-            return QStringLiteral("cancelled");
+            return failure(QStringLiteral("cancelled"), URLError::Kind::Cancelled).error;
         if (left <= Milliseconds::zero())
-            return QStringLiteral("timed out");
+            return failure(QStringLiteral("timed out"), URLError::Kind::TimedOut).error;
         curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(std::min(left, longestNap).count()), nullptr);
     }
     int queued = 0;
     const CURLMsg* message = curl_multi_info_read(m_multi, &queued);
     if (!m_refusal.isNull())
-        return m_refusal;
+        return failure(m_refusal).error;
     if (!message || message->msg != CURLMSG_DONE)
-        return QStringLiteral("transfer failed");
-    return message->data.result == CURLE_OK ? QString() : QString::fromUtf8(curl_easy_strerror(message->data.result));
+        return failure(QStringLiteral("transfer failed")).error;
+    const CURLcode code = message->data.result;
+    return code == CURLE_OK ? std::nullopt : failure(QString::fromUtf8(curl_easy_strerror(code)), kindOf(code)).error;
 }
 
 std::size_t NetworkURLSession::Transfer::bodyArrived(char* bytes, std::size_t, std::size_t size, void* self)
@@ -236,8 +258,9 @@ bool NetworkURLSession::Transfer::takeHeaderLine(const QByteArray& line)
     return true;
 }
 
-NetworkURLSession::NetworkURLSession(qint64 maximumBodySize)
+NetworkURLSession::NetworkURLSession(qint64 maximumBodySize, const QString& authorities)
     : m_maximumBodySize(maximumBodySize)
+    , m_authorities(authorities.toUtf8())
     , m_shared(std::make_unique<Shared>())
 {
 }
@@ -247,7 +270,7 @@ NetworkURLSession::~NetworkURLSession() = default;
 URLResult NetworkURLSession::perform(const URLRequest& request)
 {
     if (m_cancelled)
-        return failure(QStringLiteral("cancelled"));
+        return failure(QStringLiteral("cancelled"), URLError::Kind::Cancelled);
     const QString scheme = request.url.scheme();
     if (scheme == QLatin1String("file") && request.allowsFile)
         return readFile(request.url);
@@ -264,7 +287,7 @@ std::unique_ptr<NetworkURLSession::Transfer> NetworkURLSession::take()
     const std::lock_guard lock(m_mutex);
     std::unique_ptr<Transfer> transfer;
     if (m_idle.empty()) {
-        transfer = std::make_unique<Transfer>(m_shared->share);
+        transfer = std::make_unique<Transfer>(m_shared->share, m_authorities);
     } else {
         transfer = std::move(m_idle.back());
         m_idle.pop_back();

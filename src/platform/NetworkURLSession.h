@@ -20,8 +20,9 @@ namespace vidora {
 class NetworkURLSession final : public URLSession
 {
 public:
-    /// A body, decoded, of more bytes than `maximumBodySize` is an error.
-    explicit NetworkURLSession(qint64 maximumBodySize = 512LL * 1024 * 1024);
+    /// A body, decoded, of more bytes than `maximumBodySize` is an error. `authorities`: a file of certificates (PEM)
+    /// that are trusted in place of the system's.
+    explicit NetworkURLSession(qint64 maximumBodySize = 512LL * 1024 * 1024, const QString& authorities = {});
     /// No request may be running.
     ~NetworkURLSession() override;
 
@@ -39,6 +40,7 @@ private:
     URLResult readFile(const URL& url) const;
 
     const qint64 m_maximumBodySize;
+    const QByteArray m_authorities;
     std::atomic<bool> m_cancelled = false;
     std::unique_ptr<Shared> m_shared;
     std::mutex m_mutex;

@@ -3,6 +3,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/Log.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -35,29 +36,57 @@ bool writeSecrets(const QString& file, const QJsonObject& secrets)
 
 } // namespace
 
-SecretStore::SecretStore(QString file)
+FileSecretStore::FileSecretStore(QString file)
     : m_file(std::move(file))
 {
 }
 
-std::optional<QString> SecretStore::secret(const QString& account) const
+std::optional<QString> FileSecretStore::secret(const QString& account)
 {
     const QJsonValue value = readSecrets(m_file).value(account);
     return value.isString() ? std::optional(value.toString()) : std::nullopt;
 }
 
-bool SecretStore::setSecret(const QString& account, const QString& secret)
+bool FileSecretStore::setSecret(const QString& account, const QString& secret)
 {
     QJsonObject secrets = readSecrets(m_file);
     secrets.insert(account, secret);
     return writeSecrets(m_file, secrets);
 }
 
-bool SecretStore::removeSecret(const QString& account)
+bool FileSecretStore::removeSecret(const QString& account)
 {
     QJsonObject secrets = readSecrets(m_file);
+    if (!secrets.contains(account))
+        return true;
     secrets.remove(account);
-    return writeSecrets(m_file, secrets);
+    return secrets.isEmpty() ? QFile::remove(m_file) : writeSecrets(m_file, secrets);
+}
+
+FallbackSecretStore::FallbackSecretStore(std::unique_ptr<SecretStore> first, std::unique_ptr<SecretStore> second)
+    : m_first(std::move(first))
+    , m_second(std::move(second))
+{
+}
+
+std::optional<QString> FallbackSecretStore::secret(const QString& account)
+{
+    auto secret = m_second->secret(account);
+    return secret ? secret : m_first->secret(account);
+}
+
+bool FallbackSecretStore::setSecret(const QString& account, const QString& secret)
+{
+    if (m_first->setSecret(account, secret))
+        return m_second->removeSecret(account);
+    Log::line(QStringLiteral("no secret service keeps passwords; they are in a file of their owner alone"));
+    return m_second->setSecret(account, secret);
+}
+
+bool FallbackSecretStore::removeSecret(const QString& account)
+{
+    const bool inSecond = m_second->secret(account).has_value();
+    return inSecond ? m_second->removeSecret(account) : m_first->removeSecret(account);
 }
 
 } // namespace vidora

@@ -20,9 +20,21 @@ struct URLResponse
 /// Why no whole response came.
 struct URLError
 {
+    enum class Kind
+    {
+        Other,
+        NoSuchHost,
+        NoConnection,
+        NoEncryption, ///< the other side speaks no TLS, or none that both know
+        Certificate,  ///< the other side is not who it should be
+        TimedOut,
+        Cancelled
+    };
+
     QString description;                 ///< for the log
     QString localizedFailureReason;      ///< for the user; may be empty
     QString localizedRecoverySuggestion; ///< for the user; may be empty
+    Kind kind = Kind::Other;
 };
 
 /// The outcome of a request. An error comes without data: a body that was cut off is no body.

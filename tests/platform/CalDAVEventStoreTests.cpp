@@ -238,7 +238,7 @@ TEST(SecretStore, KeepsSecretsFromOthers)
 {
     QTemporaryDir home;
     const QString path = home.filePath(QStringLiteral("secrets"));
-    SecretStore store(path);
+    FileSecretStore store(path);
     ASSERT_TRUE(store.setSecret(QStringLiteral("ana@here"), QStringLiteral("s3cret")));
     EXPECT_EQ(store.secret(QStringLiteral("ana@here")), QStringLiteral("s3cret"));
     EXPECT_EQ(QFile(path).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());

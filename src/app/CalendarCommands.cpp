@@ -1,0 +1,330 @@
+#include "app/CalendarCommands.h"
+
+#include "app/CalendarTroubles.h"
+#include "app/ChannelNames.h"
+#include "app/Refusal.h"
+#include "app/ShowPrinter.h"
+#include "platform/Localized.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace vidora {
+
+namespace {
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
+/// What blocks, off the main thread, while the main thread listens to the system.
+template<typename Work>
+auto aside(const Work& work)
+{
+    std::optional<decltype(work())> result;
+    DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
+        auto found = work();
+        DispatchQueue::main().async([&result, found = std::move(found)] { result = found; });
+    });
+    DispatchQueue::runMain([&] { return result.has_value(); });
+    return std::move(*result);
+}
+
+class CalendarRun
+{
+public:
+    CalendarRun(const CommandLine& line, Device& device, const QString& password)
+        : m_line(line)
+        , m_device(device)
+        , m_password(password)
+        , m_engine(device.delegate().alarmEngine())
+        , m_store(device.delegate().eventStore())
+    {
+    }
+
+    int run();
+
+private:
+    CalendarAccounts& accounts() const { return *m_device.calendarAccounts(); }
+    void settle();
+    void answer(const QStringList& lines, const QJsonObject& json) const;
+    /// What stands behind the word that tells what to do.
+    QString name() const { return m_line.arguments.mid(1).join(QLatin1Char(' ')); }
+    CalendarAccount namedAccount() const;
+    Calendar namedCalendar() const;
+
+    void list();
+    void choose();
+    void add();
+    void test();
+    void remove();
+
+    bool test(const CalendarAccount& account, QStringList& lines, QJsonArray& json) const;
+    static QString lineOf(const CalDAVClient::RemoteCalendar& calendar);
+
+    const CommandLine& m_line;
+    Device& m_device;
+    const QString m_password;
+    AlarmEngine& m_engine;
+    EventStore& m_store;
+    int m_status = 0;
+};
+
+int CalendarRun::run()
+{
+    settle();
+    try {
+        if (!m_device.calendarAccounts())
+            throw Refusal{localized("With --clock there are no calendars, but in a home of its own: --home DIR.")};
+        const QString verb = m_line.arguments.value(0);
+        const bool isAddition = verb == QLatin1String("add");
+        if (m_line.options.contains(QStringLiteral("--user")) != isAddition)
+            throw Refusal{localized("--user NAME goes with \"calendars add ADDRESS\".")};
+        if (m_line.options.contains(QStringLiteral("--force")) && verb != QLatin1String("remove"))
+            throw Refusal{localized("--force goes with \"calendars remove NAME\".")};
+        if (isAddition)
+            add();
+        else if (verb == QLatin1String("test"))
+            test();
+        else if (verb == QLatin1String("remove"))
+            remove();
+        else if (verb.isEmpty())
+            list();
+        else
+            choose();
+        return m_status;
+    } catch (const Refusal& refusal) {
+        say(refusal.message);
+        return 1;
+    }
+}
+
+/// Waits until nothing is being done to the calendars.
+void CalendarRun::settle()
+{
+    bool isIdle = false;
+    DispatchQueue::main().async([&] { m_engine.whenIdle([&] { isIdle = true; }); });
+    DispatchQueue::runMain([&] { return isIdle; });
+}
+
+void CalendarRun::answer(const QStringList& lines, const QJsonObject& json) const
+{
+    printText(m_line.json ? QString::fromUtf8(QJsonDocument(json).toJson())
+                          : lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+}
+
+CalendarAccount CalendarRun::namedAccount() const
+{
+    QStringList names;
+    for (const CalendarAccount& account : accounts().accounts())
+        names << account.name;
+    if (names.isEmpty())
+        throw Refusal{localized("There is no account. \"vidora calendars add ADDRESS --user NAME\" adds one.")};
+    const QStringList candidates = candidatesFor(name(), names);
+    if (candidates.size() != 1)
+        throw Refusal{ambiguousName(name(), candidates, names)};
+    return *accounts().accountNamed(candidates.front());
+}
+
+/// By its title, and where several have it by title and source.
+Calendar CalendarRun::namedCalendar() const
+{
+    std::vector<Calendar> all = m_store.calendarsForEntityType(EntityType::Event);
+    std::erase_if(all, [](const Calendar& calendar) { return !calendar.allowsContentModifications; });
+    const QString wanted = m_line.arguments.join(QLatin1Char(' '));
+    QStringList titles, labels;
+    for (const Calendar& calendar : all) {
+        titles << calendar.title;
+        labels << QStringLiteral("%1 (%2)").arg(calendar.title, calendar.source);
+    }
+    QStringList candidates = candidatesFor(wanted, titles);
+    if (candidates.size() == 1)
+        return all[static_cast<std::size_t>(titles.indexOf(candidates.front()))];
+    candidates = candidatesFor(wanted, labels);
+    if (candidates.size() != 1)
+        throw Refusal{ambiguousName(wanted, candidates, labels)};
+    return all[static_cast<std::size_t>(labels.indexOf(candidates.front()))];
+}
+
+void CalendarRun::list()
+{
+    const auto selected = m_engine.selectedCalendar();
+    QJsonArray calendars, accountArray;
+    QStringList lines;
+    for (const Calendar& calendar : m_store.calendarsForEntityType(EntityType::Event)) {
+        const bool isSelected = selected == calendar;
+        calendars.append(QJsonObject{{QStringLiteral("title"), calendar.title},
+                                     {QStringLiteral("source"), calendar.source},
+                                     {QStringLiteral("writable"), calendar.allowsContentModifications},
+                                     {QStringLiteral("selected"), isSelected}});
+        lines << (isSelected ? QStringLiteral("* ") : QStringLiteral("  ")) + calendar.title + QLatin1String("  (") +
+                     calendar.source + QLatin1Char(')') +
+                     (calendar.allowsContentModifications ? QString() : localized(", read-only"));
+    }
+    const QString folder = Device::calendars(m_device.folders());
+    lines << localized("Calendars of this device lie in %1.").arg(folder);
+    for (const CalendarAccount& account : accounts().accounts()) {
+        const int waiting = accounts().storeOf(account)->unsentChanges();
+        accountArray.append(QJsonObject{{QStringLiteral("name"), account.name},
+                                        {QStringLiteral("address"), account.address},
+                                        {QStringLiteral("user"), account.user},
+                                        {QStringLiteral("waitingChanges"), waiting}});
+        if (waiting > 0)
+            lines << localized("%1: %2 changes wait for the server. \"vidora calendars test\" tells why.")
+                         .arg(account.name)
+                         .arg(waiting);
+    }
+    answer(lines, {{QStringLiteral("calendars"), calendars},
+                   {QStringLiteral("folder"), folder},
+                   {QStringLiteral("accounts"), accountArray}});
+}
+
+void CalendarRun::choose()
+{
+    const Calendar calendar = namedCalendar();
+    if (m_engine.hasEvents() && m_engine.selectedCalendar() != calendar)
+        throw Refusal{localized("You have to remove all your alerts before changing calendar")};
+    m_engine.saveCalendar(calendar);
+    settle();
+    list();
+}
+
+QString CalendarRun::lineOf(const CalDAVClient::RemoteCalendar& calendar)
+{
+    const QString title = calendar.title.isEmpty() ? calendar.address.path() : calendar.title;
+    return (calendar.writable ? localized("%1: can be written") : localized("%1: read-only")).arg(title);
+}
+
+void CalendarRun::add()
+{
+    const QString address = name();
+    const QString user = m_line.options.value(QStringLiteral("--user"));
+    if (address.isEmpty())
+        throw Refusal{localized("The address of the server is missing: calendars add ADDRESS --user NAME.")};
+    const CalendarAccount account = accounts().accountFor(address, user);
+    const auto findings = aside([&] { return accounts().examine(account, m_password); });
+    if (findings.trouble != CalDAVClient::Trouble::None)
+        throw Refusal{localized("Nothing was added. %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer)};
+    if (!aside([&] { return accounts().keepPassword(account, m_password); }) || !accounts().add(account))
+        throw Refusal{localized("The account can't be kept.")};
+    const auto store = accounts().storeOf(account);
+    if (const auto error = aside([&] { return store->refresh(); }))
+        say(localized("Its events could not be fetched yet (%1).").arg(error->localizedDescription));
+    QStringList lines{localized("Added: %1").arg(account.name)};
+    QJsonArray array;
+    bool anyIsWritable = false;
+    for (const auto& calendar : findings.calendars) {
+        anyIsWritable = anyIsWritable || calendar.writable;
+        lines << QStringLiteral("  ") + lineOf(calendar);
+        array.append(
+            QJsonObject{{QStringLiteral("title"), calendar.title}, {QStringLiteral("writable"), calendar.writable}});
+    }
+    lines << (anyIsWritable ? localized("\"vidora calendars NAME\" chooses the calendar for alarms.")
+                            : localized("None of its calendars can be written: alarms can't live there."));
+    answer(lines, {{QStringLiteral("added"), account.name}, {QStringLiteral("calendars"), array}});
+}
+
+bool CalendarRun::test(const CalendarAccount& account, QStringList& lines, QJsonArray& json) const
+{
+    const auto findings = aside([&] { return accounts().examine(account); });
+    const bool works = findings.trouble == CalDAVClient::Trouble::None;
+    QJsonObject object{{QStringLiteral("name"), account.name},
+                       {QStringLiteral("address"), account.address},
+                       {QStringLiteral("user"), account.user},
+                       {QStringLiteral("works"), works}};
+    lines << QStringLiteral("%1  (%2, %3)").arg(account.name, account.address, account.user);
+    if (!findings.home.isEmpty()) {
+        lines << localized("  Calendars are at %1.").arg(findings.home.toString());
+        object.insert(QStringLiteral("home"), findings.home.toString());
+        const QString login = !findings.authentication                               ? QStringLiteral("none")
+                              : findings.authentication == URLAuthentication::Digest ? QStringLiteral("digest")
+                                                                                     : QStringLiteral("basic");
+        lines << localized("  Login: %1.").arg(login);
+        object.insert(QStringLiteral("login"), login);
+    }
+    QJsonArray calendars;
+    for (const auto& calendar : findings.calendars) {
+        lines << QStringLiteral("  ") + lineOf(calendar);
+        calendars.append(
+            QJsonObject{{QStringLiteral("title"), calendar.title}, {QStringLiteral("writable"), calendar.writable}});
+    }
+    object.insert(QStringLiteral("calendars"), calendars);
+    const auto store = accounts().storeOf(account);
+    if (works)
+        aside([&] { return store->refresh().has_value(); });
+    const int waiting = store->unsentChanges();
+    object.insert(QStringLiteral("waitingChanges"), waiting);
+    if (waiting > 0)
+        lines << localized("  %1 changes wait for the server.").arg(waiting);
+    if (!works) {
+        lines << QStringLiteral("  %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer);
+        object.insert(QStringLiteral("error"), textOf(findings.trouble));
+        object.insert(QStringLiteral("lastAnswer"), findings.lastAnswer);
+    }
+    json.append(object);
+    return works;
+}
+
+void CalendarRun::test()
+{
+    const std::vector<CalendarAccount> tested =
+        name().isEmpty() && !accounts().accounts().empty() ? accounts().accounts() : std::vector{namedAccount()};
+    QStringList lines;
+    QJsonArray json;
+    for (const CalendarAccount& account : tested) {
+        if (!test(account, lines, json))
+            m_status = 1;
+    }
+    answer(lines, {{QStringLiteral("accounts"), json}});
+}
+
+void CalendarRun::remove()
+{
+    if (name().isEmpty())
+        throw Refusal{localized("Which account? calendars remove NAME.")};
+    const CalendarAccount account = namedAccount();
+    const auto selected = m_engine.selectedCalendar();
+    if (selected && selected->source == account.name && m_engine.hasEvents())
+        throw Refusal{localized("You have to remove all your alerts before changing calendar")};
+    auto store = accounts().storeOf(account);
+    if (store->unsentChanges() > 0)
+        aside([&] { return store->refresh().has_value(); });
+    const int lost = store->unsentChanges();
+    if (lost > 0 && !m_line.options.contains(QStringLiteral("--force")))
+        throw Refusal{localized("%1 changes wait for the server and would be lost; --force removes the account all the "
+                                "same.")
+                          .arg(lost)};
+    store.reset();
+    const bool isForgotten = aside([&] { return accounts().forgetPassword(account); });
+    if (!accounts().remove(account))
+        throw Refusal{localized("The account can't be removed.")};
+    if (!isForgotten)
+        say(localized("The password is still in the keyring, which can't be reached."));
+    answer({localized("Removed: %1. Its calendars stay on the server.").arg(account.name)},
+           {{QStringLiteral("removed"), account.name}, {QStringLiteral("lostChanges"), lost}});
+}
+
+} // namespace
+
+bool wantsCalendarPassword(const CommandLine& line)
+{
+    return line.command == QLatin1String("calendars") && line.arguments.size() == 2 &&
+           line.arguments.front() == QLatin1String("add") && line.options.contains(QStringLiteral("--user"));
+}
+
+bool changesCalendars(const CommandLine& line)
+{
+    return line.command == QLatin1String("calendars") && !line.arguments.isEmpty();
+}
+
+int runCalendarCommand(const CommandLine& line, Device& device, const QString& password)
+{
+    return CalendarRun(line, device, password).run();
+}
+
+} // namespace vidora

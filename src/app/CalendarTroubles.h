@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/CalDAVClient.h"
+
+namespace vidora {
+
+/// What is wrong with an account on a calendar server, in words for the user.
+QString textOf(CalDAVClient::Trouble trouble);
+
+} // namespace vidora
