@@ -175,7 +175,7 @@ void CalendarRun::list()
                                         {QStringLiteral("user"), account.user},
                                         {QStringLiteral("waitingChanges"), waiting}});
         if (waiting > 0)
-            lines << localized("%1: %2 changes wait for the server. \"vidora calendars test\" tells why.")
+            lines << localized("%1: changes that wait for the server: %2. \"vidora calendars test\" tells why.")
                          .arg(account.name)
                          .arg(waiting);
     }
@@ -239,12 +239,12 @@ bool CalendarRun::test(const CalendarAccount& account, QStringList& lines, QJson
                        {QStringLiteral("works"), works}};
     lines << QStringLiteral("%1  (%2, %3)").arg(account.name, account.address, account.user);
     if (!findings.home.isEmpty()) {
-        lines << localized("  Calendars are at %1.").arg(findings.home.toString());
+        lines << QLatin1String("  ") + localized("Calendars are at %1.").arg(findings.home.toString());
         object.insert(QStringLiteral("home"), findings.home.toString());
         const QString login = !findings.authentication                               ? QStringLiteral("none")
                               : findings.authentication == URLAuthentication::Digest ? QStringLiteral("digest")
                                                                                      : QStringLiteral("basic");
-        lines << localized("  Login: %1.").arg(login);
+        lines << QLatin1String("  ") + localized("Login: %1").arg(login);
         object.insert(QStringLiteral("login"), login);
     }
     QJsonArray calendars;
@@ -260,7 +260,7 @@ bool CalendarRun::test(const CalendarAccount& account, QStringList& lines, QJson
     const int waiting = store->unsentChanges();
     object.insert(QStringLiteral("waitingChanges"), waiting);
     if (waiting > 0)
-        lines << localized("  %1 changes wait for the server.").arg(waiting);
+        lines << QLatin1String("  ") + localized("Changes that wait for the server: %1").arg(waiting);
     if (!works) {
         lines << QStringLiteral("  %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer);
         object.insert(QStringLiteral("error"), textOf(findings.trouble));
@@ -296,9 +296,9 @@ void CalendarRun::remove()
         aside([&] { return store->refresh().has_value(); });
     const int lost = store->unsentChanges();
     if (lost > 0 && !m_line.options.contains(QStringLiteral("--force")))
-        throw Refusal{localized("%1 changes wait for the server and would be lost; --force removes the account all the "
-                                "same.")
-                          .arg(lost)};
+        throw Refusal{
+            localized("Changes that wait for the server would be lost: %1. --force removes the account all the same.")
+                .arg(lost)};
     store.reset();
     const bool isForgotten = aside([&] { return accounts().forgetPassword(account); });
     if (!accounts().remove(account))

@@ -1,6 +1,5 @@
 #include "CalDAVFixture.h"
 #include "platform/DAVMultistatus.h"
-#include "platform/SecretStore.h"
 
 #include <gtest/gtest.h>
 
@@ -232,18 +231,6 @@ TEST(DAVMultistatus, ReadsWhatServersWrite)
         many += "<p" + QByteArray::number(i) + "/>";
     many += "</prop><status>HTTP/1.1 200 OK</status></propstat></response></multistatus>";
     EXPECT_LT(DAVMultistatus::read(many)->responses.at(0).texts.size(), 100U);
-}
-
-TEST(SecretStore, KeepsSecretsFromOthers)
-{
-    QTemporaryDir home;
-    const QString path = home.filePath(QStringLiteral("secrets"));
-    FileSecretStore store(path);
-    ASSERT_TRUE(store.setSecret(QStringLiteral("ana@here"), QStringLiteral("s3cret")));
-    EXPECT_EQ(store.secret(QStringLiteral("ana@here")), QStringLiteral("s3cret"));
-    EXPECT_EQ(QFile(path).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
-    EXPECT_FALSE(store.secret(QStringLiteral("ana@here")));
 }
 
 } // namespace

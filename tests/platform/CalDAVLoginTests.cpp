@@ -1,4 +1,4 @@
-#include "CalendarSupport.h"
+#include "CalDAVServer.h"
 #include "platform/CalDAVClient.h"
 #include "platform/NetworkURLSession.h"
 
@@ -16,12 +16,6 @@ using Outcome = CalDAVClient::Outcome;
 using Trouble = CalDAVClient::Trouble;
 
 const QByteArray document = foreignEvent("w", "20261122T200000Z");
-
-class NoSleep final : public Sleeper
-{
-public:
-    void sleep(Milliseconds) override {}
-};
 
 /// Takes one event, from whoever `admits` lets in.
 template<typename Server>

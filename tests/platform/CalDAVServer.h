@@ -39,6 +39,11 @@ public:
                      "\n[rights]\ntype = from_file\nfile = " + folder.filePath(QStringLiteral("rights")).toUtf8() +
                      "\n[storage]\nfilesystem_folder = " + folder.filePath(QStringLiteral("store")).toUtf8() +
                      "\n[logging]\nlevel = warning\n");
+        start();
+    }
+    /// Begins to answer at its address, and no longer does.
+    void start()
+    {
         process.emplace(QByteArrayList{"radicale", "--config", folder.filePath(QStringLiteral("config")).toUtf8()},
                         folder.filePath(QStringLiteral("log")));
         while (!answers() && process->runs())
@@ -46,6 +51,7 @@ public:
         EXPECT_TRUE(answers()) << "radicale doesn't start: "
                                << readRaw(folder.filePath(QStringLiteral("log"))).toStdString();
     }
+    void stop() { process.reset(); }
     QString address() const { return QStringLiteral("http://127.0.0.1:%1").arg(port); }
     QString calendar(const char* name) const
     {
