@@ -116,6 +116,7 @@ public:
 
     /// What came of the last request, for the log and the user; holds no secret.
     const QString& lastAnswer() const { return m_lastAnswer; }
+    Trouble lastTrouble() const { return m_lastTrouble; }
     /// Whether the server answered the last request, be it that it can't.
     bool hasAnswered() const { return m_hasAnswered; }
     int requestCount() const { return m_requestCount; }

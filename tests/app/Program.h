@@ -55,10 +55,13 @@ public:
                           arguments);
     }
 
-    Ended run(const QStringList& arguments) const
+    /// `input`: what comes by standard input.
+    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
     {
         QProcess process;
         start(process, arguments);
+        process.write(input);
+        process.closeWriteChannel();
         return end(process);
     }
 

@@ -37,7 +37,6 @@ public:
         });
         port = server.bind_to_any_port("127.0.0.1");
         thread = std::thread([this] { server.listen_after_bind(); });
-        server.wait_until_ready();
     }
     ~EventServer()
     {

@@ -47,7 +47,7 @@ TEST_F(CombinedEventStoreTest, ShowsTheCalendarsOfAllSourcesAndKeepsTheirEventsA
     const auto all = store.calendarsForEntityType(EntityType::Event);
     std::vector<std::string> labels;
     for (const Calendar& each : all) {
-        labels.push_back((each.title + QLatin1Char(' ') + each.source).toStdString());
+        labels.push_back(QStringLiteral("%1 %2").arg(each.title, each.source).toStdString());
         EXPECT_EQ(store.calendarWithIdentifier(each.calendarIdentifier), each);
     }
     ASSERT_THAT(labels, ElementsAre("A Work", "B This device", "B Work", "Closed This device"));
