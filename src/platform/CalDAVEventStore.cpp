@@ -5,8 +5,8 @@
 namespace vidora {
 
 CalDAVEventStore::CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session,
-                                   const Clock& clock, Random& random, Sleeper& sleeper, Exchange exchange,
-                                   FileLayer& layer)
+                                   const Clock& clock, Random& random, Sleeper& sleeper, FileLayer& layer,
+                                   Exchange exchange)
     : m_folder(folder)
     , m_accountAddress(account.address)
     , m_clock(clock)

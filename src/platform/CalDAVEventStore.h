@@ -38,8 +38,8 @@ public:
     /// `folder`: of the mirror, this account's alone. What is passed by reference must outlive the store; the session
     /// should bound its bodies: an event that is longer is left out.
     CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session, const Clock& clock,
-                     Random& random, Sleeper& sleeper, Exchange exchange = Exchange::WhileCallerWaits,
-                     FileLayer& layer = FileLayer::system());
+                     Random& random, Sleeper& sleeper, FileLayer& layer = FileLayer::system(),
+                     Exchange exchange = Exchange::WhileCallerWaits);
     /// Waits for what is going on in the background.
     ~CalDAVEventStore() override;
 

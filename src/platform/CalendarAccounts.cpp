@@ -102,6 +102,7 @@ void CalendarAccounts::open(const CalendarAccount& account)
     const auto store = std::make_shared<CalDAVEventStore>(
         m_surroundings.mirrors + QLatin1Char('/') + account.identifier, account.name, login(account, {}),
         m_surroundings.session, m_surroundings.clock, m_surroundings.random, m_surroundings.sleeper,
+        FileLayer::system(),
         m_surroundings.isOffline ? CalDAVEventStore::Exchange::Never : CalDAVEventStore::Exchange::InBackground);
     m_stores.emplace(account.identifier, store);
     m_store.addSource(account.identifier, store);

@@ -59,7 +59,7 @@ TEST_F(CalDAVEventStoreTest, WaitsForNoServerAndLosesNoChangeMadeWhileItAnswers)
     HeldSession held(session);
     CalDAVEventStore store(home.filePath(QStringLiteral("a")), QStringLiteral("Work"),
                            {server.address(), QStringLiteral("ana"), QStringLiteral("s3cret")}, held, clock, random,
-                           sleeper, CalDAVEventStore::Exchange::InBackground);
+                           sleeper, FileLayer::system(), CalDAVEventStore::Exchange::InBackground);
     const auto settle = [&] {
         held.release();
         bool isOver = false;
