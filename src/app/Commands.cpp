@@ -362,9 +362,10 @@ int runCommand(const CommandLine& line)
         }
     }
     Device device(line, changes(line) ? Device::Access::Write : Device::Access::Read, fetches(line.command));
-    // The blocks queued at launch (pruning, the channel objects) come ahead of every command.
+    // The blocks queued at launch (pruning, the channel objects) come ahead of every command, and the alarms that rows
+    // show are known to them.
     bool launched = false;
-    DispatchQueue::main().async([&] { launched = true; });
+    DispatchQueue::main().async([&] { device.delegate().alarmEngine().whenIdle([&] { launched = true; }); });
     DispatchQueue::runMain([&] { return launched; });
 
     int status = 1;

@@ -95,6 +95,8 @@ void VidoraAppDelegate::makeAlarms()
         m_environment.clock, m_shows, m_alarms, m_silentHours, m_showCounters, m_eventStore, m_defaults,
         m_keyValueStore, *m_storeServices, *m_alarmServices, *this, m_environment.scheme, m_environment.readOnly});
     m_storeServices->setAlarms(m_alarmEngine.get());
+    m_alarmMarks = std::make_unique<AlarmMarks>(*m_alarmEngine, m_shows);
+    m_showServices.marks = m_alarmMarks.get();
     eventCount = [this] { return m_alarmEngine->eventCount(); };
     m_shows.favorites();
 }

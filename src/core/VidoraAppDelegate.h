@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/AlarmEngine.h"
+#include "core/AlarmMarks.h"
 #include "core/AlarmServices.h"
 #include "core/ChannelCatalogue.h"
 #include "core/LoadPauses.h"
@@ -184,6 +185,7 @@ private:
     std::unique_ptr<StoreServices> m_storeServices;
     std::unique_ptr<AlarmServices> m_alarmServices;
     std::unique_ptr<AlarmEngine> m_alarmEngine;
+    std::unique_ptr<AlarmMarks> m_alarmMarks;
     std::unique_ptr<TVListings> m_listings; ///< behind the engine, whose queries it runs
     std::unique_ptr<PageFetcher> m_fetcher;
     std::unique_ptr<ListingParser> m_parser;

@@ -67,6 +67,34 @@ TEST_F(ScreenFlowTest, AStreamThatNeverStartsIsClosedAndTheUserTold)
     EXPECT_FALSE(tabs->stream().player()) << "the answer closes what was opened meanwhile";
 }
 
+TEST_F(ScreenFlowTest, RowsShowFavouritesAndAlarmsAsTheyAreSet)
+{
+    const Calendar calendar{QStringLiteral("home"), QStringLiteral("Home"), QStringLiteral("Here"), {}, true};
+    MemoryEventStore calendars{{calendar}};
+    device.eventStore = &calendars;
+    broadcast(1, {QStringLiteral("News"), QStringLiteral("Film"), QStringLiteral("Sport")});
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    DispatchQueue::runMain([&] { return home().numberOfRowsInSection(0) > 3; });
+    VidoraAppDelegate& delegate = *device.delegate;
+    delegate.defaults().setObject(true, QStringLiteral("colorizedShows"));
+    delegate.setup();
+    delegate.alarmEngine().addFavorite(QStringLiteral("Film"));
+    delegate.alarmEngine().addFavorite(QStringLiteral("Sport"));
+    delegate.alarmEngine().setAlarmForTitle(QStringLiteral("Film"), 10, std::nullopt, true);
+    const auto colourOf = [&](std::size_t row) {
+        return home().rowAt({0, row}).text.runs().front().attributes.givenColour;
+    };
+    DispatchQueue::runMain([&] { return colourOf(2) == colour::alarmRed; });
+    EXPECT_EQ(colourOf(1), colour::onAirGreen);
+    EXPECT_EQ(colourOf(3), colour::favouriteOrange);
+    DispatchQueue::runMain([&] { return tabs->tabs()[3].badge == QStringLiteral("1"); });
+    delegate.alarmEngine().removeFavorite(QStringLiteral("Film"));
+    DispatchQueue::runMain([&] { return colourOf(2) == colour::secondaryLabel && !tabs->tabs()[3].badge; });
+    tabs.reset();
+    device.delegate.reset(); // ahead of the calendars
+}
+
 TEST_F(ScreenFlowTest, OnlyTheStreamThatWasAskedForIsChecked)
 {
     startStreams();

@@ -56,7 +56,8 @@ protected:
         device.launch();
         device.select(selected);
         settle();
-        device.delegate->setShowServices({&marks, nullptr, nullptr});
+        if (!device.eventStore)
+            device.delegate->setShowServices({&marks, nullptr, nullptr});
         tabs = std::make_unique<PersistentAdTabBarController>(*device.delegate);
         device.delegate->application().setApplicationState(Application::State::Active);
         if (!selected.empty())

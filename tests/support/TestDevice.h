@@ -172,7 +172,7 @@ public:
         delegate.reset();
         delegate = std::make_unique<VidoraAppDelegate>(
             Environment{folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), endpoints,
-                        QStringLiteral("vidora"), clock, random, sleeper, session});
+                        QStringLiteral("vidora"), clock, random, sleeper, session, false, false, eventStore});
         delegate->applicationDidFinishLaunching();
         settle();
         return *delegate;
@@ -223,6 +223,7 @@ public:
     ScriptedSession session;
     StandardFolders folders;
     Endpoints endpoints;
+    EventStore* eventStore = nullptr; ///< outlives the device
     std::unique_ptr<VidoraAppDelegate> delegate;
     std::vector<ObjectId> failed;
 };

@@ -75,7 +75,9 @@ public:
 
     ~OpenWindow()
     {
-        delegate().setShowServices({});
+        ShowServices services = delegate().showServices();
+        services.pictures = nullptr;
+        delegate().setShowServices(services);
         delegate().applicationIconBadge = {};
         m_device.endRequested = {};
         m_pictures->stop();
