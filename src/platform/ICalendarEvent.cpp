@@ -14,6 +14,14 @@ namespace {
 
 constexpr std::size_t maximalAlarms = 64;
 
+/// A day isn't 24 hours long when the clocks change.
+Instant startOfNextDay(Instant start)
+{
+    const QTimeZone zone = DeviceSettings::timeZone();
+    const QDate date = QDateTime::fromMSecsSinceEpoch(unixMilliseconds(start), zone).date();
+    return instantFromUnixMilliseconds(date.addDays(1).startOfDay(zone).toMSecsSinceEpoch());
+}
+
 /// Reads the properties of one document that has been taken apart.
 class EventReader
 {
@@ -92,7 +100,7 @@ private:
             return m_end->instant;
         if (m_duration)
             return m_start->instant + *m_duration;
-        return m_start->dateOnly ? m_start->instant + dayStep : m_start->instant;
+        return m_start->dateOnly ? startOfNextDay(m_start->instant) : m_start->instant;
     }
     /// Names that programs give their zones, to the names that everybody knows.
     const std::map<QByteArray, QByteArray>& zoneLocations()

@@ -49,6 +49,20 @@ QTimeZone zoneNamed(const QByteArray& name, const std::map<QByteArray, QByteArra
     return known.isEmpty() ? QTimeZone() : QTimeZone(known);
 }
 
+/// When the clocks of a zone first show a time, given as if it were one in UTC. One that they skip is counted from
+/// before the skip (RFC 5545, 3.3.5).
+Instant firstShowing(qint64 shown, const QTimeZone& zone)
+{
+    constexpr qint64 day = 86'400'000;
+    const auto offsetAt = [&](qint64 moment) {
+        return qint64(1000) * zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(moment, Qt::UTC));
+    };
+    const qint64 before = shown - offsetAt(shown - day);
+    const qint64 after = shown - offsetAt(shown + day);
+    const bool isBefore = before == after || shown - offsetAt(before) == before || shown - offsetAt(after) != after;
+    return instantFromUnixMilliseconds(isBefore ? before : after);
+}
+
 std::optional<Instant> instantOf(const icaltimetype& time, const QTimeZone& zone)
 {
     const QDate date(time.year, time.month, time.day);
@@ -56,10 +70,10 @@ std::optional<Instant> instantOf(const icaltimetype& time, const QTimeZone& zone
         return std::nullopt;
     if (time.is_date)
         return instantFromUnixMilliseconds(date.startOfDay(zone).toMSecsSinceEpoch());
-    const QDateTime moment(date, QTime(time.hour, time.minute, time.second), zone);
-    if (!QTime::isValid(time.hour, time.minute, time.second) || !moment.isValid())
+    const QTime clock(time.hour, time.minute, time.second);
+    if (!clock.isValid())
         return std::nullopt;
-    return instantFromUnixMilliseconds(moment.toMSecsSinceEpoch());
+    return firstShowing(QDateTime(date, clock, Qt::UTC).toMSecsSinceEpoch(), zone);
 }
 
 QByteArray lineOf(icalproperty* property)

@@ -34,7 +34,15 @@ TEST(ICalendarEvent, ReadsMomentsInEveryForm)
          "2026-12-01T18:00:00Z", false},
         {"DTSTART;TZID=\"W. Europe Standard Time\":20261201T190000\r\n", "2026-12-01T18:00:00Z", "2026-12-01T18:00:00Z",
          false},
-        {"DTSTART:20261201T190000\r\n", "2026-12-01T22:30:00Z", "2026-12-01T22:30:00Z", false}, // the device's zone
+        // A time that the clocks skip counts from before the skip, one that they show twice is the first (RFC
+        // 5545, 3.3.5).
+        {"DTSTART;TZID=Europe/Berlin:20260329T023000\r\n", "2026-03-29T01:30:00Z", "2026-03-29T01:30:00Z", false},
+        {"DTSTART;TZID=Europe/Berlin:20261025T023000\r\nDURATION:PT1H\r\n", "2026-10-25T00:30:00Z",
+         "2026-10-25T01:30:00Z", false},
+        {"DTSTART;TZID=Europe/Berlin:20261025T013000\r\nDTEND;TZID=Europe/Berlin:20261025T033000\r\n",
+         "2026-10-24T23:30:00Z", "2026-10-25T02:30:00Z", false},
+        {"DTSTART;VALUE=DATE:20261101\r\n", "2026-11-01T02:30:00Z", "2026-11-02T03:30:00Z", true}, // a day of 25 hours
+        {"DTSTART:20261201T190000\r\n", "2026-12-01T22:30:00Z", "2026-12-01T22:30:00Z", false},    // the device's zone
         {"DTSTART;VALUE=DATE:20261201\r\n", "2026-12-01T03:30:00Z", "2026-12-02T03:30:00Z", true},
         {"DTSTART:2026112\r\n 2T190000Z\r\nDTEND:20261122T180000Z\r\n", "2026-11-22T19:00:00Z", "2026-11-22T19:00:00Z",
          false}, // folded; an end ahead of the start
