@@ -200,10 +200,6 @@
         <translation>Před změnou kalendáře musíte odebrat všechna upozornění</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Kalendáře jsou uloženy v %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>&quot;%1&quot; neexistuje. K dispozici jsou: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Odebrat</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>S --clock nejsou žádné kalendáře, leda ve vlastní složce: --home SLOŽKA.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user JMÉNO patří k &quot;calendars add ADRESA&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force patří k &quot;calendars remove JMÉNO&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Žádný účet není. &quot;vidora calendars add ADRESA --user JMÉNO&quot; jej přidá.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, jen pro čtení</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Kalendáře tohoto zařízení jsou uloženy v %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: změny čekající na server: %2. &quot;vidora calendars test&quot; řekne proč.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: lze zapisovat</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: jen pro čtení</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Chybí adresa serveru: calendars add ADRESA --user JMÉNO.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Nic nebylo přidáno. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Účet nelze uložit.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Jeho události se zatím nepodařilo stáhnout (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Přidáno: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars JMÉNO&quot; vybere kalendář pro upozornění.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Do žádného z jeho kalendářů nelze zapisovat: upozornění tam být nemohou.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Kalendáře jsou na %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Přihlášení: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Změny čekající na server: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Který účet? calendars remove JMÉNO.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Změny čekající na server by se ztratily: %1. --force účet přesto odebere.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Účet nelze odebrat.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Heslo je stále v klíčence, která není dostupná.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Odebráno: %1. Jeho kalendáře zůstávají na serveru.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Vše bylo nalezeno.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Toto není adresa serveru.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Server s tímto názvem neexistuje.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Server není dostupný.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Server není přes HTTPS dostupný.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Certifikát serveru není důvěryhodný: může být vlastní výroby, prošlý nebo patřit jinému serveru. Vlastní certifikační autorita musí být mezi autoritami systému.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Server neodpovídá.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Heslo není k dispozici: klíčenka je uzamčena nebo heslo už není uloženo. Zadáte je novým přidáním účtu.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Server nepřijímá tohoto uživatele s tímto heslem.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Server chce heslo v čitelné podobě po nešifrovaném spojení. Nebylo odesláno; použijte adresu https.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Server tomuto uživateli nedovolí vidět tamní kalendáře.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Server odkazuje na jiný, kterému se heslo neposílá. Zadejte jeho adresu.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Server existuje, ale na této adrese nejsou kalendáře CalDAV. Zadejte adresu, kterou uvádí váš poskytovatel.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Server má vlastní potíže; zkuste to později.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Server neposlal srozumitelnou odpověď.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add ADRESA --user JMÉNO</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>použít kalendáře serveru CalDAV; zeptá se na heslo</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [JMÉNO]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>co říkají servery účtů</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove JMÉNO [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>účet už nepoužívat</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Heslo pro %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Heslo nebylo zadáno.</translation>
     </message>
 </context>
 </TS>

@@ -195,10 +195,6 @@
         <translation>Vor dem Wechsel des Kalenders müssen Sie alle Erinnerungen entfernen</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Die Kalender liegen in %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>&quot;%1&quot; gibt es nicht. Es gibt: %2</translation>
     </message>
@@ -687,6 +683,194 @@
     <message>
         <source>Delete</source>
         <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Mit --clock gibt es keine Kalender, außer in einem eigenen Ordner: --home ORDNER.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user NAME gehört zu &quot;calendars add ADRESSE&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force gehört zu &quot;calendars remove NAME&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Es gibt kein Konto. &quot;vidora calendars add ADRESSE --user NAME&quot; fügt eines hinzu.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, nur lesbar</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Die Kalender dieses Geräts liegen in %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: Änderungen, die auf den Server warten: %2. &quot;vidora calendars test&quot; sagt, warum.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: beschreibbar</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: nur lesbar</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Die Adresse des Servers fehlt: calendars add ADRESSE --user NAME.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Nichts wurde hinzugefügt. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Das Konto kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Seine Termine konnten noch nicht geholt werden (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars NAME&quot; wählt den Kalender für Erinnerungen.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Keiner seiner Kalender ist beschreibbar: Erinnerungen können dort nicht liegen.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Die Kalender sind unter %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Anmeldung: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Änderungen, die auf den Server warten: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Welches Konto? calendars remove NAME.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Änderungen, die auf den Server warten, gingen verloren: %1. --force entfernt das Konto trotzdem.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Das Konto kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Das Passwort liegt noch im Schlüsselbund, der nicht erreichbar ist.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Entfernt: %1. Seine Kalender bleiben auf dem Server.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Alles wurde gefunden.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Das ist keine Adresse eines Servers.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Es gibt keinen Server dieses Namens.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Der Server ist über HTTPS nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut: Es kann selbst erstellt, abgelaufen oder das eines anderen Servers sein. Eine eigene Zertifizierungsstelle muss unter denen des Systems sein.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Das Passwort ist nicht verfügbar: Der Schlüsselbund ist gesperrt, oder es wird nicht mehr aufbewahrt. Fügen Sie das Konto erneut hinzu, um es anzugeben.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Der Server nimmt diesen Benutzer mit diesem Passwort nicht an.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Der Server will das Passwort im Klartext über eine unverschlüsselte Verbindung. Es wurde nicht gesendet; benutzen Sie eine https-Adresse.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Der Server lässt diesen Benutzer die dortigen Kalender nicht sehen.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Der Server verweist auf einen anderen, an den das Passwort nicht geht. Geben Sie dessen Adresse an.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Es gibt einen Server, aber keine CalDAV-Kalender unter dieser Adresse. Geben Sie die an, die Ihr Anbieter nennt.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Der Server hat selbst Schwierigkeiten; versuchen Sie es später wieder.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Der Server gab keine verständliche Antwort.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add ADRESSE --user NAME</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>die Kalender eines CalDAV-Servers benutzen; fragt nach dem Passwort</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [NAME]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>was die Server der Konten sagen</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove NAME [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>ein Konto nicht mehr benutzen</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Passwort von %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Es wurde kein Passwort angegeben.</translation>
     </message>
 </context>
 </TS>

@@ -190,10 +190,6 @@
         <translation>Naptárváltás előtt minden riasztást törölni kell</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>A naptárak helye: %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>Nincs ilyen: &quot;%1&quot;. Ezek vannak: %2</translation>
     </message>
@@ -676,6 +672,194 @@
     <message>
         <source>Delete</source>
         <translation>Törlés</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>A --clock mellett nincsenek naptárak, csak külön mappában: --home MAPPA.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>A --user NÉV a &quot;calendars add CÍM&quot; mellé való.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>A --force a &quot;calendars remove NÉV&quot; mellé való.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Nincs fiók. A &quot;vidora calendars add CÍM --user NÉV&quot; vesz fel egyet.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, csak olvasható</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Az eszköz naptárainak helye: %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: a kiszolgálóra váró módosítások: %2. A &quot;vidora calendars test&quot; megmondja, miért.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: írható</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: csak olvasható</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Hiányzik a kiszolgáló címe: calendars add CÍM --user NÉV.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Nem lett felvéve semmi. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>A fiók nem menthető.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Az eseményeit még nem sikerült letölteni (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Felvéve: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>A &quot;vidora calendars NÉV&quot; választja ki a riasztások naptárát.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Egyik naptára sem írható: riasztások nem kerülhetnek bele.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>A naptárak itt vannak: %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Bejelentkezés: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>A kiszolgálóra váró módosítások: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Melyik fiók? calendars remove NÉV.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>A kiszolgálóra váró módosítások elvesznének: %1. A --force így is törli a fiókot.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>A fiók nem távolítható el.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>A jelszó még a kulcstartóban van, amely nem érhető el.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Eltávolítva: %1. Naptárai a kiszolgálón maradnak.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Minden megvan.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Ez nem kiszolgáló címe.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Nincs ilyen nevű kiszolgáló.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>A kiszolgáló nem érhető el.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>A kiszolgáló nem érhető el HTTPS-en.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>A kiszolgáló tanúsítványa nem megbízható: lehet saját készítésű, lejárt vagy egy másik kiszolgálóé. A saját hitelesítésszolgáltatónak szerepelnie kell a rendszerben.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>A kiszolgáló nem válaszol.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>A jelszó nem érhető el: a kulcstartó zárolva van, vagy a jelszó már nincs meg. Megadásához vegye fel újra a fiókot.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>A kiszolgáló nem fogadja el ezt a felhasználót ezzel a jelszóval.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>A kiszolgáló titkosítatlan vonalon, nyíltan kéri a jelszót. Nem lett elküldve; használjon https címet.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>A kiszolgáló nem engedi, hogy ez a felhasználó lássa az ottani naptárakat.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>A kiszolgáló egy másikhoz irányít, amelynek a jelszó nem küldhető el. Adja meg annak a címét.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Van kiszolgáló, de ezen a címen nincsenek CalDAV-naptárak. Adja meg a szolgáltatója által megnevezett címet.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>A kiszolgálónál hiba van; próbálja később.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>A kiszolgáló válasza nem értelmezhető.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add CÍM --user NÉV</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>egy CalDAV-kiszolgáló naptárainak használata; jelszót kér</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [NÉV]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>mit mondanak a fiókok kiszolgálói</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove NÉV [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>egy fiók elhagyása</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>%1 jelszava: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Nincs megadva jelszó.</translation>
     </message>
 </context>
 </TS>

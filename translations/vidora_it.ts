@@ -195,10 +195,6 @@
         <translation>Prima di cambiare calendario è necessario rimuovere tutti gli avvisi</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>I calendari si trovano in %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>&quot;%1&quot; non esiste. Ci sono: %2</translation>
     </message>
@@ -687,6 +683,194 @@
     <message>
         <source>Delete</source>
         <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Con --clock non ci sono calendari, se non in una cartella a parte: --home CARTELLA.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user NOME va con &quot;calendars add INDIRIZZO&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force va con &quot;calendars remove NOME&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Non c&apos;è alcun account. &quot;vidora calendars add INDIRIZZO --user NOME&quot; ne aggiunge uno.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, in sola lettura</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>I calendari di questo dispositivo si trovano in %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: modifiche in attesa del server: %2. &quot;vidora calendars test&quot; dice perché.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: scrivibile</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: in sola lettura</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Manca l&apos;indirizzo del server: calendars add INDIRIZZO --user NOME.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Non è stato aggiunto nulla. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Impossibile conservare l&apos;account.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>I suoi eventi non sono ancora stati scaricati (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Aggiunto: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars NOME&quot; sceglie il calendario per gli avvisi.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Nessuno dei suoi calendari è scrivibile: gli avvisi non possono stare lì.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>I calendari sono in %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Accesso: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Modifiche in attesa del server: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Quale account? calendars remove NOME.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Le modifiche in attesa del server andrebbero perse: %1. --force rimuove comunque l&apos;account.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Impossibile rimuovere l&apos;account.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>La password è ancora nel portachiavi, che non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Rimosso: %1. I suoi calendari restano sul server.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>È stato trovato tutto.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Questo non è l&apos;indirizzo di un server.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Non esiste un server con questo nome.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Il server non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Il server non è raggiungibile tramite HTTPS.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Il certificato del server non è attendibile: può essere autofirmato, scaduto o di un altro server. Un&apos;autorità propria deve essere tra quelle del sistema.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Il server non risponde.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>La password non è disponibile: il portachiavi è bloccato o non la conserva più. Aggiungere di nuovo l&apos;account per inserirla.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Il server non accetta questo utente con questa password.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Il server vuole la password in chiaro su una linea non cifrata. Non è stata inviata; usare un indirizzo https.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Il server non permette a questo utente di vedere quei calendari.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Il server rimanda a un altro, a cui la password non viene inviata. Indicare quell&apos;indirizzo.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Il server c&apos;è, ma a questo indirizzo non ci sono calendari CalDAV. Indicare quello fornito dal proprio provider.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Il server ha problemi propri; riprovare più tardi.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Il server non ha dato una risposta comprensibile.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add INDIRIZZO --user NOME</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>usa i calendari di un server CalDAV; chiede la password</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [NOME]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>che cosa dicono i server degli account</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove NOME [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>non usa più un account</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Password di %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Nessuna password inserita.</translation>
     </message>
 </context>
 </TS>

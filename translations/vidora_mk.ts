@@ -200,10 +200,6 @@
         <translation>Пред да го смените календарот, мора да ги отстраните сите аларми</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Календарите се наоѓаат во %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>Не постои &quot;%1&quot;. Постојат: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Отстрани</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Со --clock нема календари, освен во посебна папка: --home ПАПКА.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user ИМЕ оди со &quot;calendars add АДРЕСА&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force оди со &quot;calendars remove ИМЕ&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Нема сметка. &quot;vidora calendars add АДРЕСА --user ИМЕ&quot; додава сметка.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, само за читање</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Календарите на овој уред се наоѓаат во %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: измени што чекаат на серверот: %2. &quot;vidora calendars test&quot; кажува зошто.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: може да се запишува</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: само за читање</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Недостасува адресата на серверот: calendars add АДРЕСА --user ИМЕ.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Ништо не е додадено. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Сметката не може да се зачува.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Неговите настани сè уште не се преземени (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Додадено: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars ИМЕ&quot; го избира календарот за аларми.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Во ниеден негов календар не може да се запишува: алармите не можат да бидат таму.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Календарите се на %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Најава: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Измени што чекаат на серверот: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Која сметка? calendars remove ИМЕ.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Измените што чекаат на серверот би се изгубиле: %1. --force сепак ја отстранува сметката.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Сметката не може да се отстрани.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Лозинката е сè уште во приврзокот со клучеви, кој не е достапен.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Отстрането: %1. Неговите календари остануваат на серверот.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Сè е најдено.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Ова не е адреса на сервер.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Не постои сервер со тоа име.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Серверот не е достапен.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Серверот не е достапен преку HTTPS.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Сертификатот на серверот не е доверлив: можеби е самопотпишан, истечен или припаѓа на друг сервер. Сопствен издавач на сертификати мора да биде меѓу оние во системот.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Серверот не одговара.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Лозинката не е достапна: приврзокот со клучеви е заклучен или лозинката повеќе не е зачувана. Додајте ја сметката повторно за да ја внесете.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Серверот не го прифаќа овој корисник со оваа лозинка.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Серверот ја бара лозинката во изворен облик преку нешифрирана врска. Не е испратена; користете https адреса.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Серверот не му дозволува на овој корисник да ги види тамошните календари.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Серверот упатува на друг сервер, на кој лозинката не се испраќа. Наведете ја таа адреса.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Серверот постои, но на оваа адреса нема CalDAV календари. Наведете ја адресата што ја дава вашиот давател на услугата.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Серверот има свои тешкотии; обидете се подоцна.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Серверот не даде разбирлив одговор.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add АДРЕСА --user ИМЕ</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>користи ги календарите на CalDAV сервер; прашува за лозинка</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [ИМЕ]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>што кажуваат серверите на сметките</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove ИМЕ [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>не користи повеќе сметка</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Лозинка за %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Не е внесена лозинка.</translation>
     </message>
 </context>
 </TS>

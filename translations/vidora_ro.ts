@@ -200,10 +200,6 @@
         <translation>Trebuie să eliminați toate alarmele înainte de a schimba calendarul</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Calendarele se află în %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>Nu există &quot;%1&quot;. Există: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Elimină</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Cu --clock nu există calendare, decât într-un dosar separat: --home DOSAR.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user NUME însoțește &quot;calendars add ADRESA&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force însoțește &quot;calendars remove NUME&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Nu există niciun cont. &quot;vidora calendars add ADRESA --user NUME&quot; adaugă unul.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, doar pentru citire</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Calendarele acestui dispozitiv se află în %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: modificări care așteaptă serverul: %2. &quot;vidora calendars test&quot; spune de ce.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: se poate scrie</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: doar pentru citire</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Lipsește adresa serverului: calendars add ADRESA --user NUME.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Nu s-a adăugat nimic. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Contul nu poate fi păstrat.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Evenimentele sale nu au putut fi încă descărcate (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Adăugat: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars NUME&quot; alege calendarul pentru alarme.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>În niciunul dintre calendarele sale nu se poate scrie: alarmele nu pot sta acolo.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Calendarele sunt la %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Autentificare: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Modificări care așteaptă serverul: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Care cont? calendars remove NUME.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Modificările care așteaptă serverul s-ar pierde: %1. --force elimină totuși contul.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Contul nu poate fi eliminat.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Parola este încă în inelul de chei, care nu poate fi accesat.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Eliminat: %1. Calendarele sale rămân pe server.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Totul a fost găsit.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Aceasta nu este adresa unui server.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Nu există niciun server cu acest nume.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Serverul nu poate fi accesat.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Serverul nu poate fi accesat prin HTTPS.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Certificatul serverului nu este de încredere: poate fi creat manual, expirat sau al altui server. O autoritate proprie trebuie să fie printre cele ale sistemului.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Serverul nu răspunde.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Parola nu este disponibilă: inelul de chei este blocat sau parola nu mai este păstrată. Adăugați din nou contul pentru a o introduce.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Serverul nu acceptă acest utilizator cu această parolă.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Serverul vrea parola în clar printr-o conexiune necriptată. Nu a fost trimisă; folosiți o adresă https.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Serverul nu permite acestui utilizator să vadă calendarele de acolo.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Serverul trimite la un altul, căruia parola nu îi este trimisă. Indicați acea adresă.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Există un server, dar nu și calendare CalDAV la această adresă. Indicați adresa dată de furnizorul dumneavoastră.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Serverul are probleme; încercați mai târziu.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Serverul nu a dat un răspuns inteligibil.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add ADRESA --user NUME</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>folosește calendarele unui server CalDAV; cere parola</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [NUME]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>ce spun serverele conturilor</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove NUME [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>nu mai folosi un cont</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Parola pentru %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Nu a fost introdusă nicio parolă.</translation>
     </message>
 </context>
 </TS>

@@ -200,10 +200,6 @@
         <translation>Pred zmenou kalendára musíte odobrať všetky upozornenia</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Kalendáre sú uložené v %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>&quot;%1&quot; neexistuje. K dispozícii sú: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Odobrať</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>S --clock nie sú žiadne kalendáre, iba vo vlastnom priečinku: --home PRIEČINOK.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user MENO patrí k &quot;calendars add ADRESA&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force patrí k &quot;calendars remove MENO&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Žiadny účet nie je. &quot;vidora calendars add ADRESA --user MENO&quot; ho pridá.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, iba na čítanie</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Kalendáre tohto zariadenia sú uložené v %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: zmeny čakajúce na server: %2. &quot;vidora calendars test&quot; povie prečo.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: dá sa zapisovať</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: iba na čítanie</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Chýba adresa servera: calendars add ADRESA --user MENO.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Nič nebolo pridané. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Účet sa nedá uložiť.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Jeho udalosti sa zatiaľ nepodarilo stiahnuť (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Pridané: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars MENO&quot; vyberie kalendár pre upozornenia.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Do žiadneho z jeho kalendárov sa nedá zapisovať: upozornenia tam byť nemôžu.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Kalendáre sú na %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Prihlásenie: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Zmeny čakajúce na server: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Ktorý účet? calendars remove MENO.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Zmeny čakajúce na server by sa stratili: %1. --force účet aj tak odoberie.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Účet sa nedá odobrať.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Heslo je stále v zväzku kľúčov, ktorý nie je dostupný.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Odobraté: %1. Jeho kalendáre zostávajú na serveri.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Všetko sa našlo.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Toto nie je adresa servera.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Server s týmto názvom neexistuje.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Server nie je dostupný.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Server nie je cez HTTPS dostupný.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Certifikát servera nie je dôveryhodný: môže byť vlastnej výroby, neplatný alebo patriť inému serveru. Vlastná certifikačná autorita musí byť medzi autoritami systému.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Server neodpovedá.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Heslo nie je k dispozícii: zväzok kľúčov je zamknutý alebo heslo už nie je uložené. Zadáte ho novým pridaním účtu.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Server neprijíma tohto používateľa s týmto heslom.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Server chce heslo v čitateľnej podobe cez nešifrované spojenie. Nebolo odoslané; použite adresu https.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Server tomuto používateľovi nedovolí vidieť tamojšie kalendáre.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Server odkazuje na iný, ktorému sa heslo neposiela. Zadajte jeho adresu.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Server existuje, ale na tejto adrese nie sú kalendáre CalDAV. Zadajte adresu, ktorú uvádza váš poskytovateľ.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Server má vlastné problémy; skúste to neskôr.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Server neposlal zrozumiteľnú odpoveď.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add ADRESA --user MENO</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>použiť kalendáre servera CalDAV; opýta sa na heslo</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [MENO]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>čo hovoria servery účtov</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove MENO [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>účet už nepoužívať</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Heslo pre %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Heslo nebolo zadané.</translation>
     </message>
 </context>
 </TS>

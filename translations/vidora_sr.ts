@@ -200,10 +200,6 @@
         <translation>Пре промене календара морате уклонити све аларме</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Календари се налазе у %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>Не постоји &quot;%1&quot;. Постоје: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Уклони</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Уз --clock нема календара, осим у засебном фолдеру: --home ФОЛДЕР.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user ИМЕ иде уз &quot;calendars add АДРЕСА&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force иде уз &quot;calendars remove ИМЕ&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Нема налога. &quot;vidora calendars add АДРЕСА --user ИМЕ&quot; додаје налог.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, само за читање</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Календари овог уређаја налазе се у %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: измене које чекају на сервер: %2. &quot;vidora calendars test&quot; каже зашто.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: може да се уписује</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: само за читање</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Недостаје адреса сервера: calendars add АДРЕСА --user ИМЕ.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Ништа није додато. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Налог не може да се сачува.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Његови догађаји још нису преузети (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Додато: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars ИМЕ&quot; бира календар за аларме.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Ни у један његов календар не може да се уписује: аларми не могу тамо да буду.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Календари су на %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Пријава: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Измене које чекају на сервер: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Који налог? calendars remove ИМЕ.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Измене које чекају на сервер биле би изгубљене: %1. --force ипак уклања налог.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Налог не може да се уклони.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Лозинка је још у свежњу кључева, који није доступан.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Уклоњено: %1. Његови календари остају на серверу.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Све је нађено.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Ово није адреса сервера.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Не постоји сервер са тим именом.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Сервер није доступан.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Сервер није доступан преко HTTPS-а.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Сертификат сервера није поуздан: можда је самопотписан, истекао или припада другом серверу. Сопствено сертификационо тело мора бити међу онима у систему.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Сервер не одговара.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Лозинка није доступна: свежањ кључева је закључан или лозинка више није сачувана. Додајте налог поново да бисте је унели.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Сервер не прихвата овог корисника са овом лозинком.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Сервер тражи лозинку у изворном облику преко нешифроване везе. Није послата; користите https адресу.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Сервер не допушта овом кориснику да види тамошње календаре.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Сервер упућује на други сервер, коме се лозинка не шаље. Наведите ту адресу.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Сервер постоји, али на овој адреси нема CalDAV календара. Наведите адресу коју даје ваш пружалац услуге.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Сервер има сопствених тешкоћа; покушајте касније.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Сервер није дао разумљив одговор.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add АДРЕСА --user ИМЕ</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>користи календаре CalDAV сервера; пита за лозинку</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [ИМЕ]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>шта кажу сервери налога</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove ИМЕ [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>не користи више налог</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Лозинка за %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Лозинка није унета.</translation>
     </message>
 </context>
 </TS>

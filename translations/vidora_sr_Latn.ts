@@ -200,10 +200,6 @@
         <translation>Pre promene kalendara morate ukloniti sve alarme</translation>
     </message>
     <message>
-        <source>Calendars lie in %1.</source>
-        <translation>Kalendari se nalaze u %1.</translation>
-    </message>
-    <message>
         <source>There is no &quot;%1&quot;. There are: %2</source>
         <translation>Ne postoji &quot;%1&quot;. Postoje: %2</translation>
     </message>
@@ -698,6 +694,194 @@
     <message>
         <source>Delete</source>
         <translation>Ukloni</translation>
+    </message>
+    <message>
+        <source>With --clock there are no calendars, but in a home of its own: --home DIR.</source>
+        <translation>Uz --clock nema kalendara, osim u zasebnom folderu: --home FOLDER.</translation>
+    </message>
+    <message>
+        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
+        <translation>--user IME ide uz &quot;calendars add ADRESA&quot;.</translation>
+    </message>
+    <message>
+        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
+        <translation>--force ide uz &quot;calendars remove IME&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
+        <translation>Nema naloga. &quot;vidora calendars add ADRESA --user IME&quot; dodaje nalog.</translation>
+    </message>
+    <message>
+        <source>, read-only</source>
+        <translation>, samo za čitanje</translation>
+    </message>
+    <message>
+        <source>Calendars of this device lie in %1.</source>
+        <translation>Kalendari ovog uređaja nalaze se u %1.</translation>
+    </message>
+    <message>
+        <source>%1: changes that wait for the server: %2. &quot;vidora calendars test&quot; tells why.</source>
+        <translation>%1: izmene koje čekaju na server: %2. &quot;vidora calendars test&quot; kaže zašto.</translation>
+    </message>
+    <message>
+        <source>%1: can be written</source>
+        <translation>%1: može da se upisuje</translation>
+    </message>
+    <message>
+        <source>%1: read-only</source>
+        <translation>%1: samo za čitanje</translation>
+    </message>
+    <message>
+        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
+        <translation>Nedostaje adresa servera: calendars add ADRESA --user IME.</translation>
+    </message>
+    <message>
+        <source>Nothing was added. %1 (%2)</source>
+        <translation>Ništa nije dodato. %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be kept.</source>
+        <translation>Nalog ne može da se sačuva.</translation>
+    </message>
+    <message>
+        <source>Its events could not be fetched yet (%1).</source>
+        <translation>Njegovi događaji još nisu preuzeti (%1).</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Dodato: %1</translation>
+    </message>
+    <message>
+        <source>&quot;vidora calendars NAME&quot; chooses the calendar for alarms.</source>
+        <translation>&quot;vidora calendars IME&quot; bira kalendar za alarme.</translation>
+    </message>
+    <message>
+        <source>None of its calendars can be written: alarms can&apos;t live there.</source>
+        <translation>Ni u jedan njegov kalendar ne može da se upisuje: alarmi ne mogu tamo da budu.</translation>
+    </message>
+    <message>
+        <source>Calendars are at %1.</source>
+        <translation>Kalendari su na %1.</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <translation>Prijava: %1</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server: %1</source>
+        <translation>Izmene koje čekaju na server: %1</translation>
+    </message>
+    <message>
+        <source>Which account? calendars remove NAME.</source>
+        <translation>Koji nalog? calendars remove IME.</translation>
+    </message>
+    <message>
+        <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
+        <translation>Izmene koje čekaju na server bile bi izgubljene: %1. --force ipak uklanja nalog.</translation>
+    </message>
+    <message>
+        <source>The account can&apos;t be removed.</source>
+        <translation>Nalog ne može da se ukloni.</translation>
+    </message>
+    <message>
+        <source>The password is still in the keyring, which can&apos;t be reached.</source>
+        <translation>Lozinka je još u svežnju ključeva, koji nije dostupan.</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Its calendars stay on the server.</source>
+        <translation>Uklonjeno: %1. Njegovi kalendari ostaju na serveru.</translation>
+    </message>
+    <message>
+        <source>Everything was found.</source>
+        <translation>Sve je nađeno.</translation>
+    </message>
+    <message>
+        <source>This is no address of a server.</source>
+        <translation>Ovo nije adresa servera.</translation>
+    </message>
+    <message>
+        <source>There is no server of this name.</source>
+        <translation>Ne postoji server sa tim imenom.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached.</source>
+        <translation>Server nije dostupan.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached by HTTPS.</source>
+        <translation>Server nije dostupan preko HTTPS-a.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted: it may be self-made, have expired, or be another server&apos;s. An authority of your own has to be among those of the system.</source>
+        <translation>Sertifikat servera nije pouzdan: možda je samopotpisan, istekao ili pripada drugom serveru. Sopstveno sertifikaciono telo mora biti među onima u sistemu.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Server ne odgovara.</translation>
+    </message>
+    <message>
+        <source>The password can&apos;t be had: the keyring is locked, or it is kept no more. Add the account again to give it.</source>
+        <translation>Lozinka nije dostupna: svežanj ključeva je zaključan ili lozinka više nije sačuvana. Dodajte nalog ponovo da biste je uneli.</translation>
+    </message>
+    <message>
+        <source>The server does not accept this user with this password.</source>
+        <translation>Server ne prihvata ovog korisnika sa ovom lozinkom.</translation>
+    </message>
+    <message>
+        <source>The server wants the password as it stands over a line without encryption. It was not sent; use an https address.</source>
+        <translation>Server traži lozinku u izvornom obliku preko nešifrovane veze. Nije poslata; koristite https adresu.</translation>
+    </message>
+    <message>
+        <source>The server does not let this user see the calendars there.</source>
+        <translation>Server ne dopušta ovom korisniku da vidi tamošnje kalendare.</translation>
+    </message>
+    <message>
+        <source>The server sends us to another one, to which the password does not go. Give that address.</source>
+        <translation>Server upućuje na drugi server, kome se lozinka ne šalje. Navedite tu adresu.</translation>
+    </message>
+    <message>
+        <source>There is a server, but no CalDAV calendars at this address. Give the one that your provider names.</source>
+        <translation>Server postoji, ali na ovoj adresi nema CalDAV kalendara. Navedite adresu koju daje vaš pružalac usluge.</translation>
+    </message>
+    <message>
+        <source>The server has trouble of its own; try again later.</source>
+        <translation>Server ima sopstvenih teškoća; pokušajte kasnije.</translation>
+    </message>
+    <message>
+        <source>The server gave no answer that can be understood.</source>
+        <translation>Server nije dao razumljiv odgovor.</translation>
+    </message>
+    <message>
+        <source>calendars add ADDRESS --user NAME</source>
+        <translation>calendars add ADRESA --user IME</translation>
+    </message>
+    <message>
+        <source>use the calendars of a CalDAV server; asks for the password</source>
+        <translation>koristi kalendare CalDAV servera; pita za lozinku</translation>
+    </message>
+    <message>
+        <source>calendars test [NAME]</source>
+        <translation>calendars test [IME]</translation>
+    </message>
+    <message>
+        <source>what the servers of the accounts say</source>
+        <translation>šta kažu serveri naloga</translation>
+    </message>
+    <message>
+        <source>calendars remove NAME [--force]</source>
+        <translation>calendars remove IME [--force]</translation>
+    </message>
+    <message>
+        <source>use an account no more</source>
+        <translation>ne koristi više nalog</translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation>Lozinka za %1: </translation>
+    </message>
+    <message>
+        <source>No password was given.</source>
+        <translation>Lozinka nije uneta.</translation>
     </message>
 </context>
 </TS>
