@@ -54,7 +54,7 @@ private:
     std::optional<EventStoreError> m_failure;
     std::map<QString, Event> m_committed;
     std::map<QString, Event> m_events; ///< with the changes that wait for `commit`
-    std::vector<QString> m_waiting; ///< the identifiers of those
+    std::vector<QString> m_waiting;    ///< the identifiers of those
     int m_writeCount = 0;
     int m_lastIdentifier = 0;
 };
