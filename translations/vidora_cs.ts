@@ -700,20 +700,8 @@
         <translation>S --clock nejsou žádné kalendáře, leda ve vlastní složce: --home SLOŽKA.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user JMÉNO patří k &quot;calendars add ADRESA&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force patří k &quot;calendars remove JMÉNO&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Žádný účet není. &quot;vidora calendars add ADRESA --user JMÉNO&quot; jej přidá.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, jen pro čtení</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: jen pro čtení</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Chybí adresa serveru: calendars add ADRESA --user JMÉNO.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Nic nebylo přidáno. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Účet nelze uložit.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Jeho události se zatím nepodařilo stáhnout (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Změny čekající na server: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Který účet? calendars remove JMÉNO.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Změny čekající na server by se ztratily: %1. --force účet přesto odebere.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Účet nelze odebrat.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Odebráno: %1. Jeho kalendáře zůstávají na serveru.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Vše bylo nalezeno.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

@@ -689,20 +689,8 @@
         <translation>Mit --clock gibt es keine Kalender, außer in einem eigenen Ordner: --home ORDNER.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user NAME gehört zu &quot;calendars add ADRESSE&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force gehört zu &quot;calendars remove NAME&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Es gibt kein Konto. &quot;vidora calendars add ADRESSE --user NAME&quot; fügt eines hinzu.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, nur lesbar</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -721,20 +709,8 @@
         <translation>%1: nur lesbar</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Die Adresse des Servers fehlt: calendars add ADRESSE --user NAME.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Nichts wurde hinzugefügt. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Das Konto kann nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Seine Termine konnten noch nicht geholt werden (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -761,16 +737,8 @@
         <translation>Änderungen, die auf den Server warten: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Welches Konto? calendars remove NAME.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Änderungen, die auf den Server warten, gingen verloren: %1. --force entfernt das Konto trotzdem.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Das Konto kann nicht entfernt werden.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -779,10 +747,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Entfernt: %1. Seine Kalender bleiben auf dem Server.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Alles wurde gefunden.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

@@ -678,20 +678,8 @@
         <translation>A --clock mellett nincsenek naptárak, csak külön mappában: --home MAPPA.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>A --user NÉV a &quot;calendars add CÍM&quot; mellé való.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>A --force a &quot;calendars remove NÉV&quot; mellé való.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Nincs fiók. A &quot;vidora calendars add CÍM --user NÉV&quot; vesz fel egyet.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, csak olvasható</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -710,20 +698,8 @@
         <translation>%1: csak olvasható</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Hiányzik a kiszolgáló címe: calendars add CÍM --user NÉV.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Nem lett felvéve semmi. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>A fiók nem menthető.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Az eseményeit még nem sikerült letölteni (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -750,16 +726,8 @@
         <translation>A kiszolgálóra váró módosítások: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Melyik fiók? calendars remove NÉV.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>A kiszolgálóra váró módosítások elvesznének: %1. A --force így is törli a fiókot.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>A fiók nem távolítható el.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -768,10 +736,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Eltávolítva: %1. Naptárai a kiszolgálón maradnak.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Minden megvan.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

@@ -689,20 +689,8 @@
         <translation>Con --clock non ci sono calendari, se non in una cartella a parte: --home CARTELLA.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user NOME va con &quot;calendars add INDIRIZZO&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force va con &quot;calendars remove NOME&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Non c&apos;è alcun account. &quot;vidora calendars add INDIRIZZO --user NOME&quot; ne aggiunge uno.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, in sola lettura</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -721,20 +709,8 @@
         <translation>%1: in sola lettura</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Manca l&apos;indirizzo del server: calendars add INDIRIZZO --user NOME.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Non è stato aggiunto nulla. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Impossibile conservare l&apos;account.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>I suoi eventi non sono ancora stati scaricati (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -761,16 +737,8 @@
         <translation>Modifiche in attesa del server: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Quale account? calendars remove NOME.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Le modifiche in attesa del server andrebbero perse: %1. --force rimuove comunque l&apos;account.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Impossibile rimuovere l&apos;account.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -779,10 +747,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Rimosso: %1. I suoi calendari restano sul server.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>È stato trovato tutto.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

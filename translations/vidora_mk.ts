@@ -700,20 +700,8 @@
         <translation>Со --clock нема календари, освен во посебна папка: --home ПАПКА.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user ИМЕ оди со &quot;calendars add АДРЕСА&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force оди со &quot;calendars remove ИМЕ&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Нема сметка. &quot;vidora calendars add АДРЕСА --user ИМЕ&quot; додава сметка.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, само за читање</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: само за читање</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Недостасува адресата на серверот: calendars add АДРЕСА --user ИМЕ.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Ништо не е додадено. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Сметката не може да се зачува.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Неговите настани сè уште не се преземени (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Измени што чекаат на серверот: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Која сметка? calendars remove ИМЕ.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Измените што чекаат на серверот би се изгубиле: %1. --force сепак ја отстранува сметката.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Сметката не може да се отстрани.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Отстрането: %1. Неговите календари остануваат на серверот.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Сè е најдено.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

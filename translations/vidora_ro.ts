@@ -700,20 +700,8 @@
         <translation>Cu --clock nu există calendare, decât într-un dosar separat: --home DOSAR.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user NUME însoțește &quot;calendars add ADRESA&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force însoțește &quot;calendars remove NUME&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Nu există niciun cont. &quot;vidora calendars add ADRESA --user NUME&quot; adaugă unul.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, doar pentru citire</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: doar pentru citire</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Lipsește adresa serverului: calendars add ADRESA --user NUME.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Nu s-a adăugat nimic. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Contul nu poate fi păstrat.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Evenimentele sale nu au putut fi încă descărcate (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Modificări care așteaptă serverul: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Care cont? calendars remove NUME.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Modificările care așteaptă serverul s-ar pierde: %1. --force elimină totuși contul.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Contul nu poate fi eliminat.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Eliminat: %1. Calendarele sale rămân pe server.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Totul a fost găsit.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

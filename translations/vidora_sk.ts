@@ -700,20 +700,8 @@
         <translation>S --clock nie sú žiadne kalendáre, iba vo vlastnom priečinku: --home PRIEČINOK.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user MENO patrí k &quot;calendars add ADRESA&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force patrí k &quot;calendars remove MENO&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Žiadny účet nie je. &quot;vidora calendars add ADRESA --user MENO&quot; ho pridá.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, iba na čítanie</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: iba na čítanie</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Chýba adresa servera: calendars add ADRESA --user MENO.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Nič nebolo pridané. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Účet sa nedá uložiť.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Jeho udalosti sa zatiaľ nepodarilo stiahnuť (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Zmeny čakajúce na server: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Ktorý účet? calendars remove MENO.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Zmeny čakajúce na server by sa stratili: %1. --force účet aj tak odoberie.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Účet sa nedá odobrať.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Odobraté: %1. Jeho kalendáre zostávajú na serveri.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Všetko sa našlo.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

@@ -700,20 +700,8 @@
         <translation>Уз --clock нема календара, осим у засебном фолдеру: --home ФОЛДЕР.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user ИМЕ иде уз &quot;calendars add АДРЕСА&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force иде уз &quot;calendars remove ИМЕ&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Нема налога. &quot;vidora calendars add АДРЕСА --user ИМЕ&quot; додаје налог.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, само за читање</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: само за читање</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Недостаје адреса сервера: calendars add АДРЕСА --user ИМЕ.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Ништа није додато. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Налог не може да се сачува.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Његови догађаји још нису преузети (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Измене које чекају на сервер: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Који налог? calendars remove ИМЕ.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Измене које чекају на сервер биле би изгубљене: %1. --force ипак уклања налог.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Налог не може да се уклони.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Уклоњено: %1. Његови календари остају на серверу.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Све је нађено.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

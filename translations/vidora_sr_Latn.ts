@@ -700,20 +700,8 @@
         <translation>Uz --clock nema kalendara, osim u zasebnom folderu: --home FOLDER.</translation>
     </message>
     <message>
-        <source>--user NAME goes with &quot;calendars add ADDRESS&quot;.</source>
-        <translation>--user IME ide uz &quot;calendars add ADRESA&quot;.</translation>
-    </message>
-    <message>
-        <source>--force goes with &quot;calendars remove NAME&quot;.</source>
-        <translation>--force ide uz &quot;calendars remove IME&quot;.</translation>
-    </message>
-    <message>
         <source>There is no account. &quot;vidora calendars add ADDRESS --user NAME&quot; adds one.</source>
         <translation>Nema naloga. &quot;vidora calendars add ADRESA --user IME&quot; dodaje nalog.</translation>
-    </message>
-    <message>
-        <source>, read-only</source>
-        <translation>, samo za čitanje</translation>
     </message>
     <message>
         <source>Calendars of this device lie in %1.</source>
@@ -732,20 +720,8 @@
         <translation>%1: samo za čitanje</translation>
     </message>
     <message>
-        <source>The address of the server is missing: calendars add ADDRESS --user NAME.</source>
-        <translation>Nedostaje adresa servera: calendars add ADRESA --user IME.</translation>
-    </message>
-    <message>
         <source>Nothing was added. %1 (%2)</source>
         <translation>Ništa nije dodato. %1 (%2)</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be kept.</source>
-        <translation>Nalog ne može da se sačuva.</translation>
-    </message>
-    <message>
-        <source>Its events could not be fetched yet (%1).</source>
-        <translation>Njegovi događaji još nisu preuzeti (%1).</translation>
     </message>
     <message>
         <source>Added: %1</source>
@@ -772,16 +748,8 @@
         <translation>Izmene koje čekaju na server: %1</translation>
     </message>
     <message>
-        <source>Which account? calendars remove NAME.</source>
-        <translation>Koji nalog? calendars remove IME.</translation>
-    </message>
-    <message>
         <source>Changes that wait for the server would be lost: %1. --force removes the account all the same.</source>
         <translation>Izmene koje čekaju na server bile bi izgubljene: %1. --force ipak uklanja nalog.</translation>
-    </message>
-    <message>
-        <source>The account can&apos;t be removed.</source>
-        <translation>Nalog ne može da se ukloni.</translation>
     </message>
     <message>
         <source>The password is still in the keyring, which can&apos;t be reached.</source>
@@ -790,10 +758,6 @@
     <message>
         <source>Removed: %1. Its calendars stay on the server.</source>
         <translation>Uklonjeno: %1. Njegovi kalendari ostaju na serveru.</translation>
-    </message>
-    <message>
-        <source>Everything was found.</source>
-        <translation>Sve je nađeno.</translation>
     </message>
     <message>
         <source>This is no address of a server.</source>

@@ -5,6 +5,7 @@
 #include "app/Refusal.h"
 #include "app/ShowPrinter.h"
 #include "platform/Localized.h"
+#include "platform/Log.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -51,12 +52,18 @@ public:
 
 private:
     CalendarAccounts& accounts() const { return *m_device.calendarAccounts(); }
+    QString cantBeKept() const
+    {
+        return localized("%1 can't be written: nothing will be kept.")
+            .arg(Device::calendarAccounts(m_device.folders()));
+    }
     void settle();
     void answer(const QStringList& lines, const QJsonObject& json) const;
     /// What stands behind the word that tells what to do.
     QString name() const { return m_line.arguments.mid(1).join(QLatin1Char(' ')); }
     CalendarAccount namedAccount() const;
     Calendar namedCalendar() const;
+    void refuseOption(const QString& option, bool unlessItFits) const;
 
     void list();
     void choose();
@@ -83,10 +90,8 @@ int CalendarRun::run()
             throw Refusal{localized("With --clock there are no calendars, but in a home of its own: --home DIR.")};
         const QString verb = m_line.arguments.value(0);
         const bool isAddition = verb == QLatin1String("add");
-        if (m_line.options.contains(QStringLiteral("--user")) != isAddition)
-            throw Refusal{localized("--user NAME goes with \"calendars add ADDRESS\".")};
-        if (m_line.options.contains(QStringLiteral("--force")) && verb != QLatin1String("remove"))
-            throw Refusal{localized("--force goes with \"calendars remove NAME\".")};
+        refuseOption(QStringLiteral("--user"), isAddition);
+        refuseOption(QStringLiteral("--force"), verb == QLatin1String("remove"));
         if (isAddition)
             add();
         else if (verb == QLatin1String("test"))
@@ -151,6 +156,14 @@ Calendar CalendarRun::namedCalendar() const
     return all[static_cast<std::size_t>(labels.indexOf(candidates.front()))];
 }
 
+void CalendarRun::refuseOption(const QString& option, bool unlessItFits) const
+{
+    if (m_line.options.contains(option) && !unlessItFits)
+        throw Refusal{
+            localized("%1 does not take %2.")
+                .arg((QStringList{m_line.command} + m_line.arguments.mid(0, 1)).join(QLatin1Char(' ')), option)};
+}
+
 void CalendarRun::list()
 {
     const auto selected = m_engine.selectedCalendar();
@@ -162,9 +175,9 @@ void CalendarRun::list()
                                      {QStringLiteral("source"), calendar.source},
                                      {QStringLiteral("writable"), calendar.allowsContentModifications},
                                      {QStringLiteral("selected"), isSelected}});
-        lines << (isSelected ? QStringLiteral("* ") : QStringLiteral("  ")) + calendar.title + QLatin1String("  (") +
-                     calendar.source + QLatin1Char(')') +
-                     (calendar.allowsContentModifications ? QString() : localized(", read-only"));
+        const QString label = QStringLiteral("%1  (%2)").arg(calendar.title, calendar.source);
+        lines << (isSelected ? QStringLiteral("* ") : QStringLiteral("  ")) +
+                     (calendar.allowsContentModifications ? label : localized("%1: read-only").arg(label));
     }
     const QString folder = Device::calendars(m_device.folders());
     lines << localized("Calendars of this device lie in %1.").arg(folder);
@@ -205,16 +218,18 @@ void CalendarRun::add()
     const QString address = name();
     const QString user = m_line.options.value(QStringLiteral("--user"));
     if (address.isEmpty())
-        throw Refusal{localized("The address of the server is missing: calendars add ADDRESS --user NAME.")};
+        throw Refusal{localized("%1 needs an argument.").arg(QStringLiteral("calendars add"))};
+    if (user.isEmpty())
+        throw Refusal{localized("%1 needs a value.").arg(QStringLiteral("--user"))};
     const CalendarAccount account = accounts().accountFor(address, user);
     const auto findings = aside([&] { return accounts().examine(account, m_password); });
     if (findings.trouble != CalDAVClient::Trouble::None)
         throw Refusal{localized("Nothing was added. %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer)};
     if (!aside([&] { return accounts().keepPassword(account, m_password); }) || !accounts().add(account))
-        throw Refusal{localized("The account can't be kept.")};
+        throw Refusal{cantBeKept()};
     const auto store = accounts().storeOf(account);
     if (const auto error = aside([&] { return store->refresh(); }))
-        say(localized("Its events could not be fetched yet (%1).").arg(error->localizedDescription));
+        Log::line(QStringLiteral("events not fetched yet: %1").arg(error->localizedDescription));
     QStringList lines{localized("Added: %1").arg(account.name)};
     QJsonArray array;
     bool anyIsWritable = false;
@@ -286,7 +301,7 @@ void CalendarRun::test()
 void CalendarRun::remove()
 {
     if (name().isEmpty())
-        throw Refusal{localized("Which account? calendars remove NAME.")};
+        throw Refusal{localized("%1 needs an argument.").arg(QStringLiteral("calendars remove"))};
     const CalendarAccount account = namedAccount();
     const auto selected = m_engine.selectedCalendar();
     if (selected && selected->source == account.name && m_engine.hasEvents())
@@ -302,7 +317,7 @@ void CalendarRun::remove()
     store.reset();
     const bool isForgotten = aside([&] { return accounts().forgetPassword(account); });
     if (!accounts().remove(account))
-        throw Refusal{localized("The account can't be removed.")};
+        throw Refusal{cantBeKept()};
     if (!isForgotten)
         say(localized("The password is still in the keyring, which can't be reached."));
     answer({localized("Removed: %1. Its calendars stay on the server.").arg(account.name)},

@@ -10,8 +10,6 @@ const char* keyOf(CalDAVClient::Trouble trouble)
 {
     using Trouble = CalDAVClient::Trouble;
     switch (trouble) {
-    case Trouble::None:
-        return QT_TRANSLATE_NOOP("vidora", "Everything was found.");
     case Trouble::BadAddress:
         return QT_TRANSLATE_NOOP("vidora", "This is no address of a server.");
     case Trouble::NoSuchHost:
@@ -50,6 +48,7 @@ const char* keyOf(CalDAVClient::Trouble trouble)
             "There is a server, but no CalDAV calendars at this address. Give the one that your provider names.");
     case Trouble::Server:
         return QT_TRANSLATE_NOOP("vidora", "The server has trouble of its own; try again later.");
+    case Trouble::None:
     case Trouble::Other:
         break;
     }
