@@ -200,7 +200,7 @@ void CalendarRun::list()
 void CalendarRun::choose()
 {
     const Calendar calendar = namedCalendar();
-    if (m_engine.hasEvents() && m_engine.selectedCalendar() != calendar)
+    if (m_engine.hasEvents())
         throw Refusal{localized("You have to remove all your alerts before changing calendar")};
     m_engine.saveCalendar(calendar);
     settle();
