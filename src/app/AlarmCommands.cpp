@@ -6,7 +6,6 @@
 #include "platform/DeviceSettings.h"
 #include "platform/Localized.h"
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -18,11 +17,6 @@ namespace vidora {
 namespace {
 
 constexpr int mostMinutes = 7 * 24 * 60;
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("vidora", text);
-}
 
 void say(const QString& message)
 {
@@ -120,7 +114,8 @@ int AlarmRun::minutes(const QString& option, int otherwise) const
     bool isNumber = false;
     const int minutes = m_line.options.value(option).toInt(&isNumber);
     if (!isNumber || minutes < 0 || minutes > mostMinutes)
-        throw Refusal{translated("%1 takes a number of minutes from 0 to %2.").arg(option).arg(mostMinutes)};
+        throw Refusal{
+            localized("%1 takes a number of minutes from 0 to %2.").arg(option, QString::number(mostMinutes))};
     return minutes;
 }
 
@@ -186,9 +181,9 @@ void AlarmRun::favourite()
     const bool replays = m_line.options.contains(QStringLiteral("--replays"));
     const int lead = minutes(QStringLiteral("--alarm"), -1);
     if (premieres && replays)
-        throw Refusal{translated("--premieres and --replays exclude each other.")};
+        throw Refusal{localized("--premieres and --replays exclude each other.")};
     if ((premieres || replays) && lead < 0)
-        throw Refusal{translated("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
+        throw Refusal{localized("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
     const std::optional<QString> listed = listedTitle();
     QString title = listed.value_or(argument());
     m_engine.addFavorite(title);
@@ -207,13 +202,13 @@ void AlarmRun::favourite()
         return favorite->lowercasedIdentificator() == title.toLower();
     });
     if (added == favorites.end())
-        throw Refusal{translated("%1 could not be added.").arg(title)};
-    QString text = translated("A favourite: %1").arg(described(**added));
+        throw Refusal{localized("%1 could not be added.").arg(title)};
+    QString text = localized("A favourite: %1").arg(described(**added));
     if (!listed)
-        text += QLatin1Char('\n') + translated("No broadcast of this title is listed at present.");
+        text += QLatin1Char('\n') + localized("No broadcast of this title is listed at present.");
     if (lead >= 0 && (*added)->minutes() < 0)
         throw Refusal{
-            translated("%1 is a favourite, but there is no calendar that can be written for its alarms.").arg(title)};
+            localized("%1 is a favourite, but there is no calendar that can be written for its alarms.").arg(title)};
     answer(text, {{QStringLiteral("favourite"), json(**added)}, {QStringLiteral("events"), m_engine.eventCount()}});
 }
 
@@ -237,7 +232,7 @@ void AlarmRun::unfavourite()
     const QString title = favouriteNamed();
     m_engine.removeFavorite(title);
     settle();
-    answer(translated("No longer a favourite: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
+    answer(localized("No longer a favourite: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
 }
 
 void AlarmRun::favourites()
@@ -253,7 +248,7 @@ void AlarmRun::favourites()
         lines << described(*favorite);
     }
     if (lines.isEmpty())
-        lines << translated("No favourites yet. \"vidora favourite X\" adds one.");
+        lines << localized("No favourites yet. \"vidora favourite X\" adds one.");
     answer(lines.join(QLatin1Char('\n')), {{QStringLiteral("favourites"), array}});
 }
 
@@ -265,7 +260,7 @@ bool AlarmRun::startsAt(const TVEntry& entry, const QString& time) const
         return entry.dateTime() == instant;
     const QTime clockTime = QTime::fromString(time, QStringLiteral("H:mm"));
     if (!clockTime.isValid())
-        throw Refusal{translated("--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.")};
+        throw Refusal{localized("--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.")};
     return SilentHours::timeOf(*entry.dateTime(), DeviceSettings::timeZone()) == clockTime;
 }
 
@@ -280,7 +275,7 @@ QString AlarmRun::lineOf(const Show& show) const
 Show AlarmRun::broadcast()
 {
     if (!m_line.options.contains(QStringLiteral("--at")))
-        throw Refusal{translated("--at TIME is missing: when the broadcast starts.")};
+        throw Refusal{localized("--at TIME is missing: when the broadcast starts.")};
     const QString time = m_line.options.value(QStringLiteral("--at"));
     std::optional<ObjectId> channel;
     if (m_line.options.contains(QStringLiteral("--on"))) {
@@ -295,13 +290,13 @@ Show AlarmRun::broadcast()
                *show->entry->dateTime() < m_device.clock().now();
     });
     if (shows.empty())
-        throw Refusal{translated("No coming broadcast of \"%1\" starts then.").arg(argument())};
+        throw Refusal{localized("No coming broadcast of \"%1\" starts then.").arg(argument())};
     // A time of day means the first day that has it.
     std::erase_if(shows, [first = shows.front()->entry->dateTime()](const Show& show) {
         return show->entry->dateTime() != first;
     });
     if (shows.size() > 1) {
-        QStringList lines{translated("More than one broadcast fits; --on CHANNEL or more of the title tells which:")};
+        QStringList lines{localized("More than one broadcast fits; --on CHANNEL or more of the title tells which:")};
         for (const Show& show : shows)
             lines << lineOf(show);
         throw Refusal{lines.join(QLatin1Char('\n'))};
@@ -325,14 +320,14 @@ void AlarmRun::alarm()
     m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
     settle();
     if (m_engine.alarmedEntry(entry) < 0)
-        throw Refusal{translated("No alarm was set: no calendar can be written.")};
+        throw Refusal{localized("No alarm was set: no calendar can be written.")};
     // What belongs to no favourite goes with the next synchronisation that finds favourites.
     const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
     if (!isFollowed)
         m_engine.addFavorite(title);
     QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show));
     if (!isFollowed)
-        text += QLatin1Char('\n') + translated("A favourite: %1").arg(printable(title));
+        text += QLatin1Char('\n') + localized("A favourite: %1").arg(printable(title));
     answer(text, {{QStringLiteral("minutes"), lead},
                   {QStringLiteral("favouriteAdded"), !isFollowed},
                   {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
@@ -345,7 +340,7 @@ void AlarmRun::unalarm()
         const QString title = listed ? *listed : favouriteNamed();
         m_engine.removeAlarmForTitle(title, true, true);
         settle();
-        answer(translated("No alarms any more: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
+        answer(localized("No alarms any more: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
         return;
     }
     const Show show = broadcast();
@@ -353,10 +348,10 @@ void AlarmRun::unalarm()
     const QString title = entry.identificator().value_or(QString());
     m_engine.removeAlarmForTitle(title, entry.channel(), *entry.dateTime(), true, true);
     settle();
-    QString text = translated("No alarm any more: %1").arg(lineOf(show));
+    QString text = localized("No alarm any more: %1").arg(lineOf(show));
     if (m_engine.alarmedIdentificatorType(title))
         text += QLatin1Char('\n') +
-                translated("All broadcasts of this favourite have alarms: the next update sets it again.");
+                localized("All broadcasts of this favourite have alarms: the next update sets it again.");
     answer(text, {{QStringLiteral("removed"), title},
                   {QStringLiteral("show"), ShowPrinter(m_delegate.channelData()).json({show}).first()}});
 }
@@ -377,7 +372,7 @@ void AlarmRun::alerts()
         object.insert(QStringLiteral("minutes"), m_engine.alarmedEntry(*show->entry));
         array.append(object);
     }
-    answer(shows->empty() ? translated("No alarms.") : printer.byDays(*shows).trimmed(),
+    answer(shows->empty() ? localized("No alarms.") : printer.byDays(*shows).trimmed(),
            {{QStringLiteral("alerts"), array}});
 }
 
@@ -392,7 +387,7 @@ void AlarmRun::silentHours()
         const QTime from = QTime::fromString(times.front(), QStringLiteral("H:mm"));
         const QTime to = QTime::fromString(times.back(), QStringLiteral("H:mm"));
         if (times.size() != 2 || !from.isValid() || !to.isValid())
-            throw Refusal{translated("silent-hours takes two times such as 00:00 07:00, or \"off\".")};
+            throw Refusal{localized("silent-hours takes two times such as 00:00 07:00, or \"off\".")};
         hours.setFromTimestamp(SilentHours::timestampOf(from, zone));
         hours.setToTimestamp(SilentHours::timestampOf(to, zone));
         hours.setEnabled(true);
@@ -404,12 +399,12 @@ void AlarmRun::silentHours()
     }
     const QString from = SilentHours::timeOf(hours.fromTimestamp(), zone).toString(QStringLiteral("HH:mm"));
     const QString to = SilentHours::timeOf(hours.toTimestamp(), zone).toString(QStringLiteral("HH:mm"));
-    QString text = hours.enabled() ? translated("Favourites do not ring between %1 and %2.").arg(from, to)
-                                   : translated("No silent hours.");
+    QString text = hours.enabled() ? localized("Favourites do not ring between %1 and %2.").arg(from, to)
+                                   : localized("No silent hours.");
     const SilentPeriod period = hours.period();
     if (period.enabled && period.from >= period.to)
-        text += QLatin1Char('\n') + translated("A period that crosses midnight, or has no length, silences them at "
-                                               "every time of the day.");
+        text += QLatin1Char('\n') + localized("A period that crosses midnight, or has no length, silences them at "
+                                              "every time of the day.");
     answer(text,
            {{QStringLiteral("enabled"), hours.enabled()}, {QStringLiteral("from"), from}, {QStringLiteral("to"), to}});
 }

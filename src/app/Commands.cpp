@@ -15,7 +15,6 @@
 #include "screens/ChannelViewController.h"
 #include "screens/RootViewController.h"
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -25,11 +24,6 @@
 namespace vidora {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("vidora", text);
-}
 
 void say(const QString& message)
 {
@@ -106,7 +100,7 @@ bool CommandRun::hasSelection()
 {
     if (!delegate().channels().selected().empty())
         return true;
-    say(translated("No channels are chosen yet. \"vidora channels\" lists them, \"vidora select X...\" chooses."));
+    say(localized("No channels are chosen yet. \"vidora channels\" lists them, \"vidora select X...\" chooses."));
     return false;
 }
 
@@ -118,7 +112,7 @@ void CommandRun::chooseFirstChannels()
     if (ids.empty() || m_device.hasOwnGuide())
         return;
     delegate().channels().setSelected(ids);
-    say(translated(
+    say(localized(
             "This is a first look at a made-up region, with the first %1 of its %2 channels. \"vidora import\" reads a "
             "guide of your own.")
             .arg(ids.size())
@@ -154,13 +148,13 @@ int CommandRun::update()
                    {QStringLiteral("shows"), static_cast<qint64>(progress.shows())},
                    {QStringLiteral("failed"), QJsonArray::fromStringList(failed)}});
     } else {
-        say(progress.wanted() == 0 ? translated("Everything is up to date.")
-                                   : translated("%1 of %2 channels updated, %3 shows.")
+        say(progress.wanted() == 0 ? localized("Everything is up to date.")
+                                   : localized("%1 of %2 channels updated, %3 shows.")
                                          .arg(progress.wanted() - progress.failed().size())
                                          .arg(progress.wanted())
                                          .arg(progress.shows()));
         if (!failed.isEmpty())
-            say(translated("Nothing came for: %1").arg(failed.join(QLatin1String(", "))));
+            say(localized("Nothing came for: %1").arg(failed.join(QLatin1String(", "))));
     }
     return progress.wanted() > 0 && progress.failed().size() == progress.wanted() ? 1 : 0;
 }
@@ -195,7 +189,7 @@ int CommandRun::printShows(const ShowList& shows)
     if (m_line.json)
         printJson({{QStringLiteral("shows"), printer.json(shows)}});
     else if (shows.empty())
-        say(translated("No shows."));
+        say(localized("No shows."));
     else
         printText(printer.byDays(shows));
     return 0;
@@ -245,7 +239,7 @@ int CommandRun::category()
     QStringList labels, keys;
     for (const TVListingsCategory value : values) {
         keys << textForCategory(static_cast<std::int32_t>(value));
-        labels << translated(keys.back().toUtf8().constData());
+        labels << localized(keys.back().toUtf8().constData());
     }
     QStringList candidates = candidatesFor(argument(), labels);
     if (candidates.isEmpty())
@@ -355,9 +349,9 @@ int runCommand(const CommandLine& line)
         Log::setSink(say);
     std::optional<QString> password;
     if (wantsCalendarPassword(line)) {
-        password = readPassword(translated("Password of %1: ").arg(line.options.value(QStringLiteral("--user"))));
+        password = readPassword(localized("Password of %1: ").arg(line.options.value(QStringLiteral("--user"))));
         if (!password) {
-            say(translated("No password was given."));
+            say(localized("No password was given."));
             return 1;
         }
     }

@@ -4,6 +4,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/FolderEventStore.h"
 #include "platform/KeyringSecretStore.h"
+#include "platform/Localized.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -94,8 +95,7 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork, Qualit
     const bool own = hasOwnGuide();
     const auto guide = own ? GuideImport::addressOfCatalogue(ownCatalogue(m_folders)) : std::nullopt;
     if (own && !guide)
-        say(QCoreApplication::translate("vidora",
-                                        "The catalogue of your guide can't be read; import the guide again."));
+        say(localized("The catalogue of your guide can't be read; import the guide again."));
     m_guideSession = std::make_unique<OwnGuideSession>(m_network, guide);
     // A look at another moment must not change the user's own calendars, where the past would pass for the future.
     if (!line.clock || line.home)
@@ -121,10 +121,9 @@ void Device::openCalendars(Access access)
         std::make_unique<KeyringSecretStore>(),
         std::make_unique<FileSecretStore>(m_folders.documents + QLatin1String("/calendar-passwords.json")));
     m_eventStore = std::make_unique<CombinedEventStore>();
-    m_eventStore->addSource(QStringLiteral("device"),
-                            std::make_shared<FolderEventStore>(calendars(m_folders),
-                                                               QCoreApplication::translate("vidora", "This device"),
-                                                               *m_clock, m_random));
+    m_eventStore->addSource(
+        QStringLiteral("device"),
+        std::make_shared<FolderEventStore>(calendars(m_folders), localized("This device"), *m_clock, m_random));
     m_calendarAccounts = std::make_unique<CalendarAccounts>(
         CalendarAccountSurroundings{calendarAccounts(m_folders),
                                     m_folders.documents + QLatin1String("/calendar-mirrors"), *m_secrets,
@@ -139,19 +138,15 @@ void Device::lockHome(Access access)
     if (m_lock->outcome() == HomeLock::Outcome::First)
         removeLeftovers(m_folders);
     if (m_lock->outcome() == HomeLock::Outcome::Unavailable && access == Access::Write)
-        say(QCoreApplication::translate("vidora", "%1 can't be written: nothing will be kept.")
-                .arg(m_folders.documents));
+        say(localized("%1 can't be written: nothing will be kept.").arg(m_folders.documents));
     if (m_lock->outcome() != HomeLock::Outcome::Second)
         return;
     const QString holder = m_lock->holder() ? QString::number(*m_lock->holder()) : QStringLiteral("?");
     if (access == Access::Read) {
-        say(QCoreApplication::translate("vidora",
-                                        "Another vidora (process %1) is using this home; showing what it has.")
-                .arg(holder));
+        say(localized("Another vidora (process %1) is using this home; showing what it has.").arg(holder));
         return;
     }
-    say(QCoreApplication::translate("vidora", "Another vidora (process %1) is using this home; waiting for it.")
-            .arg(holder));
+    say(localized("Another vidora (process %1) is using this home; waiting for it.").arg(holder));
     bool taken = false;
     DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
         m_lock->waitForTurn();
@@ -168,7 +163,7 @@ Endpoints Device::readEndpoints(bool wantsNetwork, std::optional<Instant> clock,
         if (const auto region = m_region.start(clock))
             endpoints = Endpoints::fromJson(*region, endpoints);
         else
-            say(QCoreApplication::translate("vidora", "The sample region could not be started; --log says why."));
+            say(localized("The sample region could not be started; --log says why."));
     }
     if (guide)
         endpoints.tvpcAddress = guide->text();

@@ -61,8 +61,9 @@ Texts readTexts(const QString& path)
 /// space to which something will be joined.
 QStringList keptParts(const QString& text)
 {
-    static const QRegularExpression kept(QStringLiteral(
-        "%[0-9n]|--[a-z-]+|\\bvidora [a-z-]+|\\bcalendars [a-z]+|\\d\\d:\\d\\d\\S*|\\b(?:XMLTV|CalDAV)\\b|^ | $"));
+    static const QRegularExpression kept(
+        QStringLiteral("%[0-9n]|--[a-z-]+|\\bvidora [a-z-]+|\\bcalendars "
+                       "(?:add|test|remove)\\b|\\d\\d:\\d\\d\\S*|\\b(?:XMLTV|CalDAV)\\b|^ | $"));
     QStringList parts;
     for (auto match = kept.globalMatch(text); match.hasNext();)
         parts << match.next().captured();
