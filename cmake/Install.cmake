@@ -18,6 +18,8 @@ foreach(size 32 48 64 128 256)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
 endforeach()
 
+install(FILES LICENSE RENAME copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME vidora)
 set(CPACK_PACKAGE_VENDOR Vidora)
@@ -30,8 +32,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What is loaded at run time: no linker knows of it.
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
-    libqt6sql6-sqlite libqt6svg6 qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick
-    qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
-    qml6-module-qtquick-window qml6-module-qtmultimedia
+    ca-certificates tzdata libqt6sql6-sqlite libqt6svg6 qt6-image-formats-plugins
+    qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls
+    qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtmultimedia
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad gstreamer1.0-libav)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n")
 include(CPack)

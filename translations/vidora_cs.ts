@@ -344,6 +344,10 @@
         <translation>vypisovat na chybový výstup, co bylo staženo a nalezeno</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>verze programu</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>načíst všechny části okna a skončit</translation>
     </message>

@@ -339,6 +339,10 @@
         <translation>auf der Fehlerausgabe sagen, was geholt und gefunden wurde</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>die Version des Programms</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>jeden Teil des Fensters laden und beenden</translation>
     </message>

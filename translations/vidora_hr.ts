@@ -344,6 +344,10 @@
         <translation>prijavi na standardni izlaz za pogreške što je preuzeto i nađeno</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>verzija programa</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>učitaj svaki dio prozora i završi</translation>
     </message>

@@ -334,6 +334,10 @@
         <translation>kiírja a hibakimenetre, mi lett letöltve és mit tartalmazott</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>a program verziója</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>az ablak minden részének betöltése, majd kilépés</translation>
     </message>

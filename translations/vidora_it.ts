@@ -339,6 +339,10 @@
         <translation>dice sullo standard error che cosa è stato scaricato e trovato</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>la versione del programma</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>carica ogni parte della finestra ed esce</translation>
     </message>

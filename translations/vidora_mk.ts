@@ -344,6 +344,10 @@
         <translation>јави на стандардниот излез за грешки што е преземено и најдено</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>верзијата на програмата</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>вчитај го секој дел од прозорецот и заврши</translation>
     </message>

@@ -344,6 +344,10 @@
         <translation>spune pe ieșirea de erori ce s-a descărcat și găsit</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>versiunea programului</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>încarcă fiecare parte a ferestrei și ieși</translation>
     </message>

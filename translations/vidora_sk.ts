@@ -344,6 +344,10 @@
         <translation>vypisovať na chybový výstup, čo bolo stiahnuté a nájdené</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>verzia programu</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>načítať všetky časti okna a skončiť</translation>
     </message>

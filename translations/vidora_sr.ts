@@ -344,6 +344,10 @@
         <translation>пријави на стандардни излаз за грешке шта је преузето и нађено</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>верзија програма</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>учитај сваки део прозора и заврши</translation>
     </message>

@@ -344,6 +344,10 @@
         <translation>prijavi na standardni izlaz za greške šta je preuzeto i nađeno</translation>
     </message>
     <message>
+        <source>the version of the program</source>
+        <translation>verzija programa</translation>
+    </message>
+    <message>
         <source>load every part of the window and quit</source>
         <translation>učitaj svaki deo prozora i završi</translation>
     </message>

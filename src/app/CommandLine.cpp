@@ -99,6 +99,8 @@ private:
             line.log = true;
         else if (equals < 0 && name == QLatin1String("--help"))
             line.help = true;
+        else if (equals < 0 && name == QLatin1String("--version"))
+            line.version = true;
         else if (equals < 0 && name == QLatin1String("--self-test"))
             line.selfTest = true;
         else if (name == QLatin1String("--home"))

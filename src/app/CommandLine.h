@@ -18,6 +18,7 @@ struct CommandLine
     bool json = false;
     bool log = false;
     bool help = false;
+    bool version = false;
     bool selfTest = false; ///< load every part of the window, show nothing
     /// The options that only some commands take, by name: those with a value such as "--alarm", "--at", "--user", and
     /// those without one, such as "--premieres", with an empty one.

@@ -55,6 +55,7 @@ constexpr Entry options[] = {
     {QT_TRANSLATE_NOOP("vidora", "--clock TIME"),
      QT_TRANSLATE_NOOP("vidora", "the guide as at another moment: 2026-11-22T19:00:00Z")},
     {"--log", QT_TRANSLATE_NOOP("vidora", "say on standard error what was fetched and found")},
+    {"--version", QT_TRANSLATE_NOOP("vidora", "the version of the program")},
     {"--self-test", QT_TRANSLATE_NOOP("vidora", "load every part of the window and quit")},
 };
 

@@ -22,6 +22,10 @@ int main(int argc, char** argv)
         std::fputs(qUtf8Printable(vidora::commandLineHelp()), stdout);
         return 0;
     }
+    if (read.line.version) {
+        std::puts("vidora " VIDORA_VERSION);
+        return 0;
+    }
     if (vidora::wantsWindow(read.line))
         vidora::becomeWindow(argv);
     if (read.line.selfTest || read.line.opensAddress()) {
