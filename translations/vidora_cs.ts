@@ -652,6 +652,10 @@
         <translation>Zatím není vybrán žádný kanál. Přidejte ty, které chcete vidět.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Tato stránka přijde v některé z dalších verzí.</translation>
     </message>

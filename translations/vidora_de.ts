@@ -641,6 +641,10 @@
         <translation>Es ist noch kein Sender ausgewählt. Fügen Sie die hinzu, die Sie sehen möchten.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Diese Seite kommt mit einer späteren Version.</translation>
     </message>

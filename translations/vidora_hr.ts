@@ -652,6 +652,10 @@
         <translation>Još nije odabran nijedan kanal. Dodajte one koje želite vidjeti.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Postavke</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Ova stranica stiže u nekoj od sljedećih inačica.</translation>
     </message>

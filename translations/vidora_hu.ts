@@ -630,6 +630,10 @@
         <translation>Még nincs kiválasztott csatorna. Vegye fel azokat, amelyeket látni szeretne.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Beállítások</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Ez az oldal egy későbbi változatban lesz elérhető.</translation>
     </message>

@@ -641,6 +641,10 @@
         <translation>Nessun canale è ancora scelto. Aggiungere quelli da vedere.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Questa pagina arriverà con una versione successiva.</translation>
     </message>

@@ -652,6 +652,10 @@
         <translation>Сè уште не е избран ниеден канал. Додајте ги оние што сакате да ги гледате.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Поставки</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Оваа страница доаѓа во некоја од следните верзии.</translation>
     </message>

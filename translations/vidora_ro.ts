@@ -652,6 +652,10 @@
         <translation>Nu este ales încă niciun canal. Adăugați-le pe cele pe care doriți să le vedeți.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Setări</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Această pagină va veni cu o versiune ulterioară.</translation>
     </message>

@@ -652,6 +652,10 @@
         <translation>Zatiaľ nie je vybraný žiadny kanál. Pridajte tie, ktoré chcete vidieť.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Nastavenia</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Táto stránka príde v niektorej z ďalších verzií.</translation>
     </message>

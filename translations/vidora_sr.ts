@@ -652,6 +652,10 @@
         <translation>Још није изабран ниједан канал. Додајте оне које желите да видите.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Подешавања</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Ова страница стиже у некој од наредних верзија.</translation>
     </message>

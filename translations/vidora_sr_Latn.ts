@@ -652,6 +652,10 @@
         <translation>Još nije izabran nijedan kanal. Dodajte one koje želite da vidite.</translation>
     </message>
     <message>
+        <source>Settings</source>
+        <translation>Podešavanja</translation>
+    </message>
+    <message>
         <source>This page comes with a later version.</source>
         <translation>Ova stranica stiže u nekoj od narednih verzija.</translation>
     </message>

@@ -1,6 +1,7 @@
 #include "screens/EditChannelListViewController.h"
 
 #include "screens/Navigation.h"
+#include "screens/PlainViewController.h"
 #include "screens/ShowRows.h"
 
 namespace vidora {
@@ -16,7 +17,14 @@ std::vector<BarButton> EditChannelListViewController::rightBarButtonItems() cons
     std::vector<BarButton> buttons{{BarButton::Kind::Add, localized("Add channels"), [self] { self->add(); }}};
     if (!m_selected.empty())
         buttons.push_back({BarButton::Kind::Trash, localized("Remove all channels"), [self] { self->trash(); }});
+    buttons.push_back({BarButton::Kind::Settings, localized("Settings"), [self] { self->settings(); }});
     return buttons;
+}
+
+void EditChannelListViewController::settings()
+{
+    pushFrom(m_delegate, *this,
+             std::make_shared<PlainViewController>("Settings", "This page comes with a later version."));
 }
 
 QString EditChannelListViewController::placeholder() const

@@ -25,6 +25,7 @@ public:
     void add();
     /// Empties the selection.
     void trash();
+    void settings();
 
 protected:
     /// The chooser, a pruned catalogue or another device may have changed the selection meanwhile.

@@ -68,7 +68,8 @@ struct BarButton
         Play,
         Refresh,
         Add,
-        Trash
+        Trash,
+        Settings
     };
 
     Kind kind = Kind::Text;

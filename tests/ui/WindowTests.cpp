@@ -135,6 +135,9 @@ TEST_F(WindowTest, OrdersAndEmptiesTheSelection)
     const auto before = m_device.delegate().channels().selected();
     screen().moveRow(0, 2);
     EXPECT_THAT(m_device.delegate().channels().selected(), ::testing::ElementsAre(before[1], before[2], before[0]));
+    press(utf8("settings"));
+    EXPECT_FALSE(screen().isRoot());
+    m_model.back();
     screen().moveRow(7, 0);
     screen().removeRow(7);
     for (int left = 3; left > 0; --left)

@@ -13,6 +13,8 @@ QString symbolOf(BarButton::Kind kind)
         return QStringLiteral("refresh");
     case BarButton::Kind::Add:
         return QStringLiteral("add");
+    case BarButton::Kind::Settings:
+        return QStringLiteral("settings");
     case BarButton::Kind::Trash:
         return QStringLiteral("trash");
     case BarButton::Kind::Text:

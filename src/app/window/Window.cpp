@@ -18,6 +18,7 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -136,6 +137,23 @@ private:
     QQmlApplicationEngine m_engine;
 };
 
+/// Opens the window on an empty home, without a network, and closes it.
+bool opensOnAnEmptyHome()
+{
+    const QTemporaryDir home;
+    CommandLine line;
+    line.home = home.path();
+    Device device(line, Device::Access::Write, false);
+    bool isOpen = false;
+    {
+        const OpenWindow window(device);
+        QCoreApplication::processEvents();
+        isOpen = window.isOpen();
+    }
+    device.quit();
+    return isOpen;
+}
+
 QString homeOf(const CommandLine& line)
 {
     return line.home ? QFileInfo(*line.home).absoluteFilePath() : QStringLiteral("user");
@@ -186,7 +204,7 @@ int testWindow()
         ++wrong;
         say(component.errorString());
     }
-    return tested > 0 && wrong == 0 ? 0 : 1;
+    return tested > 0 && wrong == 0 && opensOnAnEmptyHome() ? 0 : 1;
 }
 
 } // namespace vidora

@@ -13,8 +13,8 @@ void prepareEngine(QQmlEngine& engine);
 /// open already, the address of a show included. The process's exit status. Main thread, with a QGuiApplication.
 int runWindow(const CommandLine& line);
 
-/// Builds every QML component of the window once, without showing it, and says on standard error what is wrong. The
-/// process's exit status.
+/// Loads every QML component, and opens the window once on an empty home of its own; says on standard error what is
+/// wrong. The process's exit status.
 int testWindow();
 
 } // namespace vidora
