@@ -13,13 +13,14 @@ class CalDAVEventStoreTest : public ::testing::Test
 {
 protected:
     CalDAVEventStoreTest() { qputenv("no_proxy", "127.0.0.1"); }
-    std::unique_ptr<CalDAVEventStore> open(const char* device = "a", const char* password = "s3cret",
-                                           FileLayer& layer = FileLayer::system())
+    std::unique_ptr<CalDAVEventStore>
+    open(const char* device = "a", const char* password = "s3cret", FileLayer& layer = FileLayer::system(),
+         CalDAVEventStore::Exchange exchange = CalDAVEventStore::Exchange::WhileCallerWaits)
     {
         return std::make_unique<CalDAVEventStore>(
             home.filePath(QString::fromLatin1(device)), QStringLiteral("Work"),
             CalDAVAccount{server.address(), QStringLiteral("ana"), QString::fromLatin1(password)}, session, clock,
-            random, sleeper, layer);
+            random, sleeper, layer, exchange);
     }
     Calendar tv(EventStore& store)
     {

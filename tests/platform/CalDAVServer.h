@@ -4,6 +4,7 @@
 #include "platform/URLSession.h"
 
 #include <arpa/inet.h>
+#include <atomic>
 #include <functional>
 #include <sys/socket.h>
 #include <thread>
@@ -140,7 +141,7 @@ public:
     QByteArray method; ///< the requests that it happens to; empty for all
     QString address;   ///< a part of their address
     int status = 0;
-    int requests = 0;
+    std::atomic<int> requests = 0;
 
 private:
     URLSession& m_session;
