@@ -1,13 +1,12 @@
 #pragma once
 
+#include "platform/Descriptor.h"
 #include "platform/Instant.h"
 
 #include <QByteArray>
 
-#include <memory>
 #include <optional>
-
-class QProcess;
+#include <sys/types.h>
 
 namespace vidora {
 
@@ -16,15 +15,18 @@ namespace vidora {
 class SampleRegionProcess
 {
 public:
-    SampleRegionProcess();
+    SampleRegionProcess() = default;
     ~SampleRegionProcess();
 
     /// Starts it on free ports and waits until it serves. `clock`: the day for which it makes its documents, the
-    /// present one without. The endpoint configuration that leads to it, or nothing when it can't be started.
+    /// present one without. The endpoint configuration that leads to it, or nothing when it can't be started. Once.
     std::optional<QByteArray> start(std::optional<Instant> clock);
 
 private:
-    std::unique_ptr<QProcess> m_process;
+    bool spawn(const QByteArrayList& command);
+
+    pid_t m_process = -1;
+    Descriptor m_input, m_output; ///< our ends of its standard streams
 };
 
 } // namespace vidora
