@@ -40,8 +40,9 @@ QString styleOf(const TextAttributes& attributes, const RichTextStyle& style)
 {
     using Weight = TextAttributes::Weight;
     QString css;
+    const double shrinking = attributes.baselineOffset > 0 ? 1.5 : 1; // Qt sets raised text in two thirds of its size
     if (attributes.pointSize > 0) // logical pixels of a phone are what its points are
-        css += QStringLiteral("font-size:%1px;").arg(qRound(attributes.pointSize * style.scale));
+        css += QStringLiteral("font-size:%1px;").arg(qRound(attributes.pointSize * style.scale * shrinking));
     if (attributes.weight != Weight::Regular)
         css += QStringLiteral("font-weight:%1;").arg(attributes.weight == Weight::Bold ? 700 : 600);
     const QString value = style.colours.value(colourRole(attributes));

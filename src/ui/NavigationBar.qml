@@ -33,6 +33,7 @@ Rectangle {
             text: bar.screen.title
             textFormat: Text.PlainText
             elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
             maximumLineCount: 1
             font.pixelSize: Theme.points(20)
             font.weight: Font.Bold

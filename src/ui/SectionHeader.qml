@@ -19,6 +19,7 @@ Item {
         text: header.title
         textFormat: Text.PlainText
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         font.pixelSize: Theme.body
         font.weight: Font.Bold
         color: Theme.sectionHeader

@@ -23,6 +23,10 @@ ItemDelegate {
 
     readonly property bool isHeader: model.kind === "header"
     readonly property string plain: model.text
+    readonly property color tint: down || (hovered && model.selectable) ? Theme.pressed
+                                : Theme.colours[model.backgroundColour] ?? Theme.secondaryGroupedBackground
+    /// No title of a provider may push all the others out of sight; what is read on a page of its own may be long.
+    readonly property int mostHeight: Theme.body * (model.kind === "text" ? 400 : model.kind === "show" ? 16 : 6)
 
     implicitHeight: Math.max(Theme.touchTarget, content.implicitHeight + topPadding + bottomPadding)
     topPadding: isHeader ? 8 : 9
@@ -51,14 +55,14 @@ ItemDelegate {
             anchors.fill: parent
             anchors.topMargin: row.first ? Theme.radius : 0
             anchors.bottomMargin: row.last ? Theme.radius : 0
-            color: row.down || (row.hovered && row.model.selectable) ? Theme.pressed
-                 : Theme.colours[row.model.backgroundColour] ?? Theme.secondaryGroupedBackground
+            color: row.tint
         }
         Rectangle {
             visible: !row.last
             anchors.bottom: parent.bottom
-            x: row.isHeader ? 0 : row.leftPadding
-            width: parent.width - x
+            anchors.left: parent.left
+            anchors.leftMargin: row.isHeader ? 0 : row.leftPadding
+            anchors.right: parent.right
             height: 1
             color: Theme.separator
         }
@@ -84,6 +88,7 @@ ItemDelegate {
         Loader {
             id: remove
             active: row.model.deletable
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             width: active ? Theme.touchTarget : 0
             sourceComponent: SymbolButton {
@@ -117,16 +122,28 @@ ItemDelegate {
                                                 : (parent.height - height) / 2
             spacing: 2
             Text {
+                id: words
                 width: parent.width
-                height: Math.min(implicitHeight, 600)
-                clip: implicitHeight > 600
+                height: Math.min(implicitHeight, row.mostHeight)
+                clip: height < implicitHeight
                 text: row.model.richText
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
+                horizontalAlignment: row.mirrored ? Text.AlignLeft : undefined // beside the picture
                 font.pixelSize: row.isHeader ? Theme.channel : Theme.body
                 font.weight: row.isHeader ? Font.Bold : Font.Normal
                 color: row.isHeader ? Theme.indigo : Theme.label
                 Accessible.ignored: true
+                Rectangle { // there is more
+                    visible: words.clip
+                    anchors.bottom: parent.bottom
+                    width: parent.width
+                    height: 2 * Theme.body
+                    gradient: Gradient {
+                        GradientStop { position: 0; color: Qt.rgba(row.tint.r, row.tint.g, row.tint.b, 0) }
+                        GradientStop { position: 1; color: row.tint }
+                    }
+                }
             }
             Loader {
                 width: parent.width
@@ -136,6 +153,7 @@ ItemDelegate {
                     text: row.model.subtitle
                     textFormat: Text.PlainText
                     elide: Text.ElideRight
+                    horizontalAlignment: Text.AlignLeft
                     maximumLineCount: 1
                     font.pixelSize: Theme.small
                     color: Theme.colours[row.model.subtitleColour] ?? Theme.secondaryLabel

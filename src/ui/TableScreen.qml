@@ -173,7 +173,12 @@ FocusScope {
                         return
                     event.accepted = true
                 }
-                onCurrentIndexChanged: if (currentIndex >= 0) positionViewAtIndex(currentIndex, ListView.Contain)
+                onCurrentIndexChanged: if (currentIndex >= 0) showCurrent()
+                function showCurrent() {
+                    positionViewAtIndex(currentIndex, ListView.Contain)
+                    forceLayout() // the rows on the way are as high as they are only now
+                    positionViewAtIndex(currentIndex, ListView.Contain)
+                }
             }
             SectionIndex {
                 id: letters
