@@ -126,7 +126,7 @@ ApplicationWindow {
             app.back()
     }
     Shortcut { sequences: [StandardKey.Find]; onActivated: window.visibleTable()?.find() }
-    Shortcut { sequences: [StandardKey.Refresh, "F5", "Ctrl+R"]; onActivated: window.visibleTable()?.refresh() }
+    Shortcut { sequences: ["F5", "Ctrl+R"]; onActivated: window.visibleTable()?.refresh() }
     Shortcut { sequences: ["Esc", StandardKey.Back, "Back"]; onActivated: window.goBack() }
     Shortcut { sequences: [StandardKey.Quit]; onActivated: window.close() }
     Repeater {

@@ -1,101 +1,19 @@
-#include "app/Device.h"
-#include "app/window/Window.h"
-#include "app/window/WindowModel.h"
+#include "WindowFixture.h"
+#include "app/window/SingleInstance.h"
+#include "content/TVEntry.h"
+#include "platform/Timer.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QProcess>
-#include <QQmlApplicationEngine>
-#include <QQuickWindow>
-#include <QTemporaryDir>
-#include <QtTest/QTest>
-
-#include <gmock/gmock.h>
+#include <QSignalSpy>
 
 namespace vidora {
 namespace {
 
-QString utf8(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-CommandLine lineOn(const QTemporaryDir& folder)
-{
-    CommandLine line;
-    line.home = folder.path();
-    line.clock = instantFromIsoText(utf8("2026-11-22T19:00:00Z"));
-    return line;
-}
-
-/// The window on a home of its own, over the sample region.
-class WindowTest : public ::testing::Test
-{
-protected:
-    WindowTest()
-        : m_device(lineOn(m_folder), Device::Access::Write, true)
-        , m_model(m_device.delegate())
-    {
-        prepareEngine(m_engine);
-        m_engine.setInitialProperties({{utf8("app"), QVariant::fromValue<QObject*>(&m_model)}});
-        m_engine.load(QUrl(utf8("qrc:/qt/qml/Vidora/Main.qml")));
-        bool launched = false;
-        DispatchQueue::main().async([&] { launched = true; });
-        DispatchQueue::runMain([&] { return launched; });
-        m_device.delegate().applicationDidBecomeActive();
-    }
-
-    ScreenObject& screen() { return *qobject_cast<ScreenObject*>(m_model.visibleScreen()); }
-    QQuickWindow* window() { return qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0)); }
-    QVariant cell(int row, int role) { return screen().rows()->index(row, 0).data(role); }
-    int tabNamed(const QString& name)
-    {
-        const QVariantList tabs = m_model.tabs();
-        for (int i = 0; i < tabs.size(); ++i) {
-            if (tabs[i].toMap().value(utf8("symbol")).toString() == name)
-                return i;
-        }
-        return -1;
-    }
-    QStringList enabledTabs()
-    {
-        QStringList names;
-        for (const QVariant& tab : m_model.tabs()) {
-            if (tab.toMap().value(utf8("enabled")).toBool())
-                names << tab.toMap().value(utf8("symbol")).toString();
-        }
-        return names;
-    }
-    void press(const QString& symbol)
-    {
-        const QVariantList buttons = screen().barButtons();
-        for (int i = 0; i < buttons.size(); ++i) {
-            if (buttons[i].toMap().value(utf8("symbol")).toString() == symbol)
-                return screen().pressBarButton(i);
-        }
-        ADD_FAILURE() << "no button " << symbol.toStdString();
-    }
-    int rowOfKind(const QString& kind)
-    {
-        for (int row = 0; row < screen().rows()->rowCount(); ++row) {
-            if (cell(row, ScreenItemModel::KindRole).toString() == kind)
-                return row;
-        }
-        return -1;
-    }
-    void chooseThree()
-    {
-        press(utf8("add"));
-        ASSERT_FALSE(screen().isRoot());
-        for (const int row : {0, 1, 2})
-            screen().select(row);
-    }
-
-    QTemporaryDir m_folder;
-    Device m_device;
-    WindowModel m_model;
-    QQmlApplicationEngine m_engine;
-};
+using test::utf8;
+using WindowTest = test::WindowTest;
 
 TEST_F(WindowTest, LeadsFromNoChannelToAChannelsWeekAndBack)
 {
@@ -157,6 +75,133 @@ TEST_F(WindowTest, TurnsFromPhoneToPadAndKeepsItsTab)
     EXPECT_EQ(tabNamed(utf8("allshows")), 0);
     EXPECT_EQ(m_model.selectedTab(), tabNamed(utf8("search")));
     m_device.quit();
+}
+
+TEST_F(WindowTest, IsUsedByKeysAlone)
+{
+    press(utf8("add"));
+    const auto type = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(window(), key, modifiers);
+        test::turn();
+    };
+    type(Qt::Key_F, Qt::ControlModifier);
+    for (const char letter : {'l', 'i', 'p', 'a'})
+        QTest::keyClick(window(), letter);
+    EXPECT_EQ(screen().searchText(), utf8("lipa"));
+    ASSERT_EQ(screen().rows()->rowCount(), 3);
+    for (int row = 0; row < 3; ++row) {
+        type(Qt::Key_Down); // out of the field, then through the rows
+        if (row == 0)
+            type(Qt::Key_Down);
+        type(Qt::Key_Return);
+    }
+    const ChannelIds chosen = m_device.delegate().channels().selected();
+    ASSERT_EQ(chosen.size(), 3U);
+    type(Qt::Key_Escape);
+    ASSERT_TRUE(screen().isRoot());
+    type(Qt::Key_Down);
+    type(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_THAT(m_device.delegate().channels().selected(), ::testing::ElementsAre(chosen[1], chosen[0], chosen[2]));
+    for (int left = 3; left > 0; --left)
+        type(Qt::Key_Delete);
+    EXPECT_TRUE(m_device.delegate().channels().selected().empty());
+    EXPECT_EQ(enabledTabs(), QStringList{utf8("channels")});
+    m_device.quit();
+}
+
+TEST_F(WindowTest, RefreshesAChannelWhileAPassRuns)
+{
+    chooseThree();
+    m_model.selectTab(tabNamed(utf8("currently")));
+    auto& progress = *qobject_cast<PassProgress*>(m_model.progress());
+    DispatchQueue::runMain([&] { return rowOfKind(utf8("show")) > 0 && !progress.isRunning(); });
+    screen().select(0);
+    DispatchQueue::runMain([&] { return !screen().isRoot(); });
+    test::turn();
+    const int rows = screen().rows()->rowCount();
+    m_device.delegate().checkAndUpdateAllChannels();
+    QTest::keyClick(window(), Qt::Key_F5);
+    EXPECT_TRUE(screen().refreshing());
+    QTest::keyClick(window(), Qt::Key_F5); // once more changes nothing
+    DispatchQueue::runMain([&] { return progress.isRunning(); });
+    EXPECT_GE(progress.wanted(), 1);
+    DispatchQueue::runMain([&] { return !screen().refreshing() && !progress.isRunning(); });
+    EXPECT_EQ(screen().rows()->rowCount(), rows);
+    m_device.quit();
+}
+
+TEST_F(WindowTest, TakesAnAddressFromASecondStart)
+{
+    chooseThree();
+    m_model.selectTab(tabNamed(utf8("currently")));
+    DispatchQueue::runMain([&] { return rowOfKind(utf8("show")) > 0; });
+    const Show show = screen().screen().rowAt({0, 2}).show;
+    const auto address = TVEntry::urlDigestFromChannel(show->entry->channel(), *show->entry->dateTime(),
+                                                       show->entry->identificator(), utf8("vidora"));
+    ASSERT_TRUE(address);
+    SingleInstance instance(QFileInfo(m_folder.path()).absoluteFilePath());
+    instance.listen([&](const QString& message) { m_model.openAddress(message); });
+    for (const QString& text :
+         {utf8("vidora://c0000000000000000000000000000000"), utf8("http://h.example/"), address->text()}) {
+        QProcess second;
+        second.start(utf8(VIDORA_PROGRAM) + utf8("-window"), {utf8("--home"), m_folder.path(), text});
+        DispatchQueue::runMain([&] { return second.state() == QProcess::NotRunning; });
+        EXPECT_EQ(second.exitCode() == 0, text.startsWith(utf8("vidora")));
+    }
+    DispatchQueue::runMain([&] { return !screen().isRoot(); });
+    EXPECT_EQ(screen().title(), show->entry->title());
+    m_device.quit();
+}
+
+TEST_F(WindowTest, SaysAMessageOnceAndListsChannelsInAPopover)
+{
+    chooseThree();
+    m_model.setPad(true);
+    m_model.selectTab(tabNamed(utf8("currently")));
+    QSignalSpy alerts(&m_model, &WindowModel::alertPresented);
+    const Alert offline{utf8("Offline"), utf8("No connection."), {{utf8("OK"), {}}}};
+    for (int i = 0; i < 3; ++i)
+        m_device.delegate().tabBarController().present(offline);
+    EXPECT_EQ(alerts.size(), 1);
+    m_model.answerAlert(0);
+    m_device.delegate().tabBarController().present(offline);
+    EXPECT_EQ(alerts.size(), 2);
+    m_model.answerAlert(0);
+
+    DispatchQueue::runMain([&] { return rowOfKind(utf8("show")) > 0; });
+    const int section = cell(rowOfKind(utf8("show")), ScreenItemModel::SectionRole).toInt();
+    screen().pressBarButton(0);
+    auto* popover = qobject_cast<ScreenObject*>(m_model.popover());
+    ASSERT_TRUE(popover);
+    EXPECT_EQ(popover->rows()->rowCount(), 3);
+    m_model.back();
+    EXPECT_FALSE(m_model.popover());
+    screen().pressBarButton(0);
+    qobject_cast<ScreenObject*>(m_model.popover())->select(section);
+    EXPECT_FALSE(m_model.popover());
+    DispatchQueue::runMain([&] { return !screen().isRoot(); });
+    m_device.quit();
+}
+
+TEST(MinuteTicks, ComeAtTheStartOfEachMinute)
+{
+    ManualTimer timer;
+    FixedClock clock(*instantFromIsoText(utf8("2026-11-22T19:00:40Z")));
+    int ticks = 0;
+    const auto pass = [&](int seconds) {
+        clock.advance(Seconds(seconds));
+        timer.advance(Seconds(seconds));
+        test::turn();
+        return ticks;
+    };
+    {
+        const MinuteTicks minutes(clock, [&] { ++ticks; });
+        EXPECT_EQ(pass(19), 0);
+        EXPECT_EQ(pass(1), 1);
+        EXPECT_EQ(pass(59), 1);
+        EXPECT_EQ(pass(1), 2);
+    }
+    EXPECT_EQ(pass(60), 2);
 }
 
 TEST(Program, LoadsEveryPartOfTheWindowInItsSelfTest)

@@ -126,6 +126,20 @@ TestCase {
         compare(screen.rows.count, 0)
     }
 
+    function test_rowsAreMirrored() {
+        screen.add(0, ["one"], {deletable: true, movable: true, icon: "/none.png"})
+        open()
+        const parts = () => [all(rowNamed("one"), item => item.symbol === "delete")[0],
+                             all(rowNamed("one"), item => item instanceof RowPicture)[0],
+                             all(rowNamed("one"), item => item instanceof ReorderHandle)[0]].map(item => item.x)
+        const [remove, picture, handle] = parts()
+        verify(remove < picture && picture < handle)
+        table.LayoutMirroring.enabled = true
+        table.LayoutMirroring.childrenInherit = true
+        const mirrored = parts()
+        verify(mirrored[0] > mirrored[1] && mirrored[1] > mirrored[2])
+    }
+
     function test_keysLeadThroughTheTable() {
         for (let section = 0; section < 10; ++section)
             screen.add(section, ["a", "b", "c", "d", "e", "f"].map(letter => letter + section), {sectionTitle: "S" + section})
