@@ -134,14 +134,16 @@ ItemDelegate {
                 font.weight: row.isHeader ? Font.Bold : Font.Normal
                 color: row.isHeader ? Theme.indigo : Theme.label
                 Accessible.ignored: true
-                Rectangle { // there is more
-                    visible: words.clip
+                Loader { // there is more
+                    active: words.clip
                     anchors.bottom: parent.bottom
                     width: parent.width
                     height: 2 * Theme.body
-                    gradient: Gradient {
-                        GradientStop { position: 0; color: Qt.rgba(row.tint.r, row.tint.g, row.tint.b, 0) }
-                        GradientStop { position: 1; color: row.tint }
+                    sourceComponent: Rectangle {
+                        gradient: Gradient {
+                            GradientStop { position: 0; color: Qt.rgba(row.tint.r, row.tint.g, row.tint.b, 0) }
+                            GradientStop { position: 1; color: row.tint }
+                        }
                     }
                 }
             }

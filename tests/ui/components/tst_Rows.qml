@@ -131,7 +131,7 @@ TestCase {
         open()
         const parts = () => [all(rowNamed("one"), item => item.symbol === "delete")[0],
                              all(rowNamed("one"), item => item instanceof RowPicture)[0],
-                             all(rowNamed("one"), item => item instanceof ReorderHandle)[0]].map(item => item.x)
+                             all(rowNamed("one"), item => item instanceof ReorderHandle)[0]].map(item => item.mapToItem(table, 0, 0).x)
         const [remove, picture, handle] = parts()
         verify(remove < picture && picture < handle)
         table.LayoutMirroring.enabled = true
