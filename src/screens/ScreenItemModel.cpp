@@ -78,11 +78,17 @@ ScreenItemModel::~ScreenItemModel()
     m_screen->setView(nullptr);
 }
 
+std::vector<int> ScreenItemModel::sectionStarts() const
+{
+    std::vector<int> starts{0};
+    for (std::size_t section = 0; section < m_screen->numberOfSections(); ++section)
+        starts.push_back(starts.back() + static_cast<int>(m_screen->numberOfRowsInSection(section)));
+    return starts;
+}
+
 void ScreenItemModel::countRows()
 {
-    m_sectionStarts.assign(1, 0);
-    for (std::size_t section = 0; section < m_screen->numberOfSections(); ++section)
-        m_sectionStarts.push_back(m_sectionStarts.back() + static_cast<int>(m_screen->numberOfRowsInSection(section)));
+    m_sectionStarts = sectionStarts();
     m_rows.clear();
     m_rows.resize(static_cast<std::size_t>(m_sectionStarts.back()));
 }
@@ -188,13 +194,17 @@ QVariant ScreenItemModel::value(const ScreenRow& row, int flat, int role) const
     }
 }
 
-void ScreenItemModel::reloadBegins()
-{
-    beginResetModel();
-}
+void ScreenItemModel::reloadBegins() {}
 
+// A view that is told of a reset goes back to its beginning. Where all rows have kept their places, it need not.
 void ScreenItemModel::reloadEnded()
 {
+    if (m_sectionStarts == sectionStarts() && !m_rows.empty() && !m_screen->hasSectionIndex()) {
+        countRows();
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+        return;
+    }
+    beginResetModel();
     countRows();
     endResetModel();
 }

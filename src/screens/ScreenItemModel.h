@@ -86,6 +86,7 @@ private:
         int row = 0, count = 0;
     };
 
+    std::vector<int> sectionStarts() const;
     void countRows();
     void shiftSectionsBehind(std::size_t section, int by);
     int flatRow(std::size_t section, std::size_t row) const;

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QProcess>
+#include <QQuickItem>
 #include <QSignalSpy>
 
 namespace vidora {
@@ -150,6 +151,50 @@ TEST_F(WindowTest, TakesAnAddressFromASecondStart)
     }
     DispatchQueue::runMain([&] { return !screen().isRoot(); });
     EXPECT_EQ(screen().title(), show->entry->title());
+    m_device.quit();
+}
+
+QQuickItem* visibleList(const QQuickItem& below)
+{
+    const auto children = below.childItems();
+    for (QQuickItem* item : children) {
+        if (!item->isVisible())
+            continue;
+        QQuickItem* found = item->inherits("QQuickListView") ? item : visibleList(*item);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
+TEST_F(WindowTest, KeepsItsPlaceWhenRowsAreReadAnew)
+{
+    press(utf8("add"));
+    for (int row = 0; row < 12; ++row)
+        screen().select(row);
+    m_model.selectTab(tabNamed(utf8("currently")));
+    auto& progress = *qobject_cast<PassProgress*>(m_model.progress());
+    DispatchQueue::runMain([&] { return screen().rows()->rowCount() >= 5 * 12 && !progress.isRunning(); });
+    QQuickItem* list = visibleList(*window()->contentItem());
+    ASSERT_TRUE(list);
+    const auto first = [&] {
+        test::turn();
+        int index = -1;
+        QMetaObject::invokeMethod(list, "indexAt", Q_RETURN_ARG(int, index), Q_ARG(double, 100.0),
+                                  Q_ARG(double, list->property("contentY").toDouble() + 60));
+        return index;
+    };
+    test::turn();
+    ASSERT_TRUE(QMetaObject::invokeMethod(list, "forceLayout"));
+    ASSERT_TRUE(QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, 30), Q_ARG(int, 0)));
+    const int before = first();
+    ASSERT_GT(before, 25);
+    m_device.delegate().recolor();
+    EXPECT_EQ(first(), before);
+    m_model.timePassed();
+    EXPECT_EQ(first(), before);
+    m_device.delegate().applicationSignificantTimeChange();
+    EXPECT_EQ(first(), before);
     m_device.quit();
 }
 
