@@ -150,7 +150,8 @@ FocusScope {
                 Keys.onReturnPressed: table.choose(currentIndex)
                 Keys.onEnterPressed: table.choose(currentIndex)
                 Keys.onSpacePressed: table.choose(currentIndex)
-                Keys.onDeletePressed: if (currentIndex >= 0) table.screen.removeRow(currentIndex)
+                // Keys may come faster than the list takes rows away: its index can then still be behind the last one.
+                Keys.onDeletePressed: if (currentIndex >= 0) table.screen.removeRow(Math.min(currentIndex, count - 1))
                 Keys.onMenuPressed: table.openMenu(currentIndex, currentItem, 40, Theme.touchTarget)
                 Keys.onPressed: event => {
                     const page = Math.max(1, Math.floor(height / 80))
