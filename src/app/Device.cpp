@@ -85,7 +85,7 @@ bool Device::hasOwnGuide() const
     return QFile::exists(ownCatalogue(m_folders));
 }
 
-Device::Device(const CommandLine& line, Access access, bool wantsNetwork, QualityOfService loadPriority)
+Device::Device(const CommandLine& line, Access access, bool wantsNetwork, TVListings::Loading loading)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
     , m_calendarNetwork(maximumCalendarAnswer)
@@ -102,12 +102,11 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork, Qualit
         openCalendars(access);
     m_publicDatabase =
         std::make_unique<EmbeddedPublicDatabase>(m_folders.documents + QLatin1String("/public.sqlite"), *m_clock);
-    m_delegate = std::make_unique<VidoraAppDelegate>(
-        Environment{m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
-                    own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
-                    readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper,
-                    *m_guideSession, false, m_lock->outcome() == HomeLock::Outcome::Second, m_eventStore.get(),
-                    m_publicDatabase.get(), loadPriority});
+    m_delegate = std::make_unique<VidoraAppDelegate>(Environment{
+        m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
+        own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
+        readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper, *m_guideSession,
+        false, m_lock->outcome() == HomeLock::Outcome::Second, m_eventStore.get(), m_publicDatabase.get(), loading});
     m_delegate->applicationDidFinishLaunching();
     watchSystem();
 }

@@ -31,9 +31,8 @@ public:
     };
 
     /// `wantsNetwork`: the command may fetch. Starts the sample region when there is no guide of the user's own.
-    /// `loadPriority`: of reading the lists, which goes on behind this call.
     Device(const CommandLine& line, Access access, bool wantsNetwork,
-           QualityOfService loadPriority = QualityOfService::UserInitiated);
+           TVListings::Loading loading = TVListings::Loading::AtOnce);
     ~Device();
 
     VidoraAppDelegate& delegate() { return *m_delegate; }

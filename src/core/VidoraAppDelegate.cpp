@@ -103,10 +103,9 @@ void VidoraAppDelegate::makeAlarms()
 
 void VidoraAppDelegate::makeStore()
 {
-    m_listings = std::make_unique<TVListings>(
-        TVListings::Surroundings{m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices,
-                                 *m_icons, *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(),
-                                 &m_shows, m_environment.loadPriority});
+    m_listings = std::make_unique<TVListings>(TVListings::Surroundings{
+        m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices, *m_icons,
+        *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(), &m_shows, m_environment.loading});
     m_alarmEngine->setListings(*m_listings);
     m_fetcher =
         std::make_unique<PageFetcher>(m_session, m_cache, m_environment.sleeper, m_networkActivity, m_networkAlerts);

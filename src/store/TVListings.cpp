@@ -10,7 +10,10 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
     , m_popularRefresh(std::move(popularRefresh))
     , m_listingsDictionaryAccessQueue(DispatchQueue::concurrent(QStringLiteral("ostrel.listings.access")))
     , m_fileIOQueue(DispatchQueue::serial(QStringLiteral("ostrel.listings.file.io"), QualityOfService::Background))
+    , m_isLoadHeld(m_surroundings.loading == Loading::Held)
 {
+    if (m_isLoadHeld)
+        m_listingsDictionaryAccessQueue->suspend();
     m_surroundings.alarms.syncAlarms();
     std::vector<ObjectId> channels = m_surroundings.selection.selected();
     channels.push_back(ObjectId::popular());
@@ -19,18 +22,27 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
 
 TVListings::~TVListings()
 {
+    startLoading();
     // Blocks of the first queue put blocks into the second, never the reverse.
     m_listingsDictionaryAccessQueue->barrierSync([] {});
     m_fileIOQueue->sync([] {});
 }
 
+void TVListings::startLoading()
+{
+    if (m_isLoadHeld.exchange(false))
+        m_listingsDictionaryAccessQueue->resume();
+}
+
 void TVListings::load(const std::vector<ObjectId>& channels)
 {
+    const QualityOfService priority =
+        m_surroundings.loading == Loading::Held ? QualityOfService::Background : QualityOfService::UserInitiated;
     ListingsDictionary loaded;
     const auto serialQueue = DispatchQueue::serial(QStringLiteral("ostrel.serialQueue"));
     DispatchGroup group;
     for (const ObjectId& channel : channels) {
-        group.async(DispatchQueue::global(m_surroundings.loadPriority), [this, &loaded, &serialQueue, channel] {
+        group.async(DispatchQueue::global(priority), [this, &loaded, &serialQueue, channel] {
             auto list = std::make_shared<const ShowList>(
                 cutThePast(ShowArchive::unarchiveObjectWithFile(listingsPath(channel)), m_surroundings.clock.now()));
             if (!list->empty())

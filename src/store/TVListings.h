@@ -10,6 +10,7 @@
 #include "store/SearchIndex.h"
 #include "store/StoreSurroundings.h"
 
+#include <atomic>
 #include <set>
 
 namespace vidora {
@@ -30,6 +31,13 @@ using ShowsByURL = std::unordered_map<URL, Show>;
 class TVListings final : public ListingReceiver
 {
 public:
+    /// When the lists are read from their files.
+    enum class Loading
+    {
+        AtOnce,
+        Held ///< from `startLoading` on, and at a priority below that of a window
+    };
+
     /// All outlive the store.
     struct Surroundings
     {
@@ -43,7 +51,7 @@ public:
         ApplicationLife& application;
         FileLayer& files = FileLayer::system();
         const FavoriteTitles* favorites = nullptr; ///< null: there are none
-        QualityOfService loadPriority = QualityOfService::UserInitiated;
+        Loading loading = Loading::AtOnce;
     };
     using Completion = std::function<void()>;
     using ShowsBlock = std::function<void(SharedShowList)>;
@@ -58,6 +66,9 @@ public:
     explicit TVListings(Surroundings surroundings, PopularRefresh popularRefresh = {});
     /// On the main thread. Waits for what was asked for; blocks for the main queue may still come.
     ~TVListings() override;
+
+    /// Lets a load begin that is held; until then every query waits. On any thread, any number of times.
+    void startLoading();
 
     /// "<hex>.plist".
     static QString listingsFileFromChannelIdentificator(const ObjectId& channel);
@@ -164,6 +175,7 @@ private:
 
     const std::shared_ptr<DispatchQueue> m_listingsDictionaryAccessQueue;
     const std::shared_ptr<DispatchQueue> m_fileIOQueue;
+    std::atomic<bool> m_isLoadHeld;
 };
 
 } // namespace vidora

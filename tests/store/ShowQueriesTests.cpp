@@ -101,6 +101,25 @@ TEST_F(ShowQueriesTest, OnAirAnswersOutOfTheFilesAsOutOfTheLoadedLists)
     EXPECT_EQ(titles(ofFiles[2]), QStringList({"a"_s, "b"_s, "c"_s, "d"_s}));
 }
 
+TEST_F(ShowQueriesTest, WaitForALoadThatIsHeldButNotForTheBeginningsOfFiles)
+{
+    device.selection = {one};
+    ShowArchive::archiveRootObject(*listOf(one, {{"a"_s, -10, 10}}), file(one));
+    start(FileLayer::system(), TVListings::Loading::Held);
+    std::optional<std::vector<ShowList>> loaded;
+    listings->onAirShowsWithQueue(DispatchQueue::main(),
+                                  [&](std::vector<ShowList> lists) { loaded = std::move(lists); });
+    const auto ofFiles = answer<std::vector<ShowList>>(
+        [&](auto block) { listings->onAirShowsOfFilesWithQueue(DispatchQueue::main(), std::move(block)); });
+    EXPECT_EQ(titles(ofFiles[0]), QStringList{"a"_s});
+    EXPECT_FALSE(loaded);
+    listings->startLoading();
+    listings->startLoading();
+    DispatchQueue::runMain([&] { return loaded.has_value(); });
+    EXPECT_EQ(titles((*loaded)[0]), QStringList{"a"_s});
+    start(FileLayer::system(), TVListings::Loading::Held); // one that ends before it was let go does not hang
+}
+
 TEST_F(ShowQueriesTest, Categories)
 {
     store(one, {{"unclassified"_s, 0, 10, {}},

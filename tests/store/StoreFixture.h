@@ -112,12 +112,13 @@ class StoreTest : public ::testing::Test
 {
 protected:
     /// A store over the files of the folder, as after a start of the process.
-    void start(FileLayer& files = FileLayer::system())
+    void start(FileLayer& files = FileLayer::system(), TVListings::Loading loading = TVListings::Loading::AtOnce)
     {
         listings.reset();
-        listings = std::make_unique<TVListings>(
-            TVListings::Surroundings{clock, folder.path(), device, device, icons, device, device, device, files},
-            [this](SharedShowList merged) { refreshed.push_back(std::move(merged)); });
+        listings =
+            std::make_unique<TVListings>(TVListings::Surroundings{clock, folder.path(), device, device, icons, device,
+                                                                  device, device, files, nullptr, loading},
+                                         [this](SharedShowList merged) { refreshed.push_back(std::move(merged)); });
     }
     void store(const ObjectId& channel, const std::vector<TestShow>& shows)
     {
