@@ -119,7 +119,6 @@ TEST_F(WindowTest, RefreshesAChannelWhileAPassRuns)
     screen().select(0);
     DispatchQueue::runMain([&] { return !screen().isRoot(); });
     test::turn();
-    const int rows = screen().rows()->rowCount();
     m_device.delegate().checkAndUpdateAllChannels();
     QTest::keyClick(window(), Qt::Key_F5);
     EXPECT_TRUE(screen().refreshing());
@@ -127,7 +126,8 @@ TEST_F(WindowTest, RefreshesAChannelWhileAPassRuns)
     DispatchQueue::runMain([&] { return progress.isRunning(); });
     EXPECT_GE(progress.wanted(), 1);
     DispatchQueue::runMain([&] { return !screen().refreshing() && !progress.isRunning(); });
-    EXPECT_EQ(screen().rows()->rowCount(), rows);
+    EXPECT_GE(rowOfKind(utf8("show")), 0)
+        << "which of its sources answers last decides the number, never that there are none";
     m_device.quit();
 }
 
