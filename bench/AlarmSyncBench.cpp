@@ -2,9 +2,9 @@
 // events of the tenth of them that have an alarm, and 2 and 4 times as much. "per item" is the time for one of all
 // these; it stays where the time grows with their sum.
 #include "alarms/CalendarSynchronisation.h"
-#include "platform/FolderEventStore.h"
-#include "platform/ICalendarEvent.h"
-#include "platform/MemoryEventStore.h"
+#include "calendar/FolderEventStore.h"
+#include "calendar/ICalendarEvent.h"
+#include "calendar/MemoryEventStore.h"
 
 #include <QDir>
 #include <QFile>

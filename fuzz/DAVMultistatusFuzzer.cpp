@@ -1,4 +1,4 @@
-#include "platform/DAVMultistatus.h"
+#include "calendar/DAVMultistatus.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "platform/ICalendarEvent.h"
+#include "calendar/ICalendarEvent.h"
 
 #include <cstdlib>
 

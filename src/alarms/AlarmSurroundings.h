@@ -4,8 +4,8 @@
 #include "alarms/ShowCounters.h"
 #include "alarms/SilentHours.h"
 #include "alarms/TVShows.h"
+#include "calendar/EventStore.h"
 #include "platform/Clock.h"
-#include "platform/EventStore.h"
 #include "platform/UserDefaults.h"
 #include "store/StoreSurroundings.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "calendar/Event.h"
 #include "content/TVEntry.h"
-#include "platform/Event.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/EventStore.h"
+#include "calendar/EventStore.h"
 #include "platform/KeyValueStore.h"
 #include "platform/UserDefaults.h"
 

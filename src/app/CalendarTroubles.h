@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CalDAVClient.h"
+#include "calendar/CalDAVClient.h"
 
 namespace vidora {
 

@@ -1,8 +1,8 @@
 #include "app/Device.h"
 
+#include "calendar/FolderEventStore.h"
 #include "core/GuideImport.h"
 #include "platform/AtomicFile.h"
-#include "platform/FolderEventStore.h"
 #include "platform/KeyringSecretStore.h"
 #include "platform/Localized.h"
 #include "platform/Log.h"

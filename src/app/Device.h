@@ -2,10 +2,10 @@
 
 #include "app/CommandLine.h"
 #include "app/SampleRegionProcess.h"
+#include "calendar/CalendarAccounts.h"
 #include "core/OwnGuideSession.h"
 #include "core/VidoraAppDelegate.h"
 #include "platform/BlockOwner.h"
-#include "platform/CalendarAccounts.h"
 #include "platform/Clock.h"
 #include "platform/EmbeddedPublicDatabase.h"
 #include "platform/HomeLock.h"

@@ -59,9 +59,11 @@ VidoraAppDelegate::~VidoraAppDelegate()
 void VidoraAppDelegate::applicationDidFinishLaunching()
 {
     TVEntry::detectAlphabet(m_environment.clock.now());
-    m_loadQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.loadQueue"), QualityOfService::Background);
+    m_loadQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.loadQueue"), QualityOfService::Background,
+                                        TVListings::waitingRank - 1);
     m_loadSchedulesQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.loadSchedulesQueue"));
-    m_checkAndUpdateAllChannelsQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.checkAndUpdateAllChannels"));
+    m_checkAndUpdateAllChannelsQueue = DispatchQueue::serial(QStringLiteral("ostrel.tv.checkAndUpdateAllChannels"),
+                                                             QualityOfService::Default, TVListings::waitingRank - 2);
     m_icons = std::make_unique<TVStationIcons>(m_environment.iconFolder);
     loadCatalogue();
     if (!m_environment.readOnly)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/AlarmEngine.h"
+#include "calendar/MemoryEventStore.h"
 #include "core/AlarmMarks.h"
 #include "core/AlarmServices.h"
 #include "core/ChannelCatalogue.h"
@@ -19,7 +20,6 @@
 #include "platform/CachedURLSession.h"
 #include "platform/Clock.h"
 #include "platform/KeyValueStore.h"
-#include "platform/MemoryEventStore.h"
 #include "platform/NetworkActivity.h"
 #include "platform/NetworkAlerts.h"
 #include "platform/StandardFolders.h"

@@ -39,9 +39,9 @@ struct Entry
 class Line : public std::enable_shared_from_this<Line>
 {
 public:
-    Line(QString label, QualityOfService quality, Kind kind)
+    Line(QString label, QualityOfService quality, Kind kind, int waitingRank)
         : m_label(std::move(label))
-        , m_rank(waitingRank(m_label))
+        , m_rank(waitingRank)
         , m_kind(kind)
         , m_staysBelow(quality < QualityOfService::Default)
         , m_pool(WorkerPool::ofQuality(quality))
@@ -189,8 +189,8 @@ private:
 class PooledQueue final : public DispatchQueue
 {
 public:
-    PooledQueue(QString label, QualityOfService quality, Kind kind)
-        : m_line(std::make_shared<Line>(std::move(label), quality, kind))
+    PooledQueue(QString label, QualityOfService quality, Kind kind, int waitingRank)
+        : m_line(std::make_shared<Line>(std::move(label), quality, kind, waitingRank))
     {
     }
     ~PooledQueue() override { m_line->finish(); }
@@ -219,19 +219,19 @@ private:
 PooledQueue& makeGlobal(const char* label, QualityOfService quality)
 {
     // Never destroyed, as its threads end with the process.
-    return *new PooledQueue(QLatin1String(label), quality, Kind::Global);
+    return *new PooledQueue(QLatin1String(label), quality, Kind::Global, 0);
 }
 
 } // namespace
 
-std::shared_ptr<DispatchQueue> DispatchQueue::serial(QString label, QualityOfService quality)
+std::shared_ptr<DispatchQueue> DispatchQueue::serial(QString label, QualityOfService quality, int waitingRank)
 {
-    return std::make_shared<PooledQueue>(std::move(label), quality, Kind::Serial);
+    return std::make_shared<PooledQueue>(std::move(label), quality, Kind::Serial, waitingRank);
 }
 
-std::shared_ptr<DispatchQueue> DispatchQueue::concurrent(QString label, QualityOfService quality)
+std::shared_ptr<DispatchQueue> DispatchQueue::concurrent(QString label, QualityOfService quality, int waitingRank)
 {
-    return std::make_shared<PooledQueue>(std::move(label), quality, Kind::Concurrent);
+    return std::make_shared<PooledQueue>(std::move(label), quality, Kind::Concurrent, waitingRank);
 }
 
 DispatchQueue& DispatchQueue::global(QualityOfService quality)

@@ -28,7 +28,7 @@ enum class QualityOfService
 /// All operations may be called on any thread. A block that throws in `async` ends the process, as an uncaught
 /// exception does; one that throws in `sync` or `barrierSync` throws out of that call on the caller's thread. `sync`
 /// onto the queue that is running the caller would never return: a debug build asserts against it, and against waiting
-/// in another order than pass queue, `loadQueue`, the store's queues.
+/// for a queue of a lower rank than one whose block waits already.
 ///
 /// The block of a `sync` runs on the calling thread when its turn has come. Of a queue of class Background or Utility
 /// it runs on a thread of that class while the caller waits, so that heavy work stays below the rest of the machine.
@@ -40,9 +40,12 @@ class DispatchQueue
 public:
     using Block = std::function<void()>;
 
-    static std::shared_ptr<DispatchQueue> serial(QString label, QualityOfService quality = QualityOfService::Default);
-    static std::shared_ptr<DispatchQueue> concurrent(QString label,
-                                                     QualityOfService quality = QualityOfService::Default);
+    /// `waitingRank` is the queue's place in the order of waiting, from 1: its blocks may wait for queues of the same
+    /// rank or a higher one. A queue of rank 0 has no place in it.
+    static std::shared_ptr<DispatchQueue> serial(QString label, QualityOfService quality = QualityOfService::Default,
+                                                 int waitingRank = 0);
+    static std::shared_ptr<DispatchQueue>
+    concurrent(QString label, QualityOfService quality = QualityOfService::Default, int waitingRank = 0);
     /// The queue of Qt's event loop. Its blocks run, one for each turn of the loop, while the loop of the main thread
     /// does; those given before there is an application object wait for it, those left at the end never run.
     /// `sync` onto it from the main thread is an error.

@@ -13,27 +13,6 @@ namespace {
 thread_local const QueueFrame* innermostFrame = nullptr;
 } // namespace
 
-int waitingRank(QStringView label)
-{
-    struct Place
-    {
-        QLatin1String label;
-        int rank;
-    };
-    // The store's two queues stand beside each other: each may wait for the other.
-    static constexpr Place places[] = {
-        {QLatin1String("ostrel.tv.checkAndUpdateAllChannels"), 1},
-        {QLatin1String("ostrel.tv.loadQueue"), 2},
-        {QLatin1String("ostrel.listings.access"), 3},
-        {QLatin1String("ostrel.listings.file.io"), 3},
-    };
-    for (const Place& place : places) {
-        if (label == place.label)
-            return place.rank;
-    }
-    return 0;
-}
-
 QueueFrame::QueueFrame(const void* queue, int rank, const QueueFrame* outer)
     : m_queue(queue)
     , m_rank(rank)

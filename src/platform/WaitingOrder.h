@@ -6,9 +6,6 @@
 
 namespace vidora {
 
-/// A queue as the order of waiting sees it: 0 for queues that have no place in it.
-int waitingRank(QStringView label);
-
 /// Marks that the present thread runs a block of a queue, for as long as it lives. The frames of a thread form a chain
 /// from the innermost outwards; where another thread waits for this one, its chain continues this one's.
 class QueueFrame

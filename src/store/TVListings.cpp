@@ -8,8 +8,10 @@ namespace vidora {
 TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
     : m_surroundings(std::move(surroundings))
     , m_popularRefresh(std::move(popularRefresh))
-    , m_listingsDictionaryAccessQueue(DispatchQueue::concurrent(QStringLiteral("ostrel.listings.access")))
-    , m_fileIOQueue(DispatchQueue::serial(QStringLiteral("ostrel.listings.file.io"), QualityOfService::Background))
+    , m_listingsDictionaryAccessQueue(
+          DispatchQueue::concurrent(QStringLiteral("ostrel.listings.access"), QualityOfService::Default, waitingRank))
+    , m_fileIOQueue(
+          DispatchQueue::serial(QStringLiteral("ostrel.listings.file.io"), QualityOfService::Background, waitingRank))
     , m_isLoadHeld(m_surroundings.loading == Loading::Held)
 {
     if (m_isLoadHeld)

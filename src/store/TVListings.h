@@ -31,6 +31,9 @@ using ShowsByURL = std::unordered_map<URL, Show>;
 class TVListings final : public ListingReceiver
 {
 public:
+    /// Of both queues, which may wait for each other; a caller's queue ranks below, or has no rank.
+    static constexpr int waitingRank = 3;
+
     /// When the lists are read from their files.
     enum class Loading
     {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "alarms/AlarmEngine.h"
+#include "calendar/MemoryEventStore.h"
 #include "platform/EmbeddedPublicDatabase.h"
-#include "platform/MemoryEventStore.h"
 #include "store/StoreFixture.h"
 
 #include <map>

@@ -1,5 +1,5 @@
 #include "app/Program.h"
-#include "platform/CalDAVServer.h"
+#include "calendar/CalDAVServer.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>

@@ -1,9 +1,9 @@
 // From the provider's page to the calendar as another program sees it: a region that changes its mind, on both kinds of
 // calendar.
 #include "RegionDevice.h"
-#include "platform/CalDAVEventStore.h"
-#include "platform/CalDAVServer.h"
-#include "platform/FolderEventStore.h"
+#include "calendar/CalDAVEventStore.h"
+#include "calendar/CalDAVServer.h"
+#include "calendar/FolderEventStore.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

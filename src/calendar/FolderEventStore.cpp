@@ -1,0 +1,346 @@
+#include "calendar/FolderEventStore.h"
+
+#include "platform/Log.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+#include <tuple>
+
+namespace vidora {
+
+namespace {
+
+constexpr int maximalCalendars = 500;
+constexpr QLatin1String ownCalendar("vidora");
+
+QString identifierOf(const std::pair<QString, QString>& place)
+{
+    return place.first + QLatin1Char('/') + place.second;
+}
+
+/// The place that an identifier names; empty names for none. An identifier comes from outside: it must not lead out of
+/// its folder.
+std::pair<QString, QString> placeOf(const QString& identifier)
+{
+    const QStringList names = identifier.split(QLatin1Char('/'));
+    const bool plain =
+        names.size() == 2 && !names.at(0).startsWith(QLatin1Char('.')) && !names.at(1).startsWith(QLatin1Char('.'));
+    return plain ? std::pair(names.at(0), names.at(1)) : std::pair<QString, QString>();
+}
+
+QString identityOf(const URL& url)
+{
+    const QByteArray digest = QCryptographicHash::hash(url.text().toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(digest.first(16).toHex());
+}
+
+QString freshIdentity(Random& random)
+{
+    QByteArray bytes;
+    while (bytes.size() < 16)
+        bytes.append(static_cast<char>(random.uniform(256)));
+    return QString::fromLatin1(bytes.toHex());
+}
+
+EventStoreError failure(const QString& path, const FileError& error)
+{
+    return {QStringLiteral("%1: %2").arg(path, error.text)};
+}
+
+} // namespace
+
+FolderEventStore::FolderEventStore(QString folder, QString source, const Clock& clock, Random& random, FileLayer& layer)
+    : m_folder(std::move(folder))
+    , m_source(std::move(source))
+    , m_clock(clock)
+    , m_random(random)
+    , m_layer(layer)
+{
+}
+
+std::vector<FolderEventStore::Change> FolderEventStore::waitingChanges() const
+{
+    const std::lock_guard lock(m_mutex);
+    std::vector<Change> changes;
+    for (const auto& [place, change] : m_waiting)
+        changes.push_back({place.first, place.second, change.removed});
+    return changes;
+}
+
+AuthorizationStatus FolderEventStore::authorizationStatusForEntityType(EntityType) const
+{
+    const auto calendars = readCalendars();
+    if (std::any_of(calendars.begin(), calendars.end(), [](const Calendar& c) { return c.allowsContentModifications; }))
+        return AuthorizationStatus::Authorized;
+    return calendars.empty() ? AuthorizationStatus::NotDetermined : AuthorizationStatus::Denied;
+}
+
+void FolderEventStore::requestAccessToEntityType(EntityType type, const Completion& completion)
+{
+    std::optional<EventStoreError> error;
+    if (authorizationStatusForEntityType(type) != AuthorizationStatus::Authorized) {
+        const QString path = m_folder + QLatin1Char('/') + ownCalendar + QStringLiteral("/displayname");
+        if (const auto failed = AtomicFile::write(path, "Vidora", AtomicFile::Access::OwnerOnly,
+                                                  AtomicFile::Durability::Synced, m_layer))
+            error = failure(path, *failed);
+    }
+    completion(authorizationStatusForEntityType(type) == AuthorizationStatus::Authorized, error);
+}
+
+void FolderEventStore::reset()
+{
+    const std::lock_guard lock(m_mutex);
+    m_waiting.clear();
+    m_folders.clear();
+}
+
+void FolderEventStore::refreshSourcesIfNecessary() {}
+
+std::vector<Calendar> FolderEventStore::readCalendars() const
+{
+    std::vector<Calendar> calendars;
+    const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : names.mid(0, maximalCalendars))
+        calendars.push_back(CalendarFolder(m_folder + QLatin1Char('/') + name).describe(name, m_source));
+    std::sort(calendars.begin(), calendars.end(), [](const Calendar& a, const Calendar& b) {
+        return std::tie(a.title, a.calendarIdentifier) < std::tie(b.title, b.calendarIdentifier);
+    });
+    return calendars;
+}
+
+std::vector<Calendar> FolderEventStore::calendarsForEntityType(EntityType)
+{
+    return readCalendars();
+}
+
+std::optional<Calendar> FolderEventStore::calendarWithIdentifier(const QString& identifier)
+{
+    const QString path = m_folder + QLatin1Char('/') + identifier;
+    if (identifier.isEmpty() || identifier.startsWith(QLatin1Char('.')) || identifier.contains(QLatin1Char('/')) ||
+        !QFileInfo(path).isDir())
+        return std::nullopt;
+    return CalendarFolder(path).describe(identifier, m_source);
+}
+
+std::optional<Calendar> FolderEventStore::defaultCalendarForNewEvents()
+{
+    std::optional<Calendar> result;
+    for (const Calendar& calendar : readCalendars()) {
+        if (calendar.allowsContentModifications && (!result || calendar.calendarIdentifier == ownCalendar))
+            result = calendar;
+    }
+    return result;
+}
+
+CalendarFolder& FolderEventStore::folder(const QString& identifier)
+{
+    return m_folders.try_emplace(identifier, m_folder + QLatin1Char('/') + identifier).first->second;
+}
+
+Event FolderEventStore::complete(const Place& place, Event event, const Calendar& calendar) const
+{
+    event.eventIdentifier = identifierOf(place);
+    event.calendar = calendar;
+    return event;
+}
+
+std::vector<Event> FolderEventStore::eventsMatchingPredicate(const EventPredicate& predicate)
+{
+    const std::lock_guard lock(m_mutex);
+    std::vector<Event> events;
+    for (const Calendar& wanted : predicate.calendars) {
+        const auto calendar = calendarWithIdentifier(wanted.calendarIdentifier);
+        if (!calendar || !folder(calendar->calendarIdentifier).refresh())
+            throw EventStoreException(QStringLiteral("CalendarUnavailable"),
+                                      QStringLiteral("calendar %1 can't be read").arg(wanted.title));
+        const auto take = [&](const Place& place, const Event& event) {
+            if (predicate.touches(event.startDate, event.endDate))
+                events.push_back(complete(place, event, *calendar));
+        };
+        const QString& name = calendar->calendarIdentifier;
+        for (const auto& [file, stored] : folder(name).events()) {
+            if (!m_waiting.contains({name, file}))
+                take({name, file}, stored.event);
+        }
+        for (const auto& [place, change] : m_waiting) {
+            if (place.first == name && !change.removed)
+                take(place, change.event);
+        }
+    }
+    std::sort(events.begin(), events.end(), [](const Event& a, const Event& b) {
+        return std::tie(a.startDate, a.eventIdentifier) < std::tie(b.startDate, b.eventIdentifier);
+    });
+    return events;
+}
+
+std::optional<FolderEventStore::Found> FolderEventStore::find(const Place& place)
+{
+    const auto calendar = calendarWithIdentifier(place.first);
+    if (!calendar)
+        return std::nullopt;
+    if (const auto change = m_waiting.find(place); change != m_waiting.end()) {
+        if (change->second.removed)
+            return std::nullopt;
+        return Found{complete(place, change->second.event, *calendar)};
+    }
+    CalendarFolder& files = folder(place.first);
+    files.refresh(place.second);
+    const auto stored = files.events().find(place.second);
+    if (stored == files.events().end())
+        return std::nullopt;
+    return Found{complete(place, stored->second.event, *calendar), stored->second.single};
+}
+
+std::optional<Event> FolderEventStore::eventWithIdentifier(const QString& identifier)
+{
+    const std::lock_guard lock(m_mutex);
+    auto found = find(placeOf(identifier));
+    return found ? std::optional(std::move(found->event)) : std::nullopt;
+}
+
+/// Why the event can't be changed or removed.
+std::optional<EventStoreError> FolderEventStore::refusal(const Event& event)
+{
+    const auto calendar = calendarWithIdentifier(event.calendar.calendarIdentifier);
+    if (!calendar || !calendar->allowsContentModifications)
+        return EventStoreError{QStringLiteral("the calendar can't be written")};
+    if (event.eventIdentifier.isEmpty())
+        return std::nullopt;
+    const Place place = placeOf(event.eventIdentifier);
+    const auto found = find(place);
+    if (!found)
+        return EventStoreError{QStringLiteral("the event is gone")};
+    if (place.first != event.calendar.calendarIdentifier)
+        return EventStoreError{QStringLiteral("an event stays in its calendar")};
+    return found->single ? std::nullopt : std::optional(EventStoreError{QStringLiteral("the event repeats")});
+}
+
+void FolderEventStore::add(Event& event)
+{
+    QString uid = event.url ? identityOf(*event.url) : freshIdentity(m_random);
+    Place place{event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")};
+    const auto present = find(place);
+    if (present && present->single && event.url && present->event.url == event.url) { // be it moved by hand since
+        event.eventIdentifier = identifierOf(place);
+        const auto earlier = m_waiting.find(place);
+        m_waiting.insert_or_assign(place,
+                                   Waiting{event, uid, false, earlier != m_waiting.end() && earlier->second.added});
+        return;
+    }
+    if (folder(place.first).hasFile(place.second) || m_waiting.contains(place)) {
+        uid = freshIdentity(m_random);
+        place.second = uid + QStringLiteral(".ics");
+    }
+    event.eventIdentifier = identifierOf(place);
+    m_waiting.insert_or_assign(place, Waiting{event, uid, false, true});
+}
+
+std::optional<EventStoreError> FolderEventStore::saveEvent(Event& event, EventSpan, bool commit)
+{
+    const std::lock_guard lock(m_mutex);
+    if (auto error = refusal(event))
+        return error;
+    if (event.endDate < event.startDate)
+        return EventStoreError{QStringLiteral("the event ends before it starts")};
+    if (event.eventIdentifier.isEmpty()) {
+        add(event);
+    } else {
+        Waiting& change = m_waiting[placeOf(event.eventIdentifier)];
+        change.event = event;
+    }
+    return commit ? writeAll() : std::nullopt;
+}
+
+std::optional<EventStoreError> FolderEventStore::removeEvent(const Event& event, EventSpan, bool commit)
+{
+    const std::lock_guard lock(m_mutex);
+    if (event.eventIdentifier.isEmpty())
+        return EventStoreError{QStringLiteral("the event was never saved")};
+    if (auto error = refusal(event))
+        return error;
+    const Place place = placeOf(event.eventIdentifier);
+    if (const auto earlier = m_waiting.find(place); earlier != m_waiting.end() && earlier->second.added)
+        m_waiting.erase(earlier);
+    else
+        m_waiting.insert_or_assign(place, Waiting{event, {}, true, false});
+    return commit ? writeAll() : std::nullopt;
+}
+
+std::optional<EventStoreError> FolderEventStore::commit()
+{
+    const std::lock_guard lock(m_mutex);
+    return writeAll();
+}
+
+std::optional<EventStoreError> FolderEventStore::writeAll()
+{
+    std::optional<EventStoreError> first;
+    for (auto change = m_waiting.begin(); change != m_waiting.end();) {
+        const auto error = write(change->first, change->second);
+        if (!error) {
+            change = m_waiting.erase(change);
+            continue;
+        }
+        Log::line(QStringLiteral("calendar not written: %1").arg(error->localizedDescription));
+        if (!first)
+            first = error;
+        ++change;
+    }
+    return first;
+}
+
+/// Applies a change to what lies on the disk now: another program may have been there since the change was made.
+std::optional<EventStoreError> FolderEventStore::write(const Place& place, const Waiting& change)
+{
+    const QString path = m_folder + QLatin1Char('/') + identifierOf(place);
+    if (change.removed)
+        return removeFile(place, path);
+    if (!QFile::exists(path)) {
+        if (change.added)
+            return writeFile(path, ICalendarEvent::write(change.uid, change.event, m_clock.now()));
+        Log::line(QStringLiteral("calendar event %1 was removed elsewhere and stays so").arg(path));
+        return std::nullopt;
+    }
+    const auto bytes = AtomicFile::read(path, ICalendarEvent::maximumSize);
+    const auto present = bytes ? ICalendarEvent::read(*bytes) : std::nullopt;
+    if (!present || !present->single) {
+        Log::line(QStringLiteral("calendar event %1 was changed elsewhere and is left alone").arg(path));
+        return std::nullopt;
+    }
+    const auto changed = ICalendarEvent::change(*bytes, change.event, m_clock.now());
+    return changed ? writeFile(path, *changed) : std::nullopt;
+}
+
+std::optional<EventStoreError> FolderEventStore::writeFile(const QString& path, const QByteArray& bytes)
+{
+    // A calendar that its owner shares with others stays shared.
+    const bool shared = QFileInfo(path).permission(QFile::ReadOther);
+    const auto error =
+        AtomicFile::write(path, bytes, shared ? AtomicFile::Access::Everyone : AtomicFile::Access::OwnerOnly,
+                          AtomicFile::Durability::Synced, m_layer);
+    return error ? std::optional(failure(path, *error)) : std::nullopt;
+}
+
+std::optional<EventStoreError> FolderEventStore::removeFile(const Place& place, const QString& path)
+{
+    const auto bytes = AtomicFile::read(path, ICalendarEvent::maximumSize);
+    const auto present = bytes ? ICalendarEvent::read(*bytes) : std::nullopt;
+    if (QFile::exists(path) && (!present || !present->single)) {
+        Log::line(QStringLiteral("calendar event %1 was changed elsewhere and is left alone").arg(path));
+        return std::nullopt;
+    }
+    int error = m_layer.remove(path);
+    if (error == 0 || error == ENOENT)
+        error = m_layer.syncFolder(m_folder + QLatin1Char('/') + place.first);
+    if (error == 0)
+        return std::nullopt;
+    return failure(path, {error, QString::fromStdString(std::generic_category().message(error))});
+}
+
+} // namespace vidora
