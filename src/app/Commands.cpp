@@ -9,6 +9,7 @@
 #include "app/Progress.h"
 #include "app/ShowPrinter.h"
 #include "content/TVListingsCategory.h"
+#include "core/ChannelFace.h"
 #include "platform/Localized.h"
 #include "platform/Log.h"
 #include "screens/AllChannelsViewController.h"
@@ -173,11 +174,11 @@ int CommandRun::now()
         return 0;
     }
     QJsonArray array;
-    for (std::size_t i = 0; i < home.numberOfSections(); ++i) {
-        const ObjectId& channel = home.selectedChannelsArray()[i];
+    for (const RootViewController::Section& section : home.sections()) {
+        const ObjectId& channel = section.channel.channel;
         array.append(QJsonObject{{QStringLiteral("channel"), channel.hex()},
                                  {QStringLiteral("channelTitle"), titleOf(channel, catalogue())},
-                                 {QStringLiteral("shows"), printer.json(home.channelEntries()[i])}});
+                                 {QStringLiteral("shows"), printer.json(section.entries)}});
     }
     printJson({{QStringLiteral("channels"), array}});
     return 0;
@@ -208,7 +209,7 @@ int CommandRun::channel()
     });
     if (m_line.json || list->empty())
         return printShows(*list);
-    const ChannelViewController screen(delegate(), titleOf(id, catalogue()), *list, {}, id);
+    const ChannelViewController screen(delegate(), channelFace(id, catalogue()), *list);
     printText(ShowPrinter(catalogue()).screen(screen));
     return 0;
 }

@@ -29,7 +29,7 @@ std::optional<Icon> splitIcon(const ChannelDictionary& channel)
 {
     const QString icon = channel.icon().value_or(QString());
     const qsizetype slash = icon.indexOf(QLatin1Char('/'));
-    if (slash <= 0 || slash == icon.size() - 1)
+    if (slash < 0 || slash == icon.size() - 1)
         return std::nullopt;
     return Icon{icon.left(slash), icon.mid(slash + 1)};
 }
@@ -154,11 +154,8 @@ std::optional<QString> ChannelDictionary::text(QLatin1String key) const
 
 std::optional<QString> ChannelDictionary::iconFileName() const
 {
-    const QString value = icon().value_or(QString());
-    const qsizetype slash = value.indexOf(QLatin1Char('/'));
-    if (slash < 0 || slash == value.size() - 1)
-        return std::nullopt;
-    return value.mid(slash + 1);
+    const auto icon = splitIcon(*this);
+    return icon ? std::optional(icon->name) : std::nullopt;
 }
 
 std::vector<QString> ChannelDictionary::sources() const

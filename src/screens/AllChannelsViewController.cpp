@@ -3,6 +3,7 @@
 #include "content/TextFolding.h"
 #include "platform/DeviceSettings.h"
 #include "screens/Navigation.h"
+#include "screens/ShowRows.h"
 
 #include <QTextBoundaryFinder>
 
@@ -42,10 +43,10 @@ void AllChannelsViewController::filter()
         return;
     const FoldedText pattern(m_searchText);
     for (const OfferedChannel& channel : (*m_groups)[m_selectedSubmenu - 1].channels) {
-        if (!m_searchText.isEmpty() && !contains(channel.title, pattern.units()) &&
+        if (!m_searchText.isEmpty() && !contains(channel.face.catalogueTitle, pattern.units()) &&
             !contains(channel.language, pattern.units()))
             continue;
-        const QString letter = letterOf(channel.title);
+        const QString letter = letterOf(channel.face.catalogueTitle);
         const auto isOfLetter = [&](const Letter& section) { return section.title == letter; };
         auto section = std::find_if(m_sections.rbegin(), m_sections.rend(), isOfLetter);
         if (section == m_sections.rend()) {
@@ -86,11 +87,9 @@ ScreenRow AllChannelsViewController::rowAt(RowPath path) const
         row.accessory = Accessory::Disclosure;
         return row;
     }
-    const OfferedChannel& channel = channelAt(path);
-    row.kind = ScreenRow::Kind::Channel;
-    row.text = channel.title;
-    row.icon = m_delegate.icons().iconNamed(channel.iconFileName).value_or(QString());
-    row.accessory = isSelected(channel.channelId) ? Accessory::Checkmark : Accessory::None;
+    const ChannelFace& channel = channelAt(path);
+    row = channelRow(m_delegate, channel);
+    row.accessory = isSelected(channel.channel) ? Accessory::Checkmark : Accessory::None;
     return row;
 }
 
@@ -102,7 +101,7 @@ void AllChannelsViewController::selectRow(RowPath path)
         presentFrom(m_delegate, *this, std::make_shared<AllChannelsViewController>(m_delegate, m_groups, path.row + 1));
         return;
     }
-    toggle(channelAt(path).channelId);
+    toggle(channelAt(path).channel);
     reloadRows(path.section, path.row, 1);
 }
 

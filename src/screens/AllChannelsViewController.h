@@ -29,7 +29,7 @@ public:
     void setSearchText(const QString& text) override;
 
     /// The channel of a row; not in the menu of groups.
-    const OfferedChannel& channelAt(RowPath path) const { return *m_sections[path.section].channels[path.row]; }
+    const ChannelFace& channelAt(RowPath path) const { return m_sections[path.section].channels[path.row]->face; }
     bool isSelected(const ObjectId& channel) const;
 
 private:

@@ -25,15 +25,17 @@ void removeTitlesOf(const ChannelGroup& first, ChannelGroup& later)
 {
     std::unordered_set<QString> titles;
     for (const OfferedChannel& channel : first.channels)
-        titles.insert(channel.title);
-    std::erase_if(later.channels, [&](const OfferedChannel& channel) { return titles.contains(channel.title); });
+        titles.insert(channel.face.catalogueTitle);
+    std::erase_if(later.channels,
+                  [&](const OfferedChannel& channel) { return titles.contains(channel.face.catalogueTitle); });
 }
 
 void sortByTitle(std::vector<OfferedChannel>& channels)
 {
-    std::stable_sort(channels.begin(), channels.end(),
-                     [](const auto& a, const auto& b) { return titleLess(a.title, b.title); });
-    const auto sameTitle = [](const auto& a, const auto& b) { return a.title == b.title; };
+    std::stable_sort(channels.begin(), channels.end(), [](const auto& a, const auto& b) {
+        return titleLess(a.face.catalogueTitle, b.face.catalogueTitle);
+    });
+    const auto sameTitle = [](const auto& a, const auto& b) { return a.face.catalogueTitle == b.face.catalogueTitle; };
     channels.erase(std::unique(channels.begin(), channels.end(), sameTitle), channels.end());
 }
 
@@ -58,12 +60,10 @@ std::vector<ChannelGroup> channelGroups(const ChannelData& channelData)
 {
     ChannelGroup all{other, {}};
     for (const auto& [id, channel] : channelData)
-        all.channels.push_back({id, channel.title().value_or(QString()), channel.language().value_or(QString()),
-                                channel.iconFileName().value_or(QString()),
-                                !channel.stream().value_or(QString()).isEmpty()});
+        all.channels.push_back({channelFace(id, channelData), channel.language().value_or(QString())});
     // Of channels with one title the same one is to stay at every launch.
     std::sort(all.channels.begin(), all.channels.end(),
-              [](const auto& a, const auto& b) { return a.channelId < b.channelId; });
+              [](const auto& a, const auto& b) { return a.face.channel < b.face.channel; });
     return all.channels.empty() ? std::vector<ChannelGroup>() : arrangedGroups({std::move(all)});
 }
 

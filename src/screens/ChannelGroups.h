@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ChannelCatalogue.h"
+#include "core/ChannelFace.h"
 
 #include <QString>
 
@@ -11,11 +11,8 @@ namespace vidora {
 /// A channel as the chooser offers it.
 struct OfferedChannel
 {
-    ObjectId channelId;
-    QString title;
+    ChannelFace face;
     QString language;
-    QString iconFileName;
-    bool hasStreamURL = false;
 };
 
 struct ChannelGroup

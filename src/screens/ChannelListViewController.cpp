@@ -1,46 +1,30 @@
 #include "screens/ChannelListViewController.h"
 
 #include "screens/Navigation.h"
-#include "screens/RootViewController.h"
-
-#include <algorithm>
+#include "screens/ShowRows.h"
 
 namespace vidora {
 
-ChannelListViewController::ChannelListViewController(VidoraAppDelegate& delegate, std::vector<ObjectId> identificators,
-                                                     std::vector<QString> titles, std::vector<QString> icons,
-                                                     std::vector<QString> iconNames)
+ChannelListViewController::ChannelListViewController(VidoraAppDelegate& delegate, std::vector<ChannelFace> channels,
+                                                     Chosen chosen)
     : m_delegate(delegate)
-    , m_channelIdentificators(std::move(identificators))
-    , m_channelTitles(std::move(titles))
-    , m_channelIcons(std::move(icons))
-    , m_channelIconNames(std::move(iconNames))
+    , m_channels(std::move(channels))
+    , m_chosen(std::move(chosen))
 {
 }
 
 ScreenRow ChannelListViewController::rowAt(RowPath path) const
 {
-    ScreenRow row;
-    row.kind = ScreenRow::Kind::Channel;
-    row.text = m_channelTitles[path.row];
-    row.icon = m_channelIcons[path.row];
-    return row;
+    return channelRow(m_delegate, m_channels[path.row]);
 }
 
 void ChannelListViewController::selectRow(RowPath path)
 {
-    if (path.row >= m_channelIdentificators.size())
+    if (path.row >= m_channels.size())
         return;
-    const ObjectId channel = m_channelIdentificators[path.row];
-    const QString title = m_channelTitles[path.row], iconName = m_channelIconNames[path.row];
-    auto* home = dynamic_cast<RootViewController*>(homeScreen(m_delegate));
+    const auto chosen = [chosen = m_chosen, channel = m_channels[path.row]] { chosen(channel); };
     dismiss(m_delegate, *this); // this screen may be gone from here on
-    if (!home)
-        return;
-    if (home->hasStream(channel) && !home->hasShows(channel))
-        home->play(channel);
-    else
-        home->selectedChannelIdentificator(channel, title, iconName);
+    chosen();
 }
 
 } // namespace vidora

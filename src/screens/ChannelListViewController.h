@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ChannelFace.h"
 #include "core/VidoraAppDelegate.h"
 #include "screens/ScreenModel.h"
 
@@ -9,20 +10,21 @@ namespace vidora {
 class ChannelListViewController final : public ScreenModel
 {
 public:
-    /// The four lists are of one length. The delegate outlives the screen.
-    ChannelListViewController(VidoraAppDelegate& delegate, std::vector<ObjectId> identificators,
-                              std::vector<QString> titles, std::vector<QString> icons, std::vector<QString> iconNames);
+    /// Called once the list is gone again, if it was left by choosing.
+    using Chosen = std::function<void(const ChannelFace& channel)>;
+
+    /// The delegate outlives the screen.
+    ChannelListViewController(VidoraAppDelegate& delegate, std::vector<ChannelFace> channels, Chosen chosen);
 
     QString title() const override { return localized("Channels"); }
-    std::size_t numberOfRowsInSection(std::size_t) const override { return m_channelIdentificators.size(); }
+    std::size_t numberOfRowsInSection(std::size_t) const override { return m_channels.size(); }
     ScreenRow rowAt(RowPath path) const override;
-    /// Goes back and opens the channel, or plays it when it has a stream and no shows.
     void selectRow(RowPath path) override;
 
 private:
     VidoraAppDelegate& m_delegate;
-    const std::vector<ObjectId> m_channelIdentificators;
-    const std::vector<QString> m_channelTitles, m_channelIcons, m_channelIconNames;
+    const std::vector<ChannelFace> m_channels;
+    const Chosen m_chosen;
 };
 
 } // namespace vidora

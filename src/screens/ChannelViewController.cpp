@@ -9,17 +9,11 @@
 
 namespace vidora {
 
-ChannelViewController::ChannelViewController(VidoraAppDelegate& delegate, QString title, const ShowList& entries,
-                                             QString channelIconName, const ObjectId& channel)
+ChannelViewController::ChannelViewController(VidoraAppDelegate& delegate, ChannelFace channel, const ShowList& entries)
     : m_delegate(delegate)
-    , m_channelTitle(std::move(title))
-    , m_channelIconName(std::move(channelIconName))
-    , m_channel(channel)
+    , m_channel(std::move(channel))
 {
-    const auto found = m_delegate.channelData().find(channel);
-    if (found != m_delegate.channelData().end())
-        m_streamURL = streamURL(found->second);
-    const auto object = m_delegate.channels().channelWithChannelId(channel);
+    const auto object = m_delegate.channels().channelWithChannelId(m_channel.channel);
     m_isRefreshing = object && (object->loading() || object->reloadNeeded());
     initializeContentWithEntriesArray(entries);
 }
@@ -48,7 +42,7 @@ std::vector<BarButton> ChannelViewController::rightBarButtonItems() const
         buttons.push_back({BarButton::Kind::Activity, localized("Loading"), {}});
     else
         buttons.push_back({BarButton::Kind::Refresh, localized("Refresh"), [self] { self->refresh(); }});
-    if (m_streamURL)
+    if (m_channel.streamURL)
         buttons.push_back({BarButton::Kind::Play, localized("Play"), [self] { self->play(); }});
     return buttons;
 }
@@ -81,7 +75,7 @@ ScreenRow ChannelViewController::rowAt(RowPath path) const
 void ChannelViewController::selectRow(RowPath path)
 {
     if (const Show* show = showAt(path))
-        pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, m_channelIconName));
+        pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, m_channel.iconName));
 }
 
 std::vector<SwipeAction> ChannelViewController::swipeActions(RowPath path)
@@ -99,17 +93,17 @@ void ChannelViewController::setRefreshing(bool isRefreshing)
 void ChannelViewController::refresh()
 {
     setRefreshing(true);
-    if (const auto object = m_delegate.channels().channelWithChannelId(m_channel))
+    if (const auto object = m_delegate.channels().channelWithChannelId(m_channel.channel))
         object->unload();
     m_delegate.checkAndUpdateAllChannels();
 }
 
 void ChannelViewController::reloadChannelData()
 {
-    const auto object = m_delegate.channels().channelWithChannelId(m_channel);
+    const auto object = m_delegate.channels().channelWithChannelId(m_channel.channel);
     if (!object || object->loading() || object->reloadNeeded())
         return;
-    m_delegate.listings().cachedListForChannel(m_channel, QualityOfService::Default,
+    m_delegate.listings().cachedListForChannel(m_channel.channel, QualityOfService::Default,
                                                m_mainBlocks.guarded([this](const SharedShowList& list) {
                                                    reloadData([&] { initializeContentWithEntriesArray(*list); });
                                                    setRefreshing(false);
@@ -118,7 +112,7 @@ void ChannelViewController::reloadChannelData()
 
 void ChannelViewController::passEnded(const std::vector<ObjectId>& failed)
 {
-    if (m_isRefreshing && std::find(failed.begin(), failed.end(), m_channel) != failed.end())
+    if (m_isRefreshing && std::find(failed.begin(), failed.end(), m_channel.channel) != failed.end())
         setRefreshing(false);
 }
 
@@ -136,8 +130,8 @@ void ChannelViewController::recolor()
 
 void ChannelViewController::play()
 {
-    if (m_streamURL && m_delegate.playURL)
-        m_delegate.playURL(*m_streamURL);
+    if (m_channel.streamURL && m_delegate.playURL)
+        m_delegate.playURL(*m_channel.streamURL);
 }
 
 } // namespace vidora

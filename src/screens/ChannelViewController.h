@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ChannelFace.h"
 #include "core/ScreenProtocols.h"
 #include "core/VidoraAppDelegate.h"
 #include "platform/BlockOwner.h"
@@ -17,10 +18,9 @@ class ChannelViewController final : public ScreenModel,
 {
 public:
     /// `entries` in the order of time. The delegate outlives the screen.
-    ChannelViewController(VidoraAppDelegate& delegate, QString title, const ShowList& entries, QString channelIconName,
-                          const ObjectId& channel);
+    ChannelViewController(VidoraAppDelegate& delegate, ChannelFace channel, const ShowList& entries);
 
-    QString title() const override { return m_channelTitle; }
+    QString title() const override { return m_channel.title; }
     std::vector<BarButton> rightBarButtonItems() const override;
     std::size_t numberOfSections() const override { return m_sortedGroupKeys.size(); }
     std::size_t numberOfRowsInSection(std::size_t section) const override;
@@ -48,9 +48,7 @@ private:
     const Show* showAt(RowPath path) const;
 
     VidoraAppDelegate& m_delegate;
-    const QString m_channelTitle, m_channelIconName;
-    const ObjectId m_channel;
-    std::optional<URL> m_streamURL;
+    const ChannelFace m_channel;
     std::unordered_map<QString, ShowList> m_groups;
     std::vector<QString> m_sortedGroupKeys;
     bool m_isRefreshing = false;

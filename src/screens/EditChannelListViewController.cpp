@@ -40,18 +40,10 @@ void EditChannelListViewController::willAppear()
 
 ScreenRow EditChannelListViewController::rowAt(RowPath path) const
 {
-    ScreenRow row;
-    row.kind = ScreenRow::Kind::Channel;
+    ScreenRow row = channelRow(m_delegate, channelFace(m_selected[path.row], m_delegate.channelData()));
     row.selectable = false;
     row.deletable = true;
     row.movable = true;
-    const auto found = m_delegate.channelData().find(m_selected[path.row]);
-    if (found == m_delegate.channelData().end()) {
-        row.text = QStringLiteral("?");
-        return row;
-    }
-    row.text = channelTitle(found->second);
-    row.icon = m_delegate.icons().iconNamed(found->second.iconFileName().value_or(QString())).value_or(QString());
     return row;
 }
 

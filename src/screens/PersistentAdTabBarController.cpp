@@ -1,5 +1,6 @@
 #include "screens/PersistentAdTabBarController.h"
 
+#include "core/ChannelFace.h"
 #include "screens/DetailViewController.h"
 #include "screens/EditChannelListViewController.h"
 #include "screens/PlainViewController.h"
@@ -158,12 +159,10 @@ void PersistentAdTabBarController::back()
 void PersistentAdTabBarController::openURL(const URL& url)
 {
     m_delegate.listings().showWithURL(url, m_mainBlocks.guarded([this](const Show& show) {
-        const auto channel = m_delegate.channelData().find(show->entry->channel());
-        const QString iconName =
-            channel == m_delegate.channelData().end() ? QString() : channel->second.iconFileName().value_or(QString());
+        const ChannelFace channel = channelFace(show->entry->channel(), m_delegate.channelData());
         m_tabBar.dismissPopover();
         if (const auto navigation = navigationOf(m_tabBar.selectedViewController()))
-            navigation->pushViewController(std::make_shared<DetailViewController>(show, iconName));
+            navigation->pushViewController(std::make_shared<DetailViewController>(show, channel.iconName));
     }));
 }
 

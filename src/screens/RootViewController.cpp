@@ -15,8 +15,6 @@ namespace vidora {
 
 namespace {
 
-constexpr Milliseconds pictureDelay{200}; // rows that are scrolled past quickly fetch nothing
-
 TextAttributes headerAttributes()
 {
     TextAttributes attributes;
@@ -27,15 +25,11 @@ TextAttributes headerAttributes()
     return attributes;
 }
 
-QString identifierOf(const Show& show)
-{
-    return show->entry->identificator().value_or(QString());
-}
-
 } // namespace
 
 RootViewController::RootViewController(VidoraAppDelegate& delegate)
     : m_delegate(delegate)
+    , m_pictures(delegate, *this)
 {
 }
 
@@ -53,14 +47,6 @@ std::vector<BarButton> RootViewController::rightBarButtonItems() const
 QString RootViewController::placeholder() const
 {
     return m_hasContent ? localized("Choose the channels you want to see in the tab \"Channels\".") : QString();
-}
-
-void RootViewController::viewDidLoad()
-{
-    for (const auto& [id, channel] : m_delegate.channelData()) {
-        if (const auto url = streamURL(channel))
-            m_streams.emplace(id, *url);
-    }
 }
 
 void RootViewController::viewDidAppear()
@@ -83,18 +69,15 @@ void RootViewController::refresh()
     m_delegate.checkAndUpdateAllChannels();
 }
 
-RootViewController::Headers RootViewController::headersOf(const std::vector<ObjectId>& channels) const
+RootViewController::Sections RootViewController::sectionsOf(const std::vector<ObjectId>& channels) const
 {
-    Headers headers;
+    Sections sections;
     for (const ObjectId& id : channels) {
-        const auto found = m_delegate.channelData().find(id);
-        const bool isKnown = found != m_delegate.channelData().end();
-        const QString icon = isKnown ? found->second.icon().value_or(QString()) : QString();
-        headers.titles.push_back(isKnown ? channelTitle(found->second) : QStringLiteral("?"));
-        headers.iconNames.push_back(icon.mid(icon.indexOf(QLatin1Char('/')) + 1));
-        headers.icons.push_back(m_delegate.icons().iconNamed(headers.iconNames.back()).value_or(QString()));
+        ChannelFace face = channelFace(id, m_delegate.channelData());
+        QString icon = m_delegate.icons().iconNamed(face.iconName).value_or(QString());
+        sections.push_back({std::move(face), std::move(icon), {}});
     }
-    return headers;
+    return sections;
 }
 
 void RootViewController::selectedChannelsChanged()
@@ -104,40 +87,35 @@ void RootViewController::selectedChannelsChanged()
     // No list may arrive between the question and the answer: it would be lost under the answer.
     auto pause = m_delegate.pauseLoading();
     m_channelEntriesLoaded = true;
-    const auto selection = m_delegate.channels().selected();
     m_delegate.listings().onAirShowsWithQueue(
         DispatchQueue::main(),
-        m_mainBlocks.guarded([this, selection, headers = headersOf(selection), pause](std::vector<ShowList> entries) {
-            show(selection, headers, std::move(entries));
-        }));
+        m_mainBlocks.guarded([this, sections = sectionsOf(m_delegate.channels().selected()),
+                              pause](std::vector<ShowList> entries) { show(sections, std::move(entries)); }));
 }
 
 // The lists may take long to load. What the beginnings of their files tell stands there until then.
 void RootViewController::showFirstRows()
 {
-    const auto selection = m_delegate.channels().selected();
     m_delegate.listings().onAirShowsOfFilesWithQueue(
-        DispatchQueue::main(),
-        m_mainBlocks.guarded([this, selection, headers = headersOf(selection)](std::vector<ShowList> entries) {
+        DispatchQueue::main(), m_mainBlocks.guarded([this, sections = sectionsOf(m_delegate.channels().selected())](
+                                                        std::vector<ShowList> entries) {
             if (!m_hasContent)
-                show(selection, headers, std::move(entries));
+                show(sections, std::move(entries));
         }));
 }
 
-void RootViewController::show(const std::vector<ObjectId>& channels, const Headers& headers,
-                              std::vector<ShowList> entries)
+void RootViewController::show(Sections sections, std::vector<ShowList> entries)
 {
-    entries.resize(channels.size());
-    const auto isAlike = [](const ShowList& a, const ShowList& b) { return a.size() == b.size(); };
+    entries.resize(sections.size());
+    for (std::size_t i = 0; i < sections.size(); ++i)
+        sections[i].entries = std::move(entries[i]);
+    const auto isAlike = [](const Section& a, const Section& b) {
+        return a.channel.channel == b.channel.channel && a.entries.size() == b.entries.size();
+    };
     const bool rowsStay =
-        m_hasContent && channels == m_selectedChannelsArray &&
-        std::equal(entries.begin(), entries.end(), m_channelEntries.begin(), m_channelEntries.end(), isAlike);
+        m_hasContent && std::equal(sections.begin(), sections.end(), m_sections.begin(), m_sections.end(), isAlike);
     const auto change = [&] {
-        m_selectedChannelsArray = channels;
-        m_channelTitles = headers.titles;
-        m_channelIcons = headers.icons;
-        m_channelIconNames = headers.iconNames;
-        m_channelEntries = std::move(entries);
+        m_sections = std::move(sections);
         m_hasContent = true;
     };
     if (rowsStay) { // a view keeps its place then
@@ -152,29 +130,24 @@ void RootViewController::show(const std::vector<ObjectId>& channels, const Heade
 
 std::size_t RootViewController::numberOfRowsInSection(std::size_t section) const
 {
-    return m_channelEntries[section].size() + 1;
+    return m_sections[section].entries.size() + 1;
 }
 
 const Show* RootViewController::showAt(RowPath path) const
 {
-    if (path.section >= m_channelEntries.size() || path.row == 0)
+    if (path.section >= m_sections.size() || path.row == 0)
         return nullptr;
-    const ShowList& entries = m_channelEntries[path.section];
+    const ShowList& entries = m_sections[path.section].entries;
     return path.row <= entries.size() ? &entries[path.row - 1] : nullptr;
 }
 
 std::optional<std::size_t> RootViewController::sectionOf(const ObjectId& channel) const
 {
-    const auto found = std::find(m_selectedChannelsArray.begin(), m_selectedChannelsArray.end(), channel);
-    if (found == m_selectedChannelsArray.end())
+    const auto found = std::find_if(m_sections.begin(), m_sections.end(),
+                                    [&](const Section& section) { return section.channel.channel == channel; });
+    if (found == m_sections.end())
         return std::nullopt;
-    return static_cast<std::size_t>(found - m_selectedChannelsArray.begin());
-}
-
-bool RootViewController::hasShows(const ObjectId& channel) const
-{
-    const auto section = sectionOf(channel);
-    return section && !m_channelEntries[*section].empty();
+    return static_cast<std::size_t>(found - m_sections.begin());
 }
 
 AttributedText RootViewController::updatedText(const ObjectId& channel) const
@@ -190,17 +163,18 @@ AttributedText RootViewController::updatedText(const ObjectId& channel) const
     return text;
 }
 
-ScreenRow RootViewController::headerRow(std::size_t section) const
+ScreenRow RootViewController::headerRow(const Section& section) const
 {
-    const ObjectId& channel = m_selectedChannelsArray[section];
-    const bool hasShows = !m_channelEntries[section].empty();
+    const bool hasShows = !section.entries.empty();
     ScreenRow row;
     row.kind = ScreenRow::Kind::Header;
-    row.text.append(m_channelTitles[section], headerAttributes());
-    row.subtitle = updatedText(channel);
+    row.text.append(section.channel.title, headerAttributes());
+    row.subtitle = updatedText(section.channel.channel);
     row.backgroundColour = colour::tertiaryFill;
-    row.icon = m_channelIcons[section];
-    row.accessory = hasStream(channel) ? Accessory::Play : hasShows ? Accessory::Disclosure : Accessory::Activity;
+    row.icon = section.icon;
+    row.accessory = section.channel.streamURL ? Accessory::Play
+                    : hasShows                ? Accessory::Disclosure
+                                              : Accessory::Activity;
     row.selectable = hasShows;
     return row;
 }
@@ -215,73 +189,73 @@ std::optional<double> RootViewController::progressOf(const TVEntry& entry) const
     return progress >= 0 && progress <= 1 ? std::optional(progress) : std::nullopt;
 }
 
-std::optional<ShowImage> RootViewController::imageOf(const ObjectId& channel, const Show& show) const
-{
-    const auto images = m_showImages.find(channel);
-    if (images == m_showImages.end())
-        return std::nullopt;
-    const auto found = images->second.find(identifierOf(show));
-    return found == images->second.end() ? std::nullopt : std::optional(found->second);
-}
-
 ScreenRow RootViewController::rowAt(RowPath path) const
 {
     if (path.row == 0)
-        return headerRow(path.section);
+        return headerRow(m_sections[path.section]);
     const Show* show = showAt(path);
     if (!show)
         return {};
     const auto progress = progressOf(*(*show)->entry);
     ScreenRow row = showRow(m_delegate, *show, progress.has_value());
     if (m_delegate.imagesEnabled())
-        row.picture = imageOf(m_selectedChannelsArray[path.section], *show).value_or(ShowImage());
+        row.picture = m_pictures.imageOf(m_sections[path.section].channel.channel, *show).value_or(ShowImage());
     row.progress = progress;
     return row;
 }
 
 void RootViewController::selectRow(RowPath path)
 {
-    if (path.section >= m_channelEntries.size())
+    if (path.section >= m_sections.size())
         return;
-    const ObjectId& channel = m_selectedChannelsArray[path.section];
-    const QString& iconName = m_channelIconNames[path.section];
+    const Section& section = m_sections[path.section];
     if (const Show* show = showAt(path))
-        pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, iconName));
-    else if (path.row == 0 && m_channelEntries[path.section].empty() && hasStream(channel))
-        play(channel);
+        pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, section.channel.iconName));
+    else if (path.row == 0 && section.entries.empty() && section.channel.streamURL)
+        play(section.channel);
     else if (path.row == 0)
-        selectedChannelIdentificator(channel, m_channelTitles[path.section], iconName);
+        selectedChannelIdentificator(section.channel);
 }
 
 void RootViewController::accessoryTapped(RowPath path)
 {
-    if (path.row == 0 && path.section < m_selectedChannelsArray.size())
-        play(m_selectedChannelsArray[path.section]);
+    if (path.row == 0 && path.section < m_sections.size())
+        play(m_sections[path.section].channel);
 }
 
-void RootViewController::play(const ObjectId& channel)
+void RootViewController::play(const ChannelFace& channel)
 {
-    const auto stream = m_streams.find(channel);
-    if (stream != m_streams.end() && m_delegate.playURL)
-        m_delegate.playURL(stream->second);
+    if (channel.streamURL && m_delegate.playURL)
+        m_delegate.playURL(*channel.streamURL);
 }
 
 void RootViewController::list()
 {
+    std::vector<ChannelFace> channels;
+    for (const Section& section : m_sections)
+        channels.push_back(section.channel);
     presentFrom(m_delegate, *this,
-                std::make_shared<ChannelListViewController>(m_delegate, m_selectedChannelsArray, m_channelTitles,
-                                                            m_channelIcons, m_channelIconNames));
+                std::make_shared<ChannelListViewController>(
+                    m_delegate, std::move(channels),
+                    m_mainBlocks.guarded([this](const ChannelFace& channel) { chosenInList(channel); })));
 }
 
-void RootViewController::selectedChannelIdentificator(const ObjectId& channel, const QString& title,
-                                                      const QString& channelIconName)
+void RootViewController::chosenInList(const ChannelFace& channel)
+{
+    const ShowList* entries = entriesOf(channel.channel);
+    if (channel.streamURL && (!entries || entries->empty()))
+        play(channel);
+    else
+        selectedChannelIdentificator(channel);
+}
+
+void RootViewController::selectedChannelIdentificator(const ChannelFace& channel)
 {
     m_delegate.listings().cachedListForChannel(
-        channel, QualityOfService::UserInitiated,
-        m_mainBlocks.guarded([this, channel, title, channelIconName](const SharedShowList& list) {
+        channel.channel, QualityOfService::UserInitiated,
+        m_mainBlocks.guarded([this, channel](const SharedShowList& list) {
             if (!list->empty())
-                pushFrom(m_delegate, *this,
-                         std::make_shared<ChannelViewController>(m_delegate, title, *list, channelIconName, channel));
+                pushFrom(m_delegate, *this, std::make_shared<ChannelViewController>(m_delegate, channel, *list));
         }));
 }
 
@@ -301,13 +275,13 @@ void RootViewController::reloadChannel(const ObjectId& channel, const ShowList& 
     const auto section = sectionOf(channel);
     if (!section || entries.empty())
         return;
-    m_showImages.erase(channel);
+    m_pictures.forget(channel);
     setEntries(*section, entries);
 }
 
 void RootViewController::setEntries(std::size_t section, const ShowList& entries)
 {
-    ShowList& present = m_channelEntries[section];
+    ShowList& present = m_sections[section].entries;
     const std::size_t before = present.size() + 1, after = entries.size() + 1;
     // Rows that stay change only after those that come or go: a view takes them for the same until it is told.
     if (before > after)
@@ -328,8 +302,9 @@ void RootViewController::timePassed()
     auto pause = m_delegate.pauseLoading(); // as in `selectedChannelsChanged`
     m_delegate.listings().onAirShowsWithQueue(
         DispatchQueue::main(),
-        m_mainBlocks.guarded([this, channels = m_selectedChannelsArray, pause](std::vector<ShowList> entries) {
-            if (channels != m_selectedChannelsArray)
+        m_mainBlocks.guarded([this, channels = m_delegate.channels().selected(), pause](std::vector<ShowList> entries) {
+            const auto isOf = [](const Section& section, const ObjectId& id) { return section.channel.channel == id; };
+            if (!std::equal(m_sections.begin(), m_sections.end(), channels.begin(), channels.end(), isOf))
                 return;
             entries.resize(channels.size());
             for (std::size_t section = 0; section < entries.size(); ++section)
@@ -339,7 +314,7 @@ void RootViewController::timePassed()
 
 void RootViewController::rollOn(std::size_t section, ShowList entries)
 {
-    ShowList& present = m_channelEntries[section];
+    ShowList& present = m_sections[section].entries;
     const auto isSame = [](const Show& a, const Show& b) { return a->entry == b->entry; };
     const auto placeOf = [&](const Show& show) {
         return std::find_if(present.begin(), present.end(), [&](const Show& other) { return isSame(show, other); });
@@ -359,86 +334,31 @@ void RootViewController::rollOn(std::size_t section, ShowList entries)
 
 void RootViewController::rowDisplayed(RowPath path)
 {
-    const Show* show = showAt(path);
-    if (!show)
-        return;
-    const ObjectId& channel = m_selectedChannelsArray[path.section];
-    if (imageOf(channel, *show))
-        return;
-    if (m_delegate.imagesEnabled() && (*show)->count() >= 4)
-        loadImage(channel, *show);
-    const auto object = m_delegate.channels().channelWithChannelId(channel);
-    if (m_channelsWithLoadedShowDetails.contains(channel) || !object || object->reloadNeeded())
-        return;
-    m_channelsWithLoadedShowDetails.insert(channel);
-    if (m_delegate.imagesEnabled() && m_delegate.application().applicationState() == Application::State::Active)
-        m_mainBlocks.after(pictureDelay, [this, channel] { startDetailStep(channel); });
+    if (const Show* show = showAt(path))
+        m_pictures.displayed(m_sections[path.section].channel.channel, *show);
 }
 
-void RootViewController::loadImage(const ObjectId& channel, const Show& show)
+const ShowList* RootViewController::entriesOf(const ObjectId& channel) const
 {
-    const auto pictures = m_delegate.showServices().pictures;
-    if (!pictures || show->pictures->empty())
-        return;
-    m_mainBlocks.after(pictureDelay, [this, pictures, channel, show] {
-        pictures->asyncLoadOfShowImageAtURL(*show->pictures->begin(),
-                                            m_mainBlocks.guarded([this, channel, show](const ShowImage& image) {
-                                                setShowImage(image, channel, identifierOf(show));
-                                            }));
-    });
+    const auto section = sectionOf(channel);
+    return section ? &m_sections[*section].entries : nullptr;
 }
 
-void RootViewController::setShowImage(const ShowImage& image, const ObjectId& forChannelID,
-                                      const QString& showIdentifier)
+void RootViewController::setDetailedEntries(const ObjectId& channel, const ShowList& entries)
 {
-    m_showImages[forChannelID][showIdentifier] = image;
-    reloadShow(forChannelID, showIdentifier);
+    if (const auto section = sectionOf(channel))
+        m_sections[*section].entries = entries;
 }
 
-void RootViewController::reloadShow(const ObjectId& channel, const QString& identifier)
+void RootViewController::reloadShow(const ObjectId& channel, const QString& showIdentifier)
 {
     const auto section = sectionOf(channel);
     if (!section)
         return;
-    const ShowList& entries = m_channelEntries[*section];
+    const ShowList& entries = m_sections[*section].entries;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (identifierOf(entries[i]) == identifier)
+        if (entries[i]->entry->identificator().value_or(QString()) == showIdentifier)
             reloadRows(*section, i + 1, 1);
-    }
-}
-
-void RootViewController::startDetailStep(const ObjectId& channel)
-{
-    const auto section = sectionOf(channel);
-    if (!section || m_delegate.application().applicationState() != Application::State::Active)
-        return;
-    const ShowServices services = m_delegate.showServices();
-    if (!services.details && !services.pictures)
-        return;
-    DispatchQueue::global(QualityOfService::Background)
-        .async([shows = m_channelEntries[*section], services,
-                done = m_mainBlocks.guarded(
-                    [this, channel, shows = m_channelEntries[*section]](const ShowDetailStep::Result& result) {
-                        detailsLoaded(channel, shows, result);
-                    })] {
-            DispatchQueue::main().async([done, result = ShowDetailStep::run(shows, services)] { done(result); });
-        });
-}
-
-void RootViewController::detailsLoaded(const ObjectId& channel, const ShowList& before,
-                                       const ShowDetailStep::Result& result)
-{
-    const auto section = sectionOf(channel);
-    if (!section || m_delegate.application().applicationState() != Application::State::Active)
-        return;
-    if (m_channelEntries[*section] != before) { // the pass was faster: its shows are to be asked about again
-        m_channelsWithLoadedShowDetails.erase(channel);
-        return;
-    }
-    m_channelEntries[*section] = result.shows;
-    for (std::size_t i = 0; i < result.images.size(); ++i) {
-        if (result.images[i].width > 0)
-            setShowImage(result.images[i], channel, identifierOf(result.shows[i]));
     }
 }
 

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "core/ChannelFace.h"
 #include "core/ScreenProtocols.h"
 #include "core/VidoraAppDelegate.h"
 #include "platform/BlockOwner.h"
+#include "screens/HomePictures.h"
 #include "screens/ScreenModel.h"
-#include "screens/ShowDetailStep.h"
-
-#include <unordered_map>
-#include <unordered_set>
 
 namespace vidora {
 
@@ -16,16 +14,24 @@ namespace vidora {
 class RootViewController final : public ScreenModel,
                                  public RootScreen,
                                  public NotificationsSynchedDelegate,
-                                 public RecolorDelegate
+                                 public RecolorDelegate,
+                                 private PicturedRows
 {
 public:
+    struct Section
+    {
+        ChannelFace channel;
+        QString icon; ///< path; empty for none
+        ShowList entries;
+    };
+
     /// The delegate outlives the screen.
     explicit RootViewController(VidoraAppDelegate& delegate);
 
     QString title() const override;
     std::vector<BarButton> rightBarButtonItems() const override;
     QString placeholder() const override;
-    std::size_t numberOfSections() const override { return m_channelEntries.size(); }
+    std::size_t numberOfSections() const override { return m_sections.size(); }
     std::size_t numberOfRowsInSection(std::size_t section) const override;
     ScreenRow rowAt(RowPath path) const override;
     void selectRow(RowPath path) override;
@@ -45,57 +51,40 @@ public:
     void notificationsSynched() override { reloadData(); }
     void recolor() override;
 
-    void setShowImage(const ShowImage& image, const ObjectId& forChannelID, const QString& showIdentifier);
-    /// Opens the channel's week, once its list is there and unless it is empty.
-    void selectedChannelIdentificator(const ObjectId& channel, const QString& title, const QString& channelIconName);
-    /// Plays the stream of a channel that has one.
-    void play(const ObjectId& channel);
-    /// Opens the list of the channels.
+    /// Opens the list of the channels, to jump to one of them.
     void list();
 
-    const std::vector<ObjectId>& selectedChannelsArray() const { return m_selectedChannelsArray; }
-    const std::vector<QString>& channelTitles() const { return m_channelTitles; }
-    const std::vector<QString>& channelIconNames() const { return m_channelIconNames; }
-    const std::vector<ShowList>& channelEntries() const { return m_channelEntries; }
-    bool hasStream(const ObjectId& channel) const { return m_streams.contains(channel); }
-    bool hasShows(const ObjectId& channel) const;
+    const std::vector<Section>& sections() const { return m_sections; }
     /// Whether the lists have been asked for, and whether they are here.
     bool channelEntriesLoaded() const { return m_channelEntriesLoaded; }
     bool hasContent() const { return m_hasContent; }
 
-protected:
-    void viewDidLoad() override;
-
 private:
-    struct Headers
-    {
-        std::vector<QString> titles, icons, iconNames;
-    };
-    Headers headersOf(const std::vector<ObjectId>& channels) const;
+    using Sections = std::vector<Section>;
+    /// The channels with their faces, and without shows.
+    Sections sectionsOf(const std::vector<ObjectId>& channels) const;
     void showFirstRows();
-    void show(const std::vector<ObjectId>& channels, const Headers& headers, std::vector<ShowList> entries);
-    ScreenRow headerRow(std::size_t section) const;
+    void show(Sections sections, std::vector<ShowList> entries);
+    ScreenRow headerRow(const Section& section) const;
     AttributedText updatedText(const ObjectId& channel) const;
     std::optional<double> progressOf(const TVEntry& entry) const;
     const Show* showAt(RowPath path) const;
     std::optional<std::size_t> sectionOf(const ObjectId& channel) const;
-    std::optional<ShowImage> imageOf(const ObjectId& channel, const Show& show) const;
-    void loadImage(const ObjectId& channel, const Show& show);
-    void startDetailStep(const ObjectId& channel);
-    void detailsLoaded(const ObjectId& channel, const ShowList& before, const ShowDetailStep::Result& result);
-    void reloadShow(const ObjectId& channel, const QString& identifier);
     void setEntries(std::size_t section, const ShowList& entries);
     void rollOn(std::size_t section, ShowList entries);
+    /// Opens the channel's week, once its list is there and unless it is empty.
+    void selectedChannelIdentificator(const ChannelFace& channel);
+    /// Plays the channel's stream, if it has one.
+    void play(const ChannelFace& channel);
+    void chosenInList(const ChannelFace& channel);
+
+    const ShowList* entriesOf(const ObjectId& channel) const override;
+    void setDetailedEntries(const ObjectId& channel, const ShowList& entries) override;
+    void reloadShow(const ObjectId& channel, const QString& showIdentifier) override;
 
     VidoraAppDelegate& m_delegate;
-    std::vector<ObjectId> m_selectedChannelsArray;
-    std::vector<QString> m_channelTitles;
-    std::vector<QString> m_channelIcons; ///< paths; empty for none
-    std::vector<QString> m_channelIconNames;
-    std::vector<ShowList> m_channelEntries;
-    std::unordered_map<ObjectId, std::unordered_map<QString, ShowImage>> m_showImages;
-    std::unordered_map<ObjectId, URL> m_streams;
-    std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
+    Sections m_sections;
+    HomePictures m_pictures;
     bool m_modifiedSelectedChannels = false;
     bool m_channelEntriesLoaded = false;
     bool m_hasContent = false;

@@ -52,15 +52,13 @@ ScreenRow showRow(VidoraAppDelegate& delegate, const Show& show, bool isOnAir)
     return row;
 }
 
-QString channelTitle(const ChannelDictionary& channel)
+ScreenRow channelRow(VidoraAppDelegate& delegate, const ChannelFace& channel)
 {
-    return TVEntry::latin2Cyrillic(channel.title(), channel.language()).value_or(QStringLiteral("?"));
-}
-
-std::optional<URL> streamURL(const ChannelDictionary& channel)
-{
-    const auto stream = channel.stream();
-    return stream ? URL::fromText(*stream) : std::nullopt;
+    ScreenRow row;
+    row.kind = ScreenRow::Kind::Channel;
+    row.text = channel.title;
+    row.icon = delegate.icons().iconNamed(channel.iconName).value_or(QString());
+    return row;
 }
 
 } // namespace vidora

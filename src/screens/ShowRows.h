@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ChannelFace.h"
 #include "core/VidoraAppDelegate.h"
 #include "screens/ScreenModel.h"
 
@@ -9,11 +10,8 @@ namespace vidora {
 /// with a heart when it is popular, its details below in smaller type.
 ScreenRow showRow(VidoraAppDelegate& delegate, const Show& show, bool isOnAir);
 
-/// The title of a channel in the reader's alphabet; "?" where the catalogue has none.
-QString channelTitle(const ChannelDictionary& channel);
-
-/// The address of a channel's stream; nothing without one.
-std::optional<URL> streamURL(const ChannelDictionary& channel);
+/// The row of a channel in a list of channels: icon and title.
+ScreenRow channelRow(VidoraAppDelegate& delegate, const ChannelFace& channel);
 
 /// Type in which the second line of a row is set.
 TextAttributes subtitleAttributes();

@@ -1,7 +1,7 @@
 #include "screens/StreamViewController.h"
 
+#include "core/ChannelFace.h"
 #include "screens/ScreenModel.h"
-#include "screens/ShowRows.h"
 
 namespace vidora {
 
@@ -11,9 +11,9 @@ constexpr Seconds patience{25};
 
 QString titleOfStream(const ChannelData& channels, const URL& url)
 {
-    for (const auto& [id, channel] : channels) {
-        if (streamURL(channel) == url)
-            return channelTitle(channel);
+    for (const auto& [id, record] : channels) {
+        if (const ChannelFace channel = channelFace(id, channels); channel.streamURL == url)
+            return channel.title;
     }
     return {};
 }

@@ -60,7 +60,7 @@ TEST_F(ModelChangesTest, HomeFollowsAPassChannelByChannel)
 
     home().reloadChannel(idOf(one), {});
     EXPECT_EQ(watched.model.rowCount(), 5) << "an empty list leaves the old rows";
-    home().reloadChannel(ObjectId::initWithHex(u"58f4ded60befe78cb3369999"), home().channelEntries()[0]);
+    home().reloadChannel(ObjectId::initWithHex(u"58f4ded60befe78cb3369999"), home().sections()[0].entries);
     EXPECT_EQ(watched.model.rowCount(), 5);
 }
 
@@ -224,7 +224,7 @@ TEST_F(ModelChangesTest, ChooserTogglesAndSearches)
     EXPECT_EQ(watched.texts(), words("One|Two"));
 
     tabs->selectTab(0);
-    DispatchQueue::runMain([&] { return home().hasShows(idOf(one)); });
+    DispatchQueue::runMain([&] { return !home().sections().empty() && !home().sections()[0].entries.empty(); });
 
     tabs->selectTab(4);
     chooser->selectRow({0, 0});

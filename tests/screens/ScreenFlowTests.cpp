@@ -141,7 +141,7 @@ TEST_F(ScreenFlowTest, AnAddressLeadsToItsShow)
     broadcast(1, {QStringLiteral("News")});
     start({channel(1, QStringLiteral("One"))});
     device.update();
-    const auto url = home().channelEntries()[0][0]->entry->urlDigestWithScheme(QStringLiteral("vidora"));
+    const auto url = home().sections()[0].entries[0]->entry->urlDigestWithScheme(QStringLiteral("vidora"));
     tabs->openURL(*URL::fromText(u"vidora://c0123"));
     tabs->openURL(*url);
     EXPECT_EQ(awaited<DetailViewController>()->title(), QStringLiteral("News"));
@@ -207,11 +207,8 @@ TEST(RichText, EscapesAndScales)
 TEST(ChannelGroups, OtherStandsLastAndTakesInTheMiddle)
 {
     const auto offered = [](int id, const char* title) {
-        return OfferedChannel{ObjectId::initWithHex(QString::number(id).rightJustified(24, QLatin1Char('0'))),
-                              QString::fromUtf8(title),
-                              {},
-                              {},
-                              false};
+        const auto channel = ObjectId::initWithHex(QString::number(id).rightJustified(24, QLatin1Char('0')));
+        return OfferedChannel{{channel, {}, QString::fromUtf8(title), {}, {}}, {}};
     };
     const auto groups = arrangedGroups({{QStringLiteral("Other"), {offered(1, "x"), offered(2, "First")}},
                                         {QStringLiteral("zeta"), {offered(3, "b"), offered(4, "B"), offered(5, "x")}},
@@ -220,7 +217,7 @@ TEST(ChannelGroups, OtherStandsLastAndTakesInTheMiddle)
     EXPECT_EQ(groups[0].title, QStringLiteral("Alpha"));
     QStringList titles;
     for (const OfferedChannel& channel : groups[1].channels)
-        titles << channel.title;
+        titles << channel.face.catalogueTitle;
     EXPECT_EQ(titles, (QStringList{QStringLiteral("b"), QStringLiteral("B"), QStringLiteral("x")}));
 }
 
