@@ -1,9 +1,10 @@
 #pragma once
 
-#include "ChildProcess.h"
 #include "calendar/EventStore.h"
 #include "platform/AtomicFile.h"
 #include "platform/Clock.h"
+#include "support/ChildProcess.h"
+#include "support/RawFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -87,20 +88,6 @@ private:
         return killed || steps - 1 == failingStep;
     }
 };
-
-inline void writeRaw(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
-    file.write(bytes);
-}
-
-inline QByteArray readRaw(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// All .ics files of a folder by name.
 inline std::map<QString, QByteArray> filesOf(const QString& folder)

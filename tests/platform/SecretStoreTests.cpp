@@ -1,5 +1,8 @@
-#include "CalendarSupport.h"
 #include "platform/SecretStore.h"
+#include "support/ChildProcess.h"
+#include "support/RawFiles.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
