@@ -10,8 +10,6 @@ namespace vidora {
 
 namespace {
 
-const QString lastAlarmMinutesKey = QStringLiteral("lastAlarmMinutes");
-
 Seconds offsetOf(int minutes)
 {
     return Seconds{minutes * -60LL};
@@ -226,7 +224,19 @@ void AlarmEngine::removeAlarmForTitle(const QString& title, bool sync, bool manu
         return;
     constexpr int noAlarm = -1;
     replaceFavorite(title, noAlarm, std::nullopt);
-    m_alarmSyncQueue->async([this, lowercased = title.toLower(), sync, activity = begin()] {
+    removeComingEvents(
+        [lowercased = title.toLower()](const Event& event) { return event.title.toLower() == lowercased; }, sync);
+}
+
+void AlarmEngine::removeAllEvents()
+{
+    if (mayWrite())
+        removeComingEvents([](const Event&) { return true; }, true);
+}
+
+void AlarmEngine::removeComingEvents(const std::function<bool(const Event&)>& fits, bool sync)
+{
+    m_alarmSyncQueue->async([this, fits, sync, activity = begin()] {
         if (!m_selectedCalendar.calendar())
             return;
         setSynchronized(false);
@@ -237,10 +247,7 @@ void AlarmEngine::removeAlarmForTitle(const QString& title, bool sync, bool manu
         const bool isWhole = guarded([&] {
             identifiers = removeEvents(
                 now, now + calendarWindow,
-                [&](const Event& event) {
-                    return event.title.toLower() == lowercased && isOurs(event, m_surroundings.scheme);
-                },
-                removed);
+                [&](const Event& event) { return isOurs(event, m_surroundings.scheme) && fits(event); }, removed);
         });
         if (!isWhole)
             return;

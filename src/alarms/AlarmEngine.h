@@ -30,6 +30,9 @@ public:
         std::optional<bool> previouslyShown; ///< only repeats, or only what is none; empty: any broadcast
     };
 
+    /// In the key-value store: the lead time of the event that was written last.
+    static constexpr QLatin1String lastAlarmMinutesKey{"lastAlarmMinutes"};
+
     explicit AlarmEngine(AlarmSurroundings surroundings);
     /// On the main thread, after the store of shows is gone. Waits for the work on the calendar.
     ~AlarmEngine() override;
@@ -56,6 +59,8 @@ public:
     void removeAlarmForTitle(const QString& title, bool sync, bool manual);
     /// Removes the alarm on one coming broadcast of exactly this title.
     void removeAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at, bool sync, bool manual);
+    /// Removes all coming events of ours, be there favourites that ask for them or not.
+    void removeAllEvents();
     /// Lead time of the broadcast's alarm in minutes, -1 without one. Waits for the work on the calendar.
     int alarmedEntry(const TVEntry& entry);
     /// What is set on the broadcasts of a favourite; nothing when it has no alarm, or there is none.
@@ -98,6 +103,8 @@ private:
     void saveAlarm(Event& event, int minutes, bool commit);
     /// Enters the event of a broadcast that was just saved into the index, and tells the screens.
     void enterEvent(const Event& saved, const Activity& activity);
+    /// Removes our events that begin from now on and fit.
+    void removeComingEvents(const std::function<bool(const Event&)>& fits, bool sync);
     /// Removes events of a period that fit; their identifiers, whether or not they could be removed.
     QStringList removeEvents(Instant from, Instant to, const std::function<bool(const Event&)>& fits, bool& removed);
     ShowList alertedShows(const ShowList& shows, const ShowsByURL& byURL);

@@ -44,7 +44,7 @@ struct AlarmSurroundings
     const Clock& clock;
     TVShows& shows;
     Alarms& alarms;
-    const SilentHours& silentHours;
+    SilentHours& silentHours;
     ShowCounters& counters;
     EventStore& eventStore;
     UserDefaults& defaults;

@@ -31,6 +31,7 @@ public:
         , m_device(device)
         , m_delegate(device.delegate())
         , m_engine(m_delegate.alarmEngine())
+        , m_requests(m_delegate.alarmRequests())
     {
     }
 
@@ -73,6 +74,8 @@ private:
     QString argument() const { return m_line.arguments.join(QLatin1Char(' ')).trimmed(); }
     /// Waits until nothing is being done to the calendar.
     void settle();
+    /// Makes a request and waits for what comes of it.
+    AlarmRequests::Outcome wait(const std::function<void(const AlarmRequests::Done&)>& request) const;
     void answer(const QString& text, const QJsonObject& json) const;
     int minutes(const QString& option, int otherwise) const;
     /// The one among these texts that the user named.
@@ -93,6 +96,7 @@ private:
     Device& m_device;
     VidoraAppDelegate& m_delegate;
     AlarmEngine& m_engine;
+    AlarmRequests& m_requests;
 };
 
 void AlarmRun::settle()
@@ -100,6 +104,14 @@ void AlarmRun::settle()
     bool isIdle = false;
     DispatchQueue::main().async([&] { m_engine.whenIdle([&] { isIdle = true; }); });
     DispatchQueue::runMain([&] { return isIdle; });
+}
+
+AlarmRequests::Outcome AlarmRun::wait(const std::function<void(const AlarmRequests::Done&)>& request) const
+{
+    std::optional<AlarmRequests::Outcome> outcome;
+    request([&](AlarmRequests::Outcome reached) { outcome = reached; });
+    DispatchQueue::runMain([&] { return outcome.has_value(); });
+    return *outcome;
 }
 
 void AlarmRun::answer(const QString& text, const QJsonObject& json) const
@@ -185,31 +197,21 @@ void AlarmRun::favourite()
     if ((premieres || replays) && lead < 0)
         throw Refusal{localized("--premieres and --replays are about alarms: --alarm MINUTES is missing.")};
     const std::optional<QString> listed = listedTitle();
-    QString title = listed.value_or(argument());
-    m_engine.addFavorite(title);
-    if (title.endsWith(QLatin1Char(' ')))
-        title.chop(1); // as it is kept
-    if (lead >= 0) {
-        // What was set before would keep its lead time.
-        if (m_engine.alarmedIdentificatorType(title))
-            m_engine.removeAlarmForTitle(title, true, true);
-        settle();
-        m_engine.setAlarmForTitle(title, lead, premieres || replays ? std::optional(replays) : std::nullopt, true);
-    }
-    settle();
-    const Favorites favorites = m_delegate.shows().favorites().value_or(Favorites());
-    const auto added = std::find_if(favorites.begin(), favorites.end(), [&](const auto& favorite) {
-        return favorite->lowercasedIdentificator() == title.toLower();
-    });
-    if (added == favorites.end())
+    const QString title = listed.value_or(argument());
+    std::optional<AlarmEngine::Recurrence> alarm;
+    if (lead >= 0)
+        alarm = {lead, premieres || replays ? std::optional(replays) : std::nullopt};
+    const auto outcome = wait([&](const auto& done) { m_requests.setFavorite(title, alarm, done); });
+    if (outcome == AlarmRequests::Outcome::NotKept)
         throw Refusal{localized("%1 could not be added.").arg(title)};
-    QString text = localized("A favourite: %1").arg(described(**added));
-    if (!listed)
-        text += QLatin1Char('\n') + localized("No broadcast of this title is listed at present.");
-    if (lead >= 0 && (*added)->minutes() < 0)
+    if (outcome == AlarmRequests::Outcome::NoCalendar)
         throw Refusal{
             localized("%1 is a favourite, but there is no calendar that can be written for its alarms.").arg(title)};
-    answer(text, {{QStringLiteral("favourite"), json(**added)}, {QStringLiteral("events"), m_engine.eventCount()}});
+    const auto added = m_requests.favorite(title);
+    QString text = localized("A favourite: %1").arg(described(*added));
+    if (!listed)
+        text += QLatin1Char('\n') + localized("No broadcast of this title is listed at present.");
+    answer(text, {{QStringLiteral("favourite"), json(*added)}, {QStringLiteral("events"), m_engine.eventCount()}});
 }
 
 QString AlarmRun::favouriteNamed()
@@ -230,8 +232,7 @@ QString AlarmRun::favouriteNamed()
 void AlarmRun::unfavourite()
 {
     const QString title = favouriteNamed();
-    m_engine.removeFavorite(title);
-    settle();
+    wait([&](const auto& done) { m_requests.removeFavorite(title, done); });
     answer(localized("No longer a favourite: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
 }
 
@@ -306,25 +307,15 @@ Show AlarmRun::broadcast()
 
 void AlarmRun::alarm()
 {
-    const auto last = m_delegate.keyValueStore().longLongForKey(QStringLiteral("lastAlarmMinutes"));
-    const int lead =
-        minutes(QStringLiteral("--before"), static_cast<int>(std::clamp<std::int64_t>(last, 0, mostMinutes)));
+    const int lead = minutes(QStringLiteral("--before"), std::min(m_requests.usualMinutes(), mostMinutes));
     const Show show = broadcast();
-    const TVEntry& entry = *show->entry;
-    const Instant start = *entry.dateTime();
-    if (start - std::chrono::minutes(lead) <= m_device.clock().now())
+    const QString title = show->entry->identificator().value_or(QString());
+    const bool isFollowed = m_requests.favorite(title) != nullptr;
+    const auto outcome = wait([&](const auto& done) { m_requests.setAlarm(show, lead, done); });
+    if (outcome == AlarmRequests::Outcome::TooLate)
         throw Refusal{localized("It is too late for an alarm %n minutes ahead.", static_cast<std::size_t>(lead))};
-    const QString title = entry.identificator().value_or(QString());
-    m_engine.removeAlarmForTitle(title, entry.channel(), start, true, m_engine.alarmedEntry(entry) >= 0);
-    settle();
-    m_engine.setAlarmForTitle(title, entry.channel(), start, entry.endDateTime(), lead, true, true);
-    settle();
-    if (m_engine.alarmedEntry(entry) < 0)
+    if (outcome == AlarmRequests::Outcome::NoCalendar)
         throw Refusal{localized("No alarm was set: no calendar can be written.")};
-    // What belongs to no favourite goes with the next synchronisation that finds favourites.
-    const bool isFollowed = m_delegate.shows().containsFavoriteNamed(title);
-    if (!isFollowed)
-        m_engine.addFavorite(title);
     QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show));
     if (!isFollowed)
         text += QLatin1Char('\n') + localized("A favourite: %1").arg(printable(title));
@@ -338,16 +329,13 @@ void AlarmRun::unalarm()
     if (!m_line.options.contains(QStringLiteral("--at"))) {
         const std::optional<QString> listed = listedTitle();
         const QString title = listed ? *listed : favouriteNamed();
-        m_engine.removeAlarmForTitle(title, true, true);
-        settle();
+        wait([&](const auto& done) { m_requests.removeAlarms(title, done); });
         answer(localized("No alarms any more: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
         return;
     }
     const Show show = broadcast();
-    const TVEntry& entry = *show->entry;
-    const QString title = entry.identificator().value_or(QString());
-    m_engine.removeAlarmForTitle(title, entry.channel(), *entry.dateTime(), true, true);
-    settle();
+    const QString title = show->entry->identificator().value_or(QString());
+    wait([&](const auto& done) { m_requests.removeAlarm(show, done); });
     QString text = localized("No alarm any more: %1").arg(lineOf(show));
     if (m_engine.alarmedIdentificatorType(title))
         text += QLatin1Char('\n') +
@@ -382,20 +370,13 @@ void AlarmRun::silentHours()
     const QTimeZone zone = DeviceSettings::timeZone();
     const QStringList& times = m_line.arguments;
     if (times.size() == 1 && times.front() == QLatin1String("off")) {
-        hours.setEnabled(false);
+        wait([&](const auto& done) { m_requests.setSilentHoursEnabled(false, done); });
     } else if (!times.isEmpty()) {
         const QTime from = QTime::fromString(times.front(), QStringLiteral("H:mm"));
         const QTime to = QTime::fromString(times.back(), QStringLiteral("H:mm"));
         if (times.size() != 2 || !from.isValid() || !to.isValid())
             throw Refusal{localized("silent-hours takes two times such as 00:00 07:00, or \"off\".")};
-        hours.setFromTimestamp(SilentHours::timestampOf(from, zone));
-        hours.setToTimestamp(SilentHours::timestampOf(to, zone));
-        hours.setEnabled(true);
-    }
-    if (!times.isEmpty()) {
-        m_engine.setSynchronized(false);
-        m_engine.syncAlarms();
-        settle();
+        wait([&](const auto& done) { m_requests.setSilentHours(from, to, done); });
     }
     const QString from = SilentHours::timeOf(hours.fromTimestamp(), zone).toString(QStringLiteral("HH:mm"));
     const QString to = SilentHours::timeOf(hours.toTimestamp(), zone).toString(QStringLiteral("HH:mm"));

@@ -93,9 +93,12 @@ void VidoraAppDelegate::makeAlarms()
     m_storeServices = std::make_unique<StoreServices>(*m_channels, m_channelData, m_showCount, m_environment.scheme,
                                                       m_application, m_defaults);
     m_alarmServices = std::make_unique<AlarmServices>(*m_channels, m_channelData);
-    m_alarmEngine = std::make_unique<AlarmEngine>(AlarmSurroundings{
-        m_environment.clock, m_shows, m_alarms, m_silentHours, m_showCounters, m_eventStore, m_defaults,
-        m_keyValueStore, *m_storeServices, *m_alarmServices, *this, m_environment.scheme, m_environment.readOnly});
+    const AlarmSurroundings surroundings{m_environment.clock,   m_shows,          m_alarms,   m_silentHours,
+                                         m_showCounters,        m_eventStore,     m_defaults, m_keyValueStore,
+                                         *m_storeServices,      *m_alarmServices, *this,      m_environment.scheme,
+                                         m_environment.readOnly};
+    m_alarmEngine = std::make_unique<AlarmEngine>(surroundings);
+    m_alarmRequests = std::make_unique<AlarmRequests>(surroundings, *m_alarmEngine);
     m_storeServices->setAlarms(m_alarmEngine.get());
     m_alarmMarks = std::make_unique<AlarmMarks>(*m_alarmEngine, m_shows);
     m_showServices.marks = m_alarmMarks.get();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "alarms/AlarmEngine.h"
+#include "alarms/AlarmRequests.h"
 #include "calendar/MemoryEventStore.h"
 #include "core/AlarmMarks.h"
 #include "core/AlarmServices.h"
@@ -116,6 +116,7 @@ public:
     TVListings& listings() { return *m_listings; }
     TVChannels& channels() { return *m_channels; }
     AlarmEngine& alarmEngine() { return *m_alarmEngine; }
+    AlarmRequests& alarmRequests() { return *m_alarmRequests; }
     TVShows& shows() { return m_shows; }
     SilentHours& silentHours() { return m_silentHours; }
     EventStore& eventStore() { return m_eventStore; }
@@ -185,6 +186,7 @@ private:
     std::unique_ptr<StoreServices> m_storeServices;
     std::unique_ptr<AlarmServices> m_alarmServices;
     std::unique_ptr<AlarmEngine> m_alarmEngine;
+    std::unique_ptr<AlarmRequests> m_alarmRequests;
     std::unique_ptr<AlarmMarks> m_alarmMarks;
     std::unique_ptr<TVListings> m_listings; ///< behind the engine, whose queries it runs
     std::unique_ptr<PageFetcher> m_fetcher;
