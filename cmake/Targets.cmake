@@ -9,7 +9,13 @@ set(VIDORA_PRECOMPILED <algorithm> <chrono> <cstdint> <functional> <memory> <mut
 function(vidora_target_defaults target)
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target} PRIVATE vidora_warnings)
-    target_precompile_headers(${target} PRIVATE ${VIDORA_PRECOMPILED})
+    # For one or two sources of its own a target is built faster without.
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    list(LENGTH sources count)
+    if(count GREATER 3)
+        target_precompile_headers(${target} PRIVATE ${VIDORA_PRECOMPILED})
+    endif()
 endfunction()
 
 function(vidora_folder name)
@@ -29,6 +35,7 @@ function(vidora_tests name)
     target_compile_definitions(${name}_tests PRIVATE
         VIDORA_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}" VIDORA_RESOURCES="${PROJECT_SOURCE_DIR}/resources")
     target_link_libraries(${name}_tests PRIVATE ${ARG_LINK} GTest::gtest GTest::gmock)
+    target_compile_options(${name}_tests PRIVATE -O1) # a test runs once; what it tests is built as it is given away
     vidora_target_defaults(${name}_tests)
     add_test(NAME ${name} COMMAND ${name}_tests)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
