@@ -51,11 +51,7 @@ std::vector<SharedShowList> makeLists()
 }
 
 /// A device with all channels selected and an icon for each.
-class Device : public ChannelSelection,
-               public ChannelRecords,
-               public StoreSettings,
-               public AlarmSynchronisation,
-               public ApplicationLife
+class Device : public StoreChannels, public FollowedShows, public ApplicationLife
 {
 public:
     Device()
@@ -80,9 +76,9 @@ public:
     }
     void unload(const ObjectId&) override {}
     void setTimeLoaded(const ObjectId&, Instant) override {}
-    std::optional<QString> iconValue(const ObjectId&) const override { return QStringLiteral("icons/icon.png"); }
+    std::optional<QString> iconName(const ObjectId&) const override { return QStringLiteral("icon.png"); }
     int showCount() const override { return 4; }
-    QString scheme() const override { return QStringLiteral("vidora"); }
+    QSet<QString> lowercasedFavoriteNames() const override { return {}; }
     void setSynchronized(bool) override {}
     void syncAlarms() override {}
     bool isInBackground() const override { return false; }
@@ -221,7 +217,7 @@ void queries(benchmark::State& state)
     const QCoreApplication application(argc, argv);
     const FixedClock clock(now);
     const TVStationIcons icons(device().folder.path());
-    TVListings store({clock, device().folder.path(), device(), device(), icons, device(), device(), device()});
+    TVListings store({clock, device().folder.path(), device(), icons, device(), device(), QStringLiteral("vidora")});
     bool isOver = false;
     const auto over = [&isOver](const auto&) { isOver = true; };
     constexpr QualityOfService priority = QualityOfService::UserInitiated;

@@ -20,7 +20,7 @@ namespace vidora {
 ///
 /// `manual`: the user acted on this very show. Its counter changes, and silent hours are not looked at. `sync`: the
 /// calendar is committed and the screens are told at the end; who makes many changes commits once.
-class AlarmEngine final : public AlarmSynchronisation
+class AlarmEngine final : public FollowedShows
 {
 public:
     /// What is set on all broadcasts of a title.
@@ -70,6 +70,7 @@ public:
 
     // The calendar.
 
+    QSet<QString> lowercasedFavoriteNames() const override { return m_surroundings.shows.lowercasedFavoriteNames(); }
     /// Makes the calendar agree with favourites and listings. On any thread.
     void syncAlarms() override;
     void setSynchronized(bool isSynchronized) override { m_surroundings.alarms.setSynchronized(isSynchronized); }

@@ -3,7 +3,6 @@
 #include "alarms/Favorite.h"
 #include "platform/DispatchQueue.h"
 #include "platform/KeyValueStore.h"
-#include "store/StoreSurroundings.h"
 
 #include <QHash>
 #include <QSet>
@@ -16,7 +15,7 @@ namespace vidora {
 /// The user's favourites: in memory, in the file "favorites.plist" of the documents folder, and in the key-value store
 /// for the user's other devices. Any thread, guarded by the concurrent queue "favorites"; not to be called from a block
 /// of that queue. No operation fails: what can't be read is absent, what can't be written stays as it was.
-class TVShows final : public FavoriteTitles
+class TVShows final
 {
 public:
     enum class Access
@@ -27,7 +26,7 @@ public:
 
     /// The key-value store outlives this object.
     TVShows(QString documentsFolder, KeyValueStore& keyValueStore, Access access = Access::Write);
-    ~TVShows() override;
+    ~TVShows();
 
     /// The favourites in the order in which they were added; nothing as long as there are none and never were. Reads
     /// the file at the first call, which then passes for a change: file and key-value store are written anew.
@@ -40,7 +39,7 @@ public:
     /// Whole titles, whatever their case.
     bool containsFavoriteNamed(const QString& name) const;
     /// The titles in lower case, for work that asks about many.
-    QSet<QString> lowercasedFavoriteNames() const override;
+    QSet<QString> lowercasedFavoriteNames() const;
     /// Lead time of the favourite's alarm in minutes; negative: it has none. Nothing for a title that is no favourite.
     std::optional<int> scheduleTimeForFavoriteNamed(const QString& name) const;
     /// Returns once all that was set so far has reached the file and the key-value store.

@@ -3,12 +3,11 @@
 namespace vidora {
 
 StoreServices::StoreServices(TVChannels& channels, const ChannelData& channelData,
-                             const std::atomic<std::uint8_t>& showCount, QString scheme, Application& application,
+                             const std::atomic<std::uint8_t>& showCount, Application& application,
                              UserDefaults& defaults)
     : m_channels(channels)
     , m_channelData(channelData)
     , m_showCount(showCount)
-    , m_scheme(std::move(scheme))
     , m_application(application)
     , m_defaults(defaults)
 {
@@ -31,22 +30,10 @@ void StoreServices::setTimeLoaded(const ObjectId& channel, Instant time)
         object->setTimeLoaded(time);
 }
 
-std::optional<QString> StoreServices::iconValue(const ObjectId& channel) const
+std::optional<QString> StoreServices::iconName(const ObjectId& channel) const
 {
     const auto found = m_channelData.find(channel);
-    return found == m_channelData.end() ? std::nullopt : found->second.icon();
-}
-
-void StoreServices::setSynchronized(bool isSynchronized)
-{
-    if (AlarmSynchronisation* alarms = m_alarms)
-        alarms->setSynchronized(isSynchronized);
-}
-
-void StoreServices::syncAlarms()
-{
-    if (AlarmSynchronisation* alarms = m_alarms)
-        alarms->syncAlarms();
+    return found == m_channelData.end() ? std::nullopt : found->second.iconFileName();
 }
 
 bool StoreServices::isInBackground() const

@@ -90,16 +90,26 @@ void VidoraAppDelegate::loadCatalogue()
 
 void VidoraAppDelegate::makeAlarms()
 {
-    m_storeServices = std::make_unique<StoreServices>(*m_channels, m_channelData, m_showCount, m_environment.scheme,
-                                                      m_application, m_defaults);
+    m_storeServices =
+        std::make_unique<StoreServices>(*m_channels, m_channelData, m_showCount, m_application, m_defaults);
     m_alarmServices = std::make_unique<AlarmServices>(*m_channels, m_channelData);
-    const AlarmSurroundings surroundings{m_environment.clock,   m_shows,          m_alarms,   m_silentHours,
-                                         m_showCounters,        m_eventStore,     m_defaults, m_keyValueStore,
-                                         *m_storeServices,      *m_alarmServices, *this,      m_environment.scheme,
-                                         m_environment.readOnly};
+    const AlarmSurroundings surroundings{
+        .clock = m_environment.clock,
+        .shows = m_shows,
+        .alarms = m_alarms,
+        .silentHours = m_silentHours,
+        .counters = m_showCounters,
+        .eventStore = m_eventStore,
+        .defaults = m_defaults,
+        .keyValueStore = m_keyValueStore,
+        .application = *m_storeServices,
+        .channels = *m_alarmServices,
+        .screens = *this,
+        .scheme = m_environment.scheme,
+        .readOnly = m_environment.readOnly,
+    };
     m_alarmEngine = std::make_unique<AlarmEngine>(surroundings);
     m_alarmRequests = std::make_unique<AlarmRequests>(surroundings, *m_alarmEngine);
-    m_storeServices->setAlarms(m_alarmEngine.get());
     m_alarmMarks = std::make_unique<AlarmMarks>(*m_alarmEngine, m_shows);
     m_showServices.marks = m_alarmMarks.get();
     eventCount = [this] { return m_alarmEngine->eventCount(); };
@@ -109,16 +119,35 @@ void VidoraAppDelegate::makeAlarms()
 void VidoraAppDelegate::makeStore()
 {
     m_listings = std::make_unique<TVListings>(TVListings::Surroundings{
-        m_environment.clock, m_environment.folders.caches, *m_storeServices, *m_storeServices, *m_icons,
-        *m_storeServices, *m_storeServices, *m_storeServices, FileLayer::system(), &m_shows, m_environment.loading});
+        .clock = m_environment.clock,
+        .cachesDirectory = m_environment.folders.caches,
+        .channels = *m_storeServices,
+        .icons = *m_icons,
+        .followed = *m_alarmEngine,
+        .application = *m_storeServices,
+        .scheme = m_environment.scheme,
+        .loading = m_environment.loading,
+    });
     m_alarmEngine->setListings(*m_listings);
     m_fetcher =
         std::make_unique<PageFetcher>(m_session, m_cache, m_environment.sleeper, m_networkActivity, m_networkAlerts);
     m_parser = std::make_unique<ListingParser>(m_environment.clock, m_environment.endpoints, *m_listings);
     m_updateCycle = std::make_unique<UpdateCycle>(
-        UpdateCycle::Services{m_environment.clock, m_environment.random, m_environment.endpoints, m_channelData,
-                              *m_channels, *m_listings, *m_parser, *m_fetcher, m_userAgent, m_application,
-                              *m_checkAndUpdateAllChannelsQueue, *m_loadQueue, [this] { return showCount(); }},
+        UpdateCycle::Services{
+            .clock = m_environment.clock,
+            .random = m_environment.random,
+            .endpoints = m_environment.endpoints,
+            .channelData = m_channelData,
+            .channels = *m_channels,
+            .listings = *m_listings,
+            .parser = *m_parser,
+            .fetcher = *m_fetcher,
+            .userAgent = m_userAgent,
+            .application = m_application,
+            .checkAndUpdateAllChannelsQueue = *m_checkAndUpdateAllChannelsQueue,
+            .loadQueue = *m_loadQueue,
+            .showCount = [this] { return showCount(); },
+        },
         *this);
 }
 

@@ -131,7 +131,6 @@ public:
     URLSession& session() { return m_session; }
     HTTPUserAgent& userAgent() { return m_userAgent; }
     NetworkActivity& networkActivity() { return m_networkActivity; }
-    AlarmSynchronisation& alarmSynchronisation() { return *m_storeServices; }
     NetworkAlerts& networkAlerts() { return m_networkAlerts; }
     const Environment& environment() const { return m_environment; }
     const QString& scheme() const { return m_environment.scheme; }

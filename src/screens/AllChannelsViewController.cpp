@@ -122,8 +122,8 @@ void AllChannelsViewController::toggle(const ObjectId& channel)
     if (RootScreen* home = homeScreen(m_delegate))
         home->setModifiedSelectedChannels(true);
     if (isRemoval) {
-        m_delegate.alarmSynchronisation().setSynchronized(false);
-        m_delegate.alarmSynchronisation().syncAlarms();
+        m_delegate.alarmEngine().setSynchronized(false);
+        m_delegate.alarmEngine().syncAlarms();
     } else {
         m_delegate.checkAndUpdateAllChannels();
     }

@@ -50,7 +50,7 @@ ScreenRow EditChannelListViewController::rowAt(RowPath path) const
 void EditChannelListViewController::store(bool isRemoval)
 {
     if (isRemoval)
-        m_delegate.alarmSynchronisation().setSynchronized(false);
+        m_delegate.alarmEngine().setSynchronized(false);
     m_delegate.channels().setSelected(m_selected);
     if (m_selected.empty())
         m_delegate.disableTabs();

@@ -59,8 +59,8 @@ void RootViewController::viewDidAppear()
     if (!m_modifiedSelectedChannels)
         return;
     m_modifiedSelectedChannels = false;
-    m_delegate.alarmSynchronisation().setSynchronized(false);
-    m_delegate.alarmSynchronisation().syncAlarms();
+    m_delegate.alarmEngine().setSynchronized(false);
+    m_delegate.alarmEngine().syncAlarms();
     m_delegate.checkAndUpdateAllChannels();
 }
 

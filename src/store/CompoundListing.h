@@ -21,6 +21,6 @@ struct CompoundListing
 
 /// Groups shows by the day of their start, written out in full in the device's language and zone. A channel without an
 /// icon contributes nothing. Any thread.
-CompoundListing compoundListing(const ShowList& shows, const ChannelRecords& records, const TVStationIcons& icons);
+CompoundListing compoundListing(const ShowList& shows, const StoreChannels& channels, const TVStationIcons& icons);
 
 } // namespace vidora

@@ -7,11 +7,6 @@ namespace {
 
 constexpr std::size_t maximumShows = 2000;
 
-QSet<QString> namesOf(const FavoriteTitles* favorites)
-{
-    return favorites ? favorites->lowercasedFavoriteNames() : QSet<QString>();
-}
-
 /// The favourites' broadcasts whose rows fit, in order, up to the maximum.
 template<typename Fits>
 ShowList favoriteShows(const MergedShows& merged, const QSet<QString>& lowercasedNames, Fits fits)
@@ -36,15 +31,15 @@ void TVListings::favoritesScheduleWithBlock(ShowsBlock block)
     m_listingsDictionaryAccessQueue->async([this, block = std::move(block)] {
         const Instant now = m_surroundings.clock.now();
         block(std::make_shared<const ShowList>(
-            favoriteShows(dictionary()->merged(), namesOf(m_surroundings.favorites),
+            favoriteShows(dictionary()->merged(), m_surroundings.followed.lowercasedFavoriteNames(),
                           [now](const MergedShows::Row& row) { return row.end > now; })));
     });
 }
 
 void TVListings::favoritesScheduleWithPriority(QualityOfService priority, CompoundBlock mainBlock)
 {
-    const auto query = [favorites = m_surroundings.favorites](const ListingsDictionary& lists, Instant now) {
-        return favoriteShows(lists.merged(), namesOf(favorites),
+    const auto query = [this](const ListingsDictionary& lists, Instant now) {
+        return favoriteShows(lists.merged(), m_surroundings.followed.lowercasedFavoriteNames(),
                              [now](const MergedShows::Row& row) { return row.end > now; });
     };
     compoundQuery(query, priority, std::move(mainBlock));
@@ -53,10 +48,10 @@ void TVListings::favoritesScheduleWithPriority(QualityOfService priority, Compou
 void TVListings::favoritesScheduleWithPartialAllowed(bool, URLBlock block)
 {
     // Without favourites no show is looked at, whether or not the caller would take part of the answer.
-    m_listingsDictionaryAccessQueue->async([this, scheme = m_surroundings.settings.scheme(), block = std::move(block)] {
+    m_listingsDictionaryAccessQueue->async([this, scheme = m_surroundings.scheme, block = std::move(block)] {
         const Instant now = m_surroundings.clock.now();
         auto shows = std::make_shared<const ShowList>(
-            favoriteShows(dictionary()->merged(), namesOf(m_surroundings.favorites),
+            favoriteShows(dictionary()->merged(), m_surroundings.followed.lowercasedFavoriteNames(),
                           [now](const MergedShows::Row& row) { return row.start > now; }));
         auto byURL = std::make_shared<ShowsByURL>();
         for (const Show& show : *shows) {

@@ -52,7 +52,7 @@ void TVListings::addToSaveSchedule(const ObjectId& channel)
     m_fileIOQueue->async([this, channel] {
         m_scheduledForSaving.insert(channel);
         if (channel != ObjectId::popular())
-            m_surroundings.selection.setTimeLoaded(channel, m_surroundings.clock.now());
+            m_surroundings.channels.setTimeLoaded(channel, m_surroundings.clock.now());
         onMain([this] {
             if (m_surroundings.application.isInBackground())
                 commitFiles();

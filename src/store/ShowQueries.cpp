@@ -65,8 +65,8 @@ ShowList TVListings::nextShows(const ShowList& list, std::size_t count, Instant 
 void TVListings::onAirShowsWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block)
 {
     m_listingsDictionaryAccessQueue->async(
-        [this, &queue, selected = m_surroundings.selection.selected(), block = std::move(block)] {
-            const auto count = static_cast<std::size_t>(m_surroundings.settings.showCount());
+        [this, &queue, selected = m_surroundings.channels.selected(), block = std::move(block)] {
+            const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
             const Instant now = m_surroundings.clock.now();
             const auto lists = dictionary();
             std::vector<ShowList> result;
@@ -86,9 +86,9 @@ void TVListings::onAirShowsOfFilesWithQueue(DispatchQueue& queue,
                                             std::function<void(std::vector<ShowList>)> block) const
 {
     std::vector<QString> paths;
-    for (const ObjectId& channel : m_surroundings.selection.selected())
+    for (const ObjectId& channel : m_surroundings.channels.selected())
         paths.push_back(listingsPath(channel));
-    const auto count = static_cast<std::size_t>(m_surroundings.settings.showCount());
+    const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
     DispatchQueue::global(QualityOfService::UserInteractive)
         .async([&queue, paths = std::move(paths), count, now = m_surroundings.clock.now(), block = std::move(block)] {
             std::vector<ShowList> result;
@@ -103,8 +103,8 @@ void TVListings::showCountForSelectedChannelsForQueue(DispatchQueue& queue,
                                                       std::function<void(std::unordered_map<ObjectId, int>)> withBlock)
 {
     m_listingsDictionaryAccessQueue->async(
-        [this, &queue, selected = m_surroundings.selection.selected(), withBlock = std::move(withBlock)] {
-            const auto count = static_cast<std::size_t>(m_surroundings.settings.showCount());
+        [this, &queue, selected = m_surroundings.channels.selected(), withBlock = std::move(withBlock)] {
+            const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
             const Instant now = m_surroundings.clock.now();
             const auto lists = dictionary();
             std::unordered_map<ObjectId, int> counts;
@@ -125,11 +125,11 @@ void TVListings::compoundQuery(Query query, QualityOfService priority, CompoundB
 
 void TVListings::compoundListingsWithShows(SharedShowList shows, QualityOfService priority, CompoundBlock mainBlock)
 {
-    const ChannelRecords& records = m_surroundings.records;
+    const StoreChannels& channels = m_surroundings.channels;
     const TVStationIcons& icons = m_surroundings.icons;
-    onMain([&records, &icons, shows = std::move(shows), priority, mainBlock = std::move(mainBlock)] {
-        DispatchQueue::global(priority).async([&records, &icons, shows, mainBlock] {
-            auto listing = std::make_shared<const CompoundListing>(compoundListing(*shows, records, icons));
+    onMain([&channels, &icons, shows = std::move(shows), priority, mainBlock = std::move(mainBlock)] {
+        DispatchQueue::global(priority).async([&channels, &icons, shows, mainBlock] {
+            auto listing = std::make_shared<const CompoundListing>(compoundListing(*shows, channels, icons));
             DispatchQueue::main().async([listing = std::move(listing), mainBlock] { mainBlock(*listing); });
         });
     });

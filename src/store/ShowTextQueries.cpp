@@ -45,7 +45,7 @@ void TVListings::dropSearchIndex()
 void TVListings::showWithURL(const URL& url, std::function<void(Show)> mainBlock)
 {
     m_listingsDictionaryAccessQueue->async(
-        [this, url, scheme = m_surroundings.settings.scheme(), mainBlock = std::move(mainBlock)] {
+        [this, url, scheme = m_surroundings.scheme, mainBlock = std::move(mainBlock)] {
             const auto lists = dictionary();
             for (const Show& show : *lists->merged().shows) {
                 if (show->entry->urlDigestWithScheme(scheme) == url) {

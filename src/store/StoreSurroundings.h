@@ -16,53 +16,31 @@ namespace vidora {
 // What the store asks of the folders behind it, in its own terms. They implement it; all operations may be called on
 // any thread unless they say otherwise, and none may wait for the store's queues or for the main queue.
 
-/// The user's channels and their load state.
-class ChannelSelection
+/// The user's channels: which are selected, how they are shown, and their load state.
+class StoreChannels
 {
 public:
-    virtual ~ChannelSelection() = default;
+    virtual ~StoreChannels() = default;
     /// The selected channels in the user's order.
     virtual std::vector<ObjectId> selected() const = 0;
+    /// How many shows of a channel the home screen shows, 1 to 255.
+    virtual int showCount() const = 0;
+    /// File name of a channel's icon; nothing for a channel that is unknown or has none.
+    virtual std::optional<QString> iconName(const ObjectId& channel) const = 0;
     /// Forgets that the channel was loaded and deletes its list file, so that it is fetched again.
     virtual void unload(const ObjectId& channel) = 0;
     /// Notes when the channel's list was loaded; nothing happens for a channel that is not selected.
     virtual void setTimeLoaded(const ObjectId& channel, Instant time) = 0;
 };
 
-/// The catalogue, as far as lists of several channels show it.
-class ChannelRecords
+/// What the user follows: favourites, and the alarms, which follow the lists.
+class FollowedShows
 {
 public:
-    virtual ~ChannelRecords() = default;
-    /// The "Icon" value of a channel; nothing for a channel that is unknown or has none.
-    virtual std::optional<QString> iconValue(const ObjectId& channel) const = 0;
-};
-
-class StoreSettings
-{
-public:
-    virtual ~StoreSettings() = default;
-    /// How many shows a row of the home screen holds, 1 to 255.
-    virtual int showCount() const = 0;
-    /// Scheme of the application's own addresses.
-    virtual QString scheme() const = 0;
-};
-
-/// The titles that the user follows.
-class FavoriteTitles
-{
-public:
-    virtual ~FavoriteTitles() = default;
-    /// All of them, in lower case.
+    virtual ~FollowedShows() = default;
+    /// The titles of all favourites, in lower case.
     virtual QSet<QString> lowercasedFavoriteNames() const = 0;
-};
-
-/// The alarms, which follow the lists.
-class AlarmSynchronisation
-{
-public:
-    virtual ~AlarmSynchronisation() = default;
-    /// False: the lists have changed since the last synchronisation.
+    /// False: the lists have changed since the last synchronisation of the alarms.
     virtual void setSynchronized(bool isSynchronized) = 0;
     /// Queues a synchronisation and returns.
     virtual void syncAlarms() = 0;

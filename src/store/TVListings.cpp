@@ -16,8 +16,8 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
 {
     if (m_isLoadHeld)
         m_listingsDictionaryAccessQueue->suspend();
-    m_surroundings.alarms.syncAlarms();
-    std::vector<ObjectId> channels = m_surroundings.selection.selected();
+    m_surroundings.followed.syncAlarms();
+    std::vector<ObjectId> channels = m_surroundings.channels.selected();
     channels.push_back(ObjectId::popular());
     m_listingsDictionaryAccessQueue->barrierAsync([this, channels = std::move(channels)] { load(channels); });
 }
@@ -50,7 +50,7 @@ void TVListings::load(const std::vector<ObjectId>& channels)
             if (!list->empty())
                 serialQueue->sync([&] { loaded.set(channel, std::move(list)); });
             else if (channel != ObjectId::popular())
-                m_surroundings.selection.unload(channel);
+                m_surroundings.channels.unload(channel);
         });
     }
     group.wait();
@@ -173,13 +173,13 @@ void TVListings::setPopularShows(SharedShowList shows)
 
 void TVListings::listingsStored()
 {
-    m_surroundings.alarms.setSynchronized(false);
+    m_surroundings.followed.setSynchronized(false);
     // The synchronisation reads the merged list, and must find the new shows there however soon its turn comes.
     saveAllShows();
     onMain([this] {
         if (m_surroundings.application.isInBackground())
             m_surroundings.application.synchronizeSettings();
-        m_surroundings.alarms.syncAlarms();
+        m_surroundings.followed.syncAlarms();
     });
 }
 

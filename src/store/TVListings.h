@@ -46,14 +46,12 @@ public:
     {
         const Clock& clock;
         QString cachesDirectory; ///< where the list files lie
-        ChannelSelection& selection;
-        const ChannelRecords& records;
+        StoreChannels& channels;
         const TVStationIcons& icons;
-        const StoreSettings& settings;
-        AlarmSynchronisation& alarms;
+        FollowedShows& followed;
         ApplicationLife& application;
+        QString scheme; ///< of the application's own addresses
         FileLayer& files = FileLayer::system();
-        const FavoriteTitles* favorites = nullptr; ///< null: there are none
         Loading loading = Loading::AtOnce;
     };
     using Completion = std::function<void()>;

@@ -155,7 +155,7 @@ TEST_F(AlarmTest, AlertsAreTheShowsForWhichAnAlarmWillSound)
     ASSERT_TRUE(icon.open(QIODevice::WriteOnly));
     icon.write("icon");
     icon.close();
-    device.iconValues[one] = QStringLiteral("Serbian/icon.png");
+    device.iconNames[one] = QStringLiteral("icon.png");
     update(one, {{news, -10, 30}, {film, 20, 40}, {news, 60, 90}, {news, 120, 150}, {news, 300, 330}});
     favorite(news, 10);
     put(event(QStringLiteral("Unknown"), 70, QStringLiteral("One"), QStringLiteral("vidora://nobody/1")));

@@ -36,8 +36,8 @@ protected:
         engine = std::make_unique<AlarmEngine>(AlarmSurroundings{clock, *shows, *alarms, silentHours, counters,
                                                                  calendars, defaults, keyValueStore, device, *this,
                                                                  *this, QStringLiteral("vidora")});
-        listings = std::make_unique<TVListings>(TVListings::Surroundings{
-            clock, folder.path(), device, device, icons, device, *engine, device, FileLayer::system(), &*shows});
+        listings = std::make_unique<TVListings>(
+            TVListings::Surroundings{clock, folder.path(), device, icons, *engine, device, QStringLiteral("vidora")});
         engine->setListings(*listings);
         settle();
     }

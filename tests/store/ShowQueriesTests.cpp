@@ -232,8 +232,8 @@ TEST_F(ShowQueriesTest, FindsABroadcastByItsAddress)
 
 TEST_F(ShowQueriesTest, CompoundListingsAreGroupedByTheDaysOfTheDevice)
 {
-    device.iconValues[two] = "no slash"_s;
-    device.iconValues[three] = "icons/missing.png"_s;
+    device.iconNames.erase(two);
+    device.iconNames[three] = "missing.png"_s;
     const auto shows = std::make_shared<ShowList>(*listOf(one, {{"a"_s, 0, 10}, {"b"_s, 509, 520}, {"c"_s, 510, 520}}));
     for (const ObjectId& channel : {two, three, channelId(9)})
         shows->push_back(TestShow{"hidden"_s, 0, 10}.show(channel));

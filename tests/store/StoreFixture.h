@@ -54,11 +54,7 @@ inline QStringList titles(const ShowList& list)
 }
 
 /// A device around the store: everything that the store asks for, and what it did to it.
-class StoreDevice : public ChannelSelection,
-                    public ChannelRecords,
-                    public StoreSettings,
-                    public AlarmSynchronisation,
-                    public ApplicationLife
+class StoreDevice : public StoreChannels, public FollowedShows, public ApplicationLife
 {
 public:
     std::vector<ObjectId> selected() const override { return selection; }
@@ -72,13 +68,13 @@ public:
         const std::lock_guard lock(mutex);
         loaded[channel] = time;
     }
-    std::optional<QString> iconValue(const ObjectId& channel) const override
+    std::optional<QString> iconName(const ObjectId& channel) const override
     {
-        const auto icon = iconValues.find(channel);
-        return icon == iconValues.end() ? std::nullopt : std::optional(icon->second);
+        const auto icon = iconNames.find(channel);
+        return icon == iconNames.end() ? std::nullopt : std::optional(icon->second);
     }
     int showCount() const override { return 4; }
-    QString scheme() const override { return QStringLiteral("vidora"); }
+    QSet<QString> lowercasedFavoriteNames() const override { return {}; }
     void setSynchronized(bool isSynchronized) override { synchronized = isSynchronized; }
     void syncAlarms() override { ++alarmSyncs; }
     bool isInBackground() const override { return inBackground; }
@@ -98,7 +94,7 @@ public:
     }
 
     std::vector<ObjectId> selection;
-    std::map<ObjectId, QString> iconValues;
+    std::map<ObjectId, QString> iconNames;
     std::mutex mutex;
     std::set<ObjectId> unloaded;
     std::map<ObjectId, Instant> loaded;
@@ -116,8 +112,8 @@ protected:
     {
         listings.reset();
         listings =
-            std::make_unique<TVListings>(TVListings::Surroundings{clock, folder.path(), device, device, icons, device,
-                                                                  device, device, files, nullptr, loading},
+            std::make_unique<TVListings>(TVListings::Surroundings{clock, folder.path(), device, icons, device, device,
+                                                                  QStringLiteral("vidora"), files, loading},
                                          [this](SharedShowList merged) { refreshed.push_back(std::move(merged)); });
     }
     void store(const ObjectId& channel, const std::vector<TestShow>& shows)
@@ -178,7 +174,7 @@ protected:
         QFile icon(folder.filePath(QStringLiteral("icon.png")));
         ASSERT_TRUE(icon.open(QIODevice::WriteOnly));
         for (const ObjectId& channel : channels)
-            device.iconValues[channel] = QStringLiteral("icons/icon.png");
+            device.iconNames[channel] = QStringLiteral("icon.png");
     }
 
     FixedClock clock{testNow};
