@@ -132,14 +132,6 @@
         <translation>Zatím žádné oblíbené. &quot;vidora favourite X&quot; pořad přidá.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at vyžaduje čas, například 20:00 nebo 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Chybí --at ČAS: kdy vysílání začíná.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>V tu dobu nezačíná žádné nadcházející vysílání pořadu &quot;%1&quot;.</translation>
     </message>
@@ -212,20 +204,8 @@
         <translation>Neznámá volba %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 vyžaduje hodnotu.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock vyžaduje čas, například 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Neznámý příkaz %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 vyžaduje argument.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -248,10 +228,6 @@
         <translation>nadcházející pořady jedné kategorie</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TEXT</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>nadcházející pořady, které obsahují text</translation>
     </message>
@@ -272,16 +248,8 @@
         <translation>stáhnout, co chybí nebo je staré</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import ADRESA</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>použít vlastní XMLTV program: adresa nebo soubor</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>sledovat pořad; --alarm MINUTY zazvoní před každým vysíláním, nebo jen --premieres či --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -292,24 +260,12 @@
         <translation>sledované pořady</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ČAS [--on KANÁL] [--before MINUTY]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ČAS] [--on KANÁL]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>odebrat upozornění jednoho vysílání, nebo všech</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>vysílání oblíbených pořadů, na která zazvoní upozornění</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | OD DO]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -324,16 +280,8 @@
         <translation>odpovědi pro programy</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home SLOŽKA</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>vše ukládat do této složky</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ČAS</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -358,10 +306,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X je název, jeho jednoznačná část, nebo ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Použití: vidora [PŘÍKAZ] [VOLBA]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -692,10 +636,6 @@
         <translation>Všechna vysílání tohoto oblíbeného pořadu mají upozornění: příští aktualizace je znovu nastaví.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>zazvonit před jedním vysíláním oblíbeného pořadu</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Seznam kanálů</translation>
     </message>
@@ -824,24 +764,12 @@
         <translation>Server neposlal srozumitelnou odpověď.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add ADRESA --user JMÉNO</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>použít kalendáře serveru CalDAV; zeptá se na heslo</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [JMÉNO]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>co říkají servery účtů</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove JMÉNO [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -854,6 +782,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Heslo nebylo zadáno.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ČAS</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>kdy vysílání začíná: 20:00 nebo 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>KANÁL</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>na tomto kanálu</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>zazvonit před jedním vysíláním a sledovat jeho pořad</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINUTY</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>o tolik dříve; bez toho jako naposledy</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | OD DO]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESA</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>JMÉNO</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>jméno k přihlášení</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[JMÉNO]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>i když čekají změny, které server nemá</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>SLOŽKA</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>tento text; za příkazem to, co přijímá</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 vyžaduje čas, například 20:00 nebo 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 vyžaduje čas, například 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 vyžaduje %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Použití: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>Jak na to, řekne „%1“.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>sledovat pořad a zazvonit před jeho vysíláním</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>zazvonit o tolik dříve před každým vysíláním</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>jen před premiérami</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>jen před reprízami</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[PŘÍKAZ] [VOLBA]...</translation>
     </message>
 </context>
 </TS>

@@ -129,14 +129,6 @@
         <translation>Noch keine Favoriten. &quot;vidora favourite X&quot; fügt einen hinzu.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at verlangt eine Zeit wie 20:00 oder 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>--at ZEIT fehlt: wann die Sendung beginnt.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Keine kommende Ausstrahlung von &quot;%1&quot; beginnt zu dieser Zeit.</translation>
     </message>
@@ -207,20 +199,8 @@
         <translation>Unbekannte Option %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 braucht einen Wert.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock verlangt eine Zeit wie 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Unbekannter Befehl %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 braucht ein Argument.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -243,10 +223,6 @@
         <translation>kommende Sendungen einer Kategorie</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TEXT</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>kommende Sendungen, die einen Text enthalten</translation>
     </message>
@@ -267,16 +243,8 @@
         <translation>holen, was fehlt oder veraltet ist</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import ADRESSE</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>einen eigenen XMLTV-Programmführer benutzen: Adresse oder Datei</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>einem Titel folgen; --alarm MINUTEN erinnert vor jeder Ausstrahlung, oder nur mit --premieres oder --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -287,24 +255,12 @@
         <translation>die Titel, denen Sie folgen</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ZEIT [--on SENDER] [--before MINUTEN]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ZEIT] [--on SENDER]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>die Erinnerung einer Ausstrahlung entfernen, oder aller</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>die Ausstrahlungen der Favoriten, an die erinnert wird</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | VON BIS]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -319,16 +275,8 @@
         <translation>Antworten für Programme</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home ORDNER</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>alles in diesem Ordner aufbewahren</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ZEIT</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -353,10 +301,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X ist ein Titel, ein eindeutiger Teil davon oder eine ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Aufruf: vidora [BEFEHL] [OPTION]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -681,10 +625,6 @@
         <translation>Alle Ausstrahlungen dieses Favoriten haben eine Erinnerung: Die nächste Aktualisierung setzt sie wieder.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>vor einer einzelnen Ausstrahlung eines Favoriten erinnern</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Senderliste</translation>
     </message>
@@ -813,24 +753,12 @@
         <translation>Der Server gab keine verständliche Antwort.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add ADRESSE --user NAME</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>die Kalender eines CalDAV-Servers benutzen; fragt nach dem Passwort</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [NAME]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>was die Server der Konten sagen</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove NAME [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -843,6 +771,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Es wurde kein Passwort angegeben.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ZEIT</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>wann die Ausstrahlung beginnt: 20:00 oder 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>SENDER</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>auf diesem Sender</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>vor einer einzelnen Ausstrahlung erinnern und ihrem Titel folgen</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINUTEN</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>so lange vorher; ohne Angabe wie beim letzten Mal</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | VON BIS]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESSE</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>der Name für die Anmeldung</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[NAME]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>auch wenn Änderungen warten, die der Server nicht hat</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>ORDNER</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>dieser Text; hinter einem Befehl, was er annimmt</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 verlangt eine Zeit wie 20:00 oder 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 verlangt eine Zeit wie 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 braucht %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>„%1“ sagt, wie es geht.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>einem Titel folgen und vor seinen Ausstrahlungen erinnern</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>so lange vor jeder Ausstrahlung erinnern</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>nur bei Erstausstrahlungen</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>nur bei Wiederholungen</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[BEFEHL] [OPTION]...</translation>
     </message>
 </context>
 </TS>

@@ -126,14 +126,6 @@
         <translation>Még nincs kedvenc. A &quot;vidora favourite X&quot; vesz fel egyet.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>Az --at időpontot vár, például 20:00 vagy 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Hiányzik az --at IDŐ: mikor kezdődik az adás.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Akkor nem kezdődik &quot;%1&quot; című adás.</translation>
     </message>
@@ -202,20 +194,8 @@
         <translation>Ismeretlen kapcsoló: %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 értéket vár.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>A --clock időpontot vár, például 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Ismeretlen parancs: %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 argumentumot vár.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -238,10 +218,6 @@
         <translation>egy kategória következő műsorai</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search SZÖVEG</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>következő műsorok, amelyekben előfordul egy szöveg</translation>
     </message>
@@ -262,16 +238,8 @@
         <translation>a hiányzó vagy elavult adatok letöltése</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import CÍM</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>saját XMLTV-műsorújság használata: cím vagy fájl</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>egy cím követése; az --alarm PERC minden adás előtt jelez, vagy csak --premieres, illetve --replays esetén</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -282,24 +250,12 @@
         <translation>a követett címek</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at IDŐ [--on CSATORNA] [--before PERC]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at IDŐ] [--on CSATORNA]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>egy adás vagy az összes riasztásának törlése</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>a kedvencek adásai, amelyek jelezni fognak</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | ETTŐL EDDIG]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -314,16 +270,8 @@
         <translation>válaszok programok számára</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home MAPPA</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>minden adat ebben a mappában</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock IDŐ</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -348,10 +296,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X egy cím, annak egyértelmű része vagy egy azonosító.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Használat: vidora [PARANCS] [KAPCSOLÓ]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -670,10 +614,6 @@
         <translation>Ennek a kedvencnek minden adásához tartozik riasztás: a következő frissítés újra beállítja.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>jelzés egy kedvenc egyetlen adása előtt</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Csatornalista</translation>
     </message>
@@ -802,24 +742,12 @@
         <translation>A kiszolgáló válasza nem értelmezhető.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add CÍM --user NÉV</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>egy CalDAV-kiszolgáló naptárainak használata; jelszót kér</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [NÉV]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>mit mondanak a fiókok kiszolgálói</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove NÉV [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -832,6 +760,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Nincs megadva jelszó.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>IDŐ</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>mikor kezdődik az adás: 20:00 vagy 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>CSATORNA</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>ezen a csatornán</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>jelzés egyetlen adás előtt, és a cím követése</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>PERC</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>ennyivel előbb; enélkül mint legutóbb</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | ETTŐL EDDIG]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>CÍM</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NÉV</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>a bejelentkezési név</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[NÉV]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>akkor is, ha olyan változások várnak, amelyek nincsenek a kiszolgálón</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>MAPPA</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>ez a szöveg; parancs után az, amit elfogad</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 időpontot vár, például 20:00 vagy 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 időpontot vár, például 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 ezt várja: %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Használat: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>A „%1” megmondja, hogyan.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>egy cím követése és jelzés az adásai előtt</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>ennyivel jelez minden adás előtt</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>csak premierek előtt</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>csak ismétlések előtt</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>SZÖVEG</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[PARANCS] [KAPCSOLÓ]...</translation>
     </message>
 </context>
 </TS>

@@ -129,14 +129,6 @@
         <translation>Ancora nessun preferito. &quot;vidora favourite X&quot; ne aggiunge uno.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at richiede un orario come 20:00 o 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Manca --at ORA: quando inizia la trasmissione.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Nessuna prossima trasmissione di &quot;%1&quot; inizia a quell&apos;ora.</translation>
     </message>
@@ -207,20 +199,8 @@
         <translation>Opzione sconosciuta: %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 richiede un valore.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock richiede un momento come 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Comando sconosciuto: %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 richiede un argomento.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -243,10 +223,6 @@
         <translation>prossimi programmi di una categoria</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TESTO</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>prossimi programmi che contengono un testo</translation>
     </message>
@@ -267,16 +243,8 @@
         <translation>scarica ciò che manca o è vecchio</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import INDIRIZZO</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>usa una guida XMLTV propria: un indirizzo o un file</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>segue un titolo; --alarm MINUTI suona prima di ogni messa in onda, o solo con --premieres o --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -287,24 +255,12 @@
         <translation>i titoli seguiti</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ORA [--on CANALE] [--before MINUTI]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ORA] [--on CANALE]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>rimuove l&apos;avviso di una messa in onda, o di tutte</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>le messe in onda dei preferiti che suoneranno</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | DALLE ALLE]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -319,16 +275,8 @@
         <translation>risposte per programmi</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home CARTELLA</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>conserva tutto in questa cartella</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ORA</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -353,10 +301,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X è un titolo, una sua parte che appartiene a uno solo, o un ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Uso: vidora [COMANDO] [OPZIONE]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -681,10 +625,6 @@
         <translation>Tutte le messe in onda di questo preferito hanno un avviso: il prossimo aggiornamento lo imposta di nuovo.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>suona prima di una sola messa in onda di un preferito</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Elenco dei canali</translation>
     </message>
@@ -813,24 +753,12 @@
         <translation>Il server non ha dato una risposta comprensibile.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add INDIRIZZO --user NOME</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>usa i calendari di un server CalDAV; chiede la password</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [NOME]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>che cosa dicono i server degli account</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove NOME [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -843,6 +771,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Nessuna password inserita.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ORA</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>quando inizia la messa in onda: 20:00 o 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>CANALE</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>su questo canale</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>suona prima di una sola messa in onda e ne segue il titolo</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINUTI</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>con questo anticipo; senza, come l&apos;ultima volta</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | DALLE ALLE]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>INDIRIZZO</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>il nome con cui accedere</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[NOME]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>anche se attendono modifiche che il server non ha</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>CARTELLA</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>questo testo; dopo un comando, ciò che accetta</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 richiede un orario come 20:00 o 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 richiede un momento come 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 richiede %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>&quot;%1&quot; dice come.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>segue un titolo e suona prima delle sue messe in onda</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>suona con questo anticipo prima di ogni messa in onda</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>solo per le prime visioni</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>solo per le repliche</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TESTO</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[COMANDO] [OPZIONE]...</translation>
     </message>
 </context>
 </TS>

@@ -132,14 +132,6 @@
         <translation>Сè уште нема омилени. &quot;vidora favourite X&quot; додава емисија.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at бара време како 20:00 или 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Недостасува --at ВРЕМЕ: кога почнува емисијата.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Тогаш не почнува ниедно претстојно емитување на &quot;%1&quot;.</translation>
     </message>
@@ -212,20 +204,8 @@
         <translation>Непозната опција %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 бара вредност.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock бара време како 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Непозната команда %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 бара аргумент.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -248,10 +228,6 @@
         <translation>претстојни емисии од една категорија</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search ТЕКСТ</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>претстојни емисии што содржат текст</translation>
     </message>
@@ -272,16 +248,8 @@
         <translation>преземи го она што недостасува или е старо</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import АДРЕСА</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>користи сопствен XMLTV водич: адреса или датотека</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>следи наслов; --alarm МИНУТИ ѕвони пред секое емитување, или само --premieres односно --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -292,24 +260,12 @@
         <translation>насловите што се следат</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ВРЕМЕ [--on КАНАЛ] [--before МИНУТИ]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ВРЕМЕ] [--on КАНАЛ]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>отстрани го алармот на едно емитување или на сите</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>емитувањата на омилените емисии што ќе ѕвонат</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | ОД ДО]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -324,16 +280,8 @@
         <translation>одговори за програми</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home ПАПКА</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>чувај сè во оваа папка</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ВРЕМЕ</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -358,10 +306,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X е наслов, негов дел што го има само еден, или ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Употреба: vidora [КОМАНДА] [ОПЦИЈА]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -692,10 +636,6 @@
         <translation>Сите емитувања на оваа омилена емисија имаат аларм: следното освежување повторно го поставува.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>ѕвони пред едно емитување на омилена емисија</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Список на канали</translation>
     </message>
@@ -824,24 +764,12 @@
         <translation>Серверот не даде разбирлив одговор.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add АДРЕСА --user ИМЕ</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>користи ги календарите на CalDAV сервер; прашува за лозинка</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [ИМЕ]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>што кажуваат серверите на сметките</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove ИМЕ [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -854,6 +782,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Не е внесена лозинка.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ВРЕМЕ</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>кога почнува емитувањето: 20:00 или 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>КАНАЛ</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>на овој канал</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>ѕвони пред едно емитување и го следи неговиот наслов</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>МИНУТИ</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>толку порано; без тоа како минатиот пат</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | ОД ДО]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>АДРЕСА</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>ИМЕ</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>името за најава</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[ИМЕ]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>и кога чекаат промени што ги нема на серверот</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>ПАПКА</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>овој текст; зад команда, она што таа го прима</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 бара време како 20:00 или 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 бара време како 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 бара %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Употреба: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>„%1“ кажува како.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>следи наслов и ѕвони пред неговите емитувања</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>ѕвони толку порано пред секое емитување</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>само за премиери</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>само за репризи</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>ТЕКСТ</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[КОМАНДА] [ОПЦИЈА]...</translation>
     </message>
 </context>
 </TS>

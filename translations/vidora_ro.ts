@@ -132,14 +132,6 @@
         <translation>Nu există încă favorite. &quot;vidora favourite X&quot; adaugă una.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at cere o oră precum 20:00 sau 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Lipsește --at ORA: când începe difuzarea.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Nicio difuzare viitoare a titlului &quot;%1&quot; nu începe atunci.</translation>
     </message>
@@ -212,20 +204,8 @@
         <translation>Opțiune necunoscută: %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 cere o valoare.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock cere un moment precum 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Comandă necunoscută: %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 cere un argument.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -248,10 +228,6 @@
         <translation>emisiunile viitoare dintr-o categorie</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TEXT</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>emisiunile viitoare care conțin un text</translation>
     </message>
@@ -272,16 +248,8 @@
         <translation>descarcă ce lipsește sau este vechi</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import ADRESA</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>folosește un ghid XMLTV propriu: o adresă sau un fișier</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>urmărește un titlu; --alarm MINUTE sună înainte de fiecare difuzare, sau doar cu --premieres ori --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -292,24 +260,12 @@
         <translation>titlurile urmărite</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ORA [--on CANAL] [--before MINUTE]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ORA] [--on CANAL]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>elimină alarma unei difuzări sau a tuturor</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>difuzările favoritelor care vor suna</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | DE-LA LA]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -324,16 +280,8 @@
         <translation>răspunsuri pentru programe</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home DOSAR</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>păstrează totul în acest dosar</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ORA</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -358,10 +306,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X este un titlu, o parte din el pe care o are doar unul, sau un ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Utilizare: vidora [COMANDĂ] [OPȚIUNE]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -692,10 +636,6 @@
         <translation>Toate difuzările acestui favorit au alarmă: următoarea actualizare o setează din nou.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>sună înainte de o difuzare a unui favorit</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Lista canalelor</translation>
     </message>
@@ -824,24 +764,12 @@
         <translation>Serverul nu a dat un răspuns inteligibil.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add ADRESA --user NUME</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>folosește calendarele unui server CalDAV; cere parola</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [NUME]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>ce spun serverele conturilor</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove NUME [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -854,6 +782,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Nu a fost introdusă nicio parolă.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ORA</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>când începe difuzarea: 20:00 sau 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>CANAL</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>pe acest canal</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>sună înainte de o singură difuzare și îi urmărește titlul</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINUTE</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>cu atât mai devreme; fără ea, ca ultima dată</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | DE-LA LA]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESA</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NUME</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>numele de autentificare</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[NUME]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>chiar dacă așteaptă modificări pe care serverul nu le are</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>DOSAR</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>acest text; după o comandă, ce acceptă ea</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 cere o oră precum 20:00 sau 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 cere un moment precum 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 cere %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilizare: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>„%1” spune cum.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>urmărește un titlu și sună înainte de difuzările lui</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>sună cu atât înainte de fiecare difuzare</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>doar pentru premiere</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>doar pentru reluări</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[COMANDĂ] [OPȚIUNE]...</translation>
     </message>
 </context>
 </TS>

@@ -132,14 +132,6 @@
         <translation>Zatiaľ žiadne obľúbené. &quot;vidora favourite X&quot; reláciu pridá.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at vyžaduje čas, napríklad 20:00 alebo 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Chýba --at ČAS: kedy sa vysielanie začína.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>V tom čase sa nezačína žiadne nadchádzajúce vysielanie relácie &quot;%1&quot;.</translation>
     </message>
@@ -212,20 +204,8 @@
         <translation>Neznáma voľba %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 vyžaduje hodnotu.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock vyžaduje čas, napríklad 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Neznámy príkaz %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 vyžaduje argument.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -248,10 +228,6 @@
         <translation>nadchádzajúce relácie jednej kategórie</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TEXT</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>nadchádzajúce relácie, ktoré obsahujú text</translation>
     </message>
@@ -272,16 +248,8 @@
         <translation>stiahnuť, čo chýba alebo je staré</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import ADRESA</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>použiť vlastný XMLTV program: adresa alebo súbor</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>sledovať reláciu; --alarm MINÚTY zazvoní pred každým vysielaním, alebo len --premieres či --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -292,24 +260,12 @@
         <translation>sledované relácie</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at ČAS [--on KANÁL] [--before MINÚTY]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at ČAS] [--on KANÁL]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>odobrať upozornenie jedného vysielania, alebo všetkých</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>vysielania obľúbených relácií, na ktoré zazvoní upozornenie</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | OD DO]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -324,16 +280,8 @@
         <translation>odpovede pre programy</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home PRIEČINOK</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>všetko ukladať do tohto priečinka</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock ČAS</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -358,10 +306,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X je názov, jeho jednoznačná časť, alebo ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Použitie: vidora [PRÍKAZ] [VOĽBA]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -692,10 +636,6 @@
         <translation>Všetky vysielania tejto obľúbenej relácie majú upozornenie: ďalšia aktualizácia ho znova nastaví.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>zazvoniť pred jedným vysielaním obľúbenej relácie</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Zoznam kanálov</translation>
     </message>
@@ -824,24 +764,12 @@
         <translation>Server neposlal zrozumiteľnú odpoveď.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add ADRESA --user MENO</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>použiť kalendáre servera CalDAV; opýta sa na heslo</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [MENO]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>čo hovoria servery účtov</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove MENO [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -854,6 +782,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Heslo nebolo zadané.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ČAS</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>kedy sa vysielanie začína: 20:00 alebo 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>KANÁL</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>na tomto kanáli</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>zazvoniť pred jedným vysielaním a sledovať jeho reláciu</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINÚTY</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>o toľko skôr; bez toho ako naposledy</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | OD DO]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESA</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>MENO</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>meno na prihlásenie</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[MENO]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>aj keď čakajú zmeny, ktoré server nemá</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>PRIEČINOK</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>tento text; za príkazom to, čo prijíma</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 vyžaduje čas, napríklad 20:00 alebo 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 vyžaduje čas, napríklad 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 vyžaduje %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Použitie: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>Ako na to, povie „%1“.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>sledovať reláciu a zazvoniť pred jej vysielaniami</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>zazvoniť o toľko skôr pred každým vysielaním</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>len pred premiérami</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>len pred reprízami</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[PRÍKAZ] [VOĽBA]...</translation>
     </message>
 </context>
 </TS>

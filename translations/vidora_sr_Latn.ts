@@ -132,14 +132,6 @@
         <translation>Još nema omiljenih. &quot;vidora favourite X&quot; dodaje emisiju.</translation>
     </message>
     <message>
-        <source>--at takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
-        <translation>--at traži vreme kao što je 20:00 ili 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
-        <source>--at TIME is missing: when the broadcast starts.</source>
-        <translation>Nedostaje --at VREME: kada emisija počinje.</translation>
-    </message>
-    <message>
         <source>No coming broadcast of &quot;%1&quot; starts then.</source>
         <translation>Tada ne počinje nijedno predstojeće emitovanje naslova &quot;%1&quot;.</translation>
     </message>
@@ -212,20 +204,8 @@
         <translation>Nepoznata opcija %1.</translation>
     </message>
     <message>
-        <source>%1 needs a value.</source>
-        <translation>%1 traži vrednost.</translation>
-    </message>
-    <message>
-        <source>--clock takes a time such as 2026-11-22T19:00:00Z.</source>
-        <translation>--clock traži vreme kao što je 2026-11-22T19:00:00Z.</translation>
-    </message>
-    <message>
         <source>Unknown command %1.</source>
         <translation>Nepoznata komanda %1.</translation>
-    </message>
-    <message>
-        <source>%1 needs an argument.</source>
-        <translation>%1 traži argument.</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;.</source>
@@ -248,10 +228,6 @@
         <translation>predstojeće emisije jedne kategorije</translation>
     </message>
     <message>
-        <source>search TEXT</source>
-        <translation>search TEKST</translation>
-    </message>
-    <message>
         <source>coming shows that contain a text</source>
         <translation>predstojeće emisije koje sadrže tekst</translation>
     </message>
@@ -272,16 +248,8 @@
         <translation>preuzmi ono što nedostaje ili je staro</translation>
     </message>
     <message>
-        <source>import ADDRESS</source>
-        <translation>import ADRESA</translation>
-    </message>
-    <message>
         <source>use an XMLTV guide of your own: an address or a file</source>
         <translation>koristi sopstveni XMLTV vodič: adresa ili datoteka</translation>
-    </message>
-    <message>
-        <source>follow a title; --alarm MINUTES rings ahead of each broadcast, of --premieres or --replays only</source>
-        <translation>prati naslov; --alarm MINUTI zvoni pre svakog emitovanja, ili samo --premieres odnosno --replays</translation>
     </message>
     <message>
         <source>follow it no longer, and remove its alarms</source>
@@ -292,24 +260,12 @@
         <translation>naslovi koji se prate</translation>
     </message>
     <message>
-        <source>alarm X --at TIME [--on CHANNEL] [--before MINUTES]</source>
-        <translation>alarm X --at VREME [--on KANAL] [--before MINUTI]</translation>
-    </message>
-    <message>
-        <source>unalarm X [--at TIME] [--on CHANNEL]</source>
-        <translation>unalarm X [--at VREME] [--on KANAL]</translation>
-    </message>
-    <message>
         <source>remove the alarm of one broadcast, or of all</source>
         <translation>ukloni alarm jednog emitovanja ili svih</translation>
     </message>
     <message>
         <source>the broadcasts of favourites that will ring</source>
         <translation>emitovanja omiljenih emisija koja će zvoniti</translation>
-    </message>
-    <message>
-        <source>silent-hours [off | FROM TO]</source>
-        <translation>silent-hours [off | OD DO]</translation>
     </message>
     <message>
         <source>when favourites must not ring</source>
@@ -324,16 +280,8 @@
         <translation>odgovori za programe</translation>
     </message>
     <message>
-        <source>--home DIR</source>
-        <translation>--home FOLDER</translation>
-    </message>
-    <message>
         <source>keep everything in this folder</source>
         <translation>čuvaj sve u ovom folderu</translation>
-    </message>
-    <message>
-        <source>--clock TIME</source>
-        <translation>--clock VREME</translation>
     </message>
     <message>
         <source>the guide as at another moment: 2026-11-22T19:00:00Z</source>
@@ -358,10 +306,6 @@
     <message>
         <source>X is a title, a part of it that only one has, or an id.</source>
         <translation>X je naslov, njegov deo koji ima samo jedan, ili ID.</translation>
-    </message>
-    <message>
-        <source>Usage: vidora [COMMAND] [OPTION]...</source>
-        <translation>Upotreba: vidora [KOMANDA] [OPCIJA]...</translation>
     </message>
     <message>
         <source>No channels are chosen yet. &quot;vidora channels&quot; lists them, &quot;vidora select X...&quot; chooses.</source>
@@ -692,10 +636,6 @@
         <translation>Sva emitovanja ove omiljene emisije imaju alarm: naredno osvežavanje ga ponovo postavlja.</translation>
     </message>
     <message>
-        <source>ring ahead of one broadcast of a favourite</source>
-        <translation>zvoni pre jednog emitovanja omiljene emisije</translation>
-    </message>
-    <message>
         <source>List of the channels</source>
         <translation>Spisak kanala</translation>
     </message>
@@ -824,24 +764,12 @@
         <translation>Server nije dao razumljiv odgovor.</translation>
     </message>
     <message>
-        <source>calendars add ADDRESS --user NAME</source>
-        <translation>calendars add ADRESA --user IME</translation>
-    </message>
-    <message>
         <source>use the calendars of a CalDAV server; asks for the password</source>
         <translation>koristi kalendare CalDAV servera; pita za lozinku</translation>
     </message>
     <message>
-        <source>calendars test [NAME]</source>
-        <translation>calendars test [IME]</translation>
-    </message>
-    <message>
         <source>what the servers of the accounts say</source>
         <translation>šta kažu serveri naloga</translation>
-    </message>
-    <message>
-        <source>calendars remove NAME [--force]</source>
-        <translation>calendars remove IME [--force]</translation>
     </message>
     <message>
         <source>use an account no more</source>
@@ -854,6 +782,110 @@
     <message>
         <source>No password was given.</source>
         <translation>Lozinka nije uneta.</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>VREME</translation>
+    </message>
+    <message>
+        <source>when the broadcast starts: 20:00 or 2026-11-22T19:00:00Z</source>
+        <translation>kada emitovanje počinje: 20:00 ili 2026-11-22T19:00:00Z</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>KANAL</translation>
+    </message>
+    <message>
+        <source>on this channel</source>
+        <translation>na ovom kanalu</translation>
+    </message>
+    <message>
+        <source>ring ahead of one broadcast, and follow its title</source>
+        <translation>zvoni pre jednog emitovanja i prati njegov naslov</translation>
+    </message>
+    <message>
+        <source>MINUTES</source>
+        <translation>MINUTI</translation>
+    </message>
+    <message>
+        <source>so long ahead; without it, as the last time</source>
+        <translation>toliko ranije; bez toga kao prošli put</translation>
+    </message>
+    <message>
+        <source>[off | FROM TO]</source>
+        <translation>[off | OD DO]</translation>
+    </message>
+    <message>
+        <source>ADDRESS</source>
+        <translation>ADRESA</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>IME</translation>
+    </message>
+    <message>
+        <source>the name to log in with</source>
+        <translation>ime za prijavu</translation>
+    </message>
+    <message>
+        <source>[NAME]</source>
+        <translation>[IME]</translation>
+    </message>
+    <message>
+        <source>even where changes wait that the server does not have</source>
+        <translation>i kad čekaju promene kojih nema na serveru</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>FOLDER</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, what it takes</source>
+        <translation>ovaj tekst; iza komande ono što ona prima</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.</source>
+        <translation>%1 traži vreme kao što je 20:00 ili 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 takes a time such as 2026-11-22T19:00:00Z.</source>
+        <translation>%1 traži vreme kao što je 2026-11-22T19:00:00Z.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2.</source>
+        <translation>%1 traži %2.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Upotreba: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; tells how.</source>
+        <translation>&quot;%1&quot; kaže kako.</translation>
+    </message>
+    <message>
+        <source>follow a title, and ring ahead of its broadcasts</source>
+        <translation>prati naslov i zvoni pre njegovih emitovanja</translation>
+    </message>
+    <message>
+        <source>ring so long ahead of each broadcast</source>
+        <translation>zvoni toliko pre svakog emitovanja</translation>
+    </message>
+    <message>
+        <source>of premieres only</source>
+        <translation>samo za premijere</translation>
+    </message>
+    <message>
+        <source>of replays only</source>
+        <translation>samo za reprize</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEKST</translation>
+    </message>
+    <message>
+        <source>[COMMAND] [OPTION]...</source>
+        <translation>[KOMANDA] [OPCIJA]...</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "app/ChannelNames.h"
 
+#include "app/Refusal.h"
 #include "content/TextFolding.h"
 #include "platform/DeviceSettings.h"
 #include "platform/Localized.h"
@@ -66,7 +67,16 @@ QString ambiguousName(const QString& name, const QStringList& candidates, const 
                                 : localized("\"%1\" may be: %2").arg(name, list);
 }
 
-NamedChannel channelNamed(const QString& name, const ChannelData& channels)
+QString textNamed(const QString& name, QStringList texts)
+{
+    texts.removeDuplicates();
+    const QStringList candidates = candidatesFor(name, texts);
+    if (candidates.size() != 1)
+        throw Refusal{ambiguousName(name, candidates, texts)};
+    return candidates.front();
+}
+
+ObjectId channelNamed(const QString& name, const ChannelData& channels)
 {
     const ObjectId id = ObjectId::initWithHex(name.toLower());
     if (name.size() == 2 * ObjectId::length && channels.contains(id))
@@ -85,7 +95,7 @@ NamedChannel channelNamed(const QString& name, const ChannelData& channels)
                               ? titles[i] + QStringLiteral(" (%1)").arg(ids[static_cast<std::size_t>(i)].hex())
                               : titles[i]);
     }
-    return ambiguousName(name, described, titles);
+    throw Refusal{ambiguousName(name, described, titles)};
 }
 
 } // namespace vidora

@@ -1,62 +1,73 @@
 #include "app/CommandLine.h"
 
+#include "app/Command.h"
+#include "app/Refusal.h"
 #include "platform/Localized.h"
 
-#include <QHash>
+#include <QTime>
+
+#include <algorithm>
 
 namespace vidora {
 
 namespace {
 
-struct Arity
-{
-    qsizetype least;
-    qsizetype most;
-};
+constexpr int mostMinutes = 7 * 24 * 60;
 
-constexpr qsizetype any = 1'000'000;
-
-const QHash<QString, Arity>& commands()
+const CommandOption* optionNamed(const QString& name, const std::vector<CommandOption>& options)
 {
-    static const QHash<QString, Arity> table{
-        {QStringLiteral("update"), {0, 0}},        {QStringLiteral("now"), {0, 0}},
-        {QStringLiteral("channel"), {1, any}},     {QStringLiteral("category"), {1, any}},
-        {QStringLiteral("search"), {1, any}},      {QStringLiteral("channels"), {0, 0}},
-        {QStringLiteral("select"), {1, any}},      {QStringLiteral("unselect"), {1, any}},
-        {QStringLiteral("import"), {1, 1}},        {QStringLiteral("favourite"), {1, any}},
-        {QStringLiteral("unfavourite"), {1, any}}, {QStringLiteral("favourites"), {0, 0}},
-        {QStringLiteral("alarm"), {1, any}},       {QStringLiteral("unalarm"), {1, any}},
-        {QStringLiteral("alerts"), {0, 0}},        {QStringLiteral("silent-hours"), {0, 2}},
-        {QStringLiteral("calendars"), {0, any}},
-    };
-    return table;
+    const auto found = std::find_if(options.begin(), options.end(),
+                                    [&](const CommandOption& option) { return name == QLatin1String(option.name); });
+    return found == options.end() ? nullptr : &*found;
 }
 
-/// The options of single commands, and whether they take a value.
-const QHash<QString, QHash<QString, bool>>& optionsOfCommands()
+/// The option of this name that every command or any command takes: options may stand ahead of the command.
+const CommandOption* optionNamed(const QString& name)
 {
-    static const QHash<QString, QHash<QString, bool>> table{
-        {QStringLiteral("favourite"),
-         {{QStringLiteral("--alarm"), true},
-          {QStringLiteral("--premieres"), false},
-          {QStringLiteral("--replays"), false}}},
-        {QStringLiteral("alarm"),
-         {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}, {QStringLiteral("--before"), true}}},
-        {QStringLiteral("unalarm"), {{QStringLiteral("--at"), true}, {QStringLiteral("--on"), true}}},
-        {QStringLiteral("calendars"), {{QStringLiteral("--user"), true}, {QStringLiteral("--force"), false}}},
-    };
-    return table;
-}
-
-/// Whether an option of any command takes a value; nothing for one that there is not.
-std::optional<bool> takesValue(const QString& name)
-{
-    for (const auto& options : optionsOfCommands()) {
-        const auto found = options.constFind(name);
-        if (found != options.cend())
-            return *found;
+    const CommandOption* found = optionNamed(name, generalOptions());
+    for (const CommandFamily* family : commandFamilies()) {
+        for (const Command& command : *family)
+            found = found ? found : optionNamed(name, command.options);
     }
-    return std::nullopt;
+    return found;
+}
+
+void checkMinutes(const QString& value, const QString& option)
+{
+    bool isNumber = false;
+    const int minutes = value.toInt(&isNumber);
+    if (!isNumber || minutes < 0 || minutes > mostMinutes)
+        throw UsageError{
+            localized("%1 takes a number of minutes from 0 to %2.").arg(option, QString::number(mostMinutes))};
+}
+
+void checkValue(const QString& value, const CommandOption& option)
+{
+    const QString name = QString::fromLatin1(option.name);
+    const bool isMoment = instantFromIsoText(value).has_value();
+    switch (option.kind) {
+    case ValueKind::Minutes:
+        return checkMinutes(value, name);
+    case ValueKind::Time:
+        if (!isMoment && !QTime::fromString(value, QStringLiteral("H:mm")).isValid())
+            throw UsageError{localized("%1 takes a time such as 20:00 or 2026-11-22T19:00:00Z.").arg(name)};
+        return;
+    case ValueKind::Moment:
+        if (!isMoment)
+            throw UsageError{localized("%1 takes a time such as 2026-11-22T19:00:00Z.").arg(name)};
+        return;
+    case ValueKind::Text:
+    case ValueKind::Title:
+    case ValueKind::Channel:
+    case ValueKind::File:
+    case ValueKind::Folder:
+        return;
+    }
+}
+
+QString missing(const QString& what, const QString& needed)
+{
+    return localized("%1 needs %2.").arg(what, needed);
 }
 
 class Reader
@@ -69,95 +80,116 @@ public:
 
     CommandLineResult read()
     {
-        while (m_next < m_arguments.size() && !m_result.error)
-            readOne(m_arguments.at(m_next++));
-        if (!m_result.error && !m_result.line.help)
-            checkCommand();
-        return m_result;
+        try {
+            while (m_next < m_arguments.size())
+                readOne(m_arguments.at(m_next++));
+            takeGeneralOptions();
+            if (!m_line.command.isEmpty() && !m_line.opensAddress())
+                checkCommand();
+            return {m_line, std::nullopt};
+        } catch (const UsageError& error) {
+            return {m_line, error.message};
+        }
     }
 
 private:
     void readOne(const QString& argument)
     {
-        CommandLine& line = m_result.line;
-        if (m_optionsEnded || !argument.startsWith(QLatin1String("--")) || argument.size() == 2) {
-            if (!m_optionsEnded && argument == QLatin1String("--"))
-                m_optionsEnded = true;
-            else if (!m_optionsEnded && argument == QLatin1String("-h"))
-                line.help = true;
-            else if (line.command.isEmpty())
-                line.command = argument;
-            else
-                line.arguments << argument;
-            return;
-        }
+        if (m_optionsEnded || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1)
+            readWord(argument);
+        else if (argument == QLatin1String("--"))
+            m_optionsEnded = true;
+        else if (argument == QLatin1String("-h"))
+            m_line.options.insert(QStringLiteral("--help"), {});
+        else
+            readOption(argument);
+    }
+
+    void readWord(const QString& word)
+    {
+        const QString both = m_line.command + QLatin1Char(' ') + word;
+        if (m_line.command.isEmpty())
+            m_line.command = word;
+        else if (m_line.arguments.isEmpty() && !m_optionsEnded && commandNamed(both))
+            m_line.command = both;
+        else
+            m_line.arguments << word;
+    }
+
+    void readOption(const QString& argument)
+    {
         const qsizetype equals = argument.indexOf(QLatin1Char('='));
         const QString name = argument.left(equals);
-        if (equals < 0 && name == QLatin1String("--json"))
-            line.json = true;
-        else if (equals < 0 && name == QLatin1String("--log"))
-            line.log = true;
-        else if (equals < 0 && name == QLatin1String("--help"))
-            line.help = true;
-        else if (equals < 0 && name == QLatin1String("--version"))
-            line.version = true;
-        else if (equals < 0 && name == QLatin1String("--self-test"))
-            line.selfTest = true;
-        else if (name == QLatin1String("--home"))
-            line.home = valueOf(name, argument, equals);
-        else if (name == QLatin1String("--clock"))
-            readClock(valueOf(name, argument, equals));
-        else if (const auto hasValue = takesValue(name); hasValue && (*hasValue || equals < 0))
-            line.options.insert(name, *hasValue ? valueOf(name, argument, equals).value_or(QString()) : QString());
-        else
-            fail(localized("Unknown option %1.").arg(name));
+        const CommandOption* option = optionNamed(name);
+        if (!option || (!option->value && equals >= 0))
+            throw UsageError{localized("Unknown option %1.").arg(name)};
+        m_line.options.insert(name, option->value ? valueOf(*option, argument, equals) : QString());
     }
 
-    std::optional<QString> valueOf(const QString& name, const QString& argument, qsizetype equals)
+    QString valueOf(const CommandOption& option, const QString& argument, qsizetype equals)
     {
-        if (equals >= 0 && equals + 1 < argument.size())
-            return argument.mid(equals + 1);
-        if (equals < 0 && m_next < m_arguments.size())
-            return m_arguments.at(m_next++);
-        fail(localized("%1 needs a value.").arg(name));
-        return std::nullopt;
+        const bool isNext = equals < 0 && m_next < m_arguments.size();
+        const QString value = isNext ? m_arguments.at(m_next++) : equals < 0 ? QString() : argument.mid(equals + 1);
+        if (value.isEmpty())
+            throw UsageError{missing(QString::fromLatin1(option.name), localized(option.value))};
+        checkValue(value, option);
+        return value;
     }
 
-    void readClock(const std::optional<QString>& text)
+    void takeGeneralOptions()
     {
-        if (!text)
+        const auto given = [this](const char* name) { return m_line.options.contains(QLatin1String(name)); };
+        m_line.json = given("--json");
+        m_line.log = given("--log");
+        m_line.help = given("--help");
+        m_line.version = given("--version");
+        m_line.selfTest = given("--self-test");
+        if (given("--home"))
+            m_line.home = m_line.options.value(QStringLiteral("--home"));
+        if (given("--clock"))
+            m_line.clock = instantFromIsoText(m_line.options.value(QStringLiteral("--clock")));
+    }
+
+    void checkCommand() const
+    {
+        const Command* command = commandNamed(m_line.command);
+        if (!command)
+            throw UsageError{localized("Unknown command %1.").arg(m_line.command)};
+        if (m_line.help)
             return;
-        m_result.line.clock = instantFromIsoText(*text);
-        if (!m_result.line.clock)
-            fail(localized("--clock takes a time such as 2026-11-22T19:00:00Z."));
+        checkArguments(*command);
+        checkOptions(*command);
+        if (command->check)
+            command->check(m_line);
     }
 
-    void checkCommand()
+    void checkArguments(const Command& command) const
     {
-        const CommandLine& line = m_result.line;
-        if (line.command.isEmpty() || line.opensAddress())
-            return;
-        const auto arity = commands().constFind(line.command);
-        if (arity == commands().cend())
-            fail(localized("Unknown command %1.").arg(line.command));
-        else if (line.arguments.size() < arity->least ||
-                 (!line.arguments.isEmpty() && line.arguments.join(QString()).trimmed().isEmpty()))
-            fail(localized("%1 needs an argument.").arg(line.command));
-        else if (line.arguments.size() > arity->most)
-            fail(localized("%1 does not take \"%2\".").arg(line.command, line.arguments.at(arity->most)));
-        const auto allowed = optionsOfCommands().value(line.command);
-        for (auto option = line.options.keyBegin(); option != line.options.keyEnd(); ++option) {
-            if (!allowed.contains(*option))
-                fail(localized("%1 does not take %2.").arg(line.command, *option));
+        const QStringList& arguments = m_line.arguments;
+        const bool isBlank = !arguments.isEmpty() && arguments.join(QString()).trimmed().isEmpty();
+        if (arguments.size() < command.least || (isBlank && command.most > 0))
+            throw UsageError{missing(m_line.command, localized(command.arguments))};
+        if (arguments.size() > command.most)
+            throw UsageError{localized("%1 does not take \"%2\".").arg(m_line.command, arguments.at(command.most))};
+    }
+
+    void checkOptions(const Command& command) const
+    {
+        for (const QString& name : m_line.options.keys()) {
+            if (!optionNamed(name, generalOptions()) && !optionNamed(name, command.options))
+                throw UsageError{localized("%1 does not take %2.").arg(m_line.command, name)};
+        }
+        for (const CommandOption& option : command.options) {
+            const QString name = QString::fromLatin1(option.name);
+            if (option.isRequired && !m_line.options.contains(name))
+                throw UsageError{missing(m_line.command, name + QLatin1Char(' ') + localized(option.value))};
         }
     }
-
-    void fail(const QString& message) { m_result.error = message; }
 
     const QStringList& m_arguments;
     qsizetype m_next = 0;
     bool m_optionsEnded = false;
-    CommandLineResult m_result;
+    CommandLine m_line;
 };
 
 } // namespace

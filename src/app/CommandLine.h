@@ -13,15 +13,14 @@ namespace vidora {
 /// What was asked for on the command line.
 struct CommandLine
 {
-    QString command; ///< empty: no command was named
+    QString command; ///< as it is named in the table; empty: none was named
     QStringList arguments;
     bool json = false;
     bool log = false;
     bool help = false;
     bool version = false;
     bool selfTest = false; ///< load every part of the window, show nothing
-    /// The options that only some commands take, by name: those with a value such as "--alarm", "--at", "--user", and
-    /// those without one, such as "--premieres", with an empty one.
+    /// The options that were given, by name with dashes; the value is empty for those that take none.
     QHash<QString, QString> options;
     std::optional<QString> home;
     std::optional<Instant> clock;
@@ -40,7 +39,11 @@ struct CommandLineResult
 /// Reads arguments without the program's name. Options may stand anywhere; "--" ends them.
 CommandLineResult readCommandLine(const QStringList& arguments);
 
-/// What `--help` prints.
+/// What `vidora --help` prints.
 QString commandLineHelp();
+/// What `vidora COMMAND --help` prints; without such a command, what `vidora --help` prints.
+QString helpFor(const QString& command);
+/// The line below the message of a usage error that tells where the help is.
+QString helpHint(const QString& command);
 
 } // namespace vidora

@@ -1,5 +1,6 @@
 #include "app/Device.h"
 
+#include "app/Terminal.h"
 #include "calendar/FolderEventStore.h"
 #include "core/GuideImport.h"
 #include "platform/AtomicFile.h"
@@ -10,8 +11,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-
-#include <cstdio>
 
 namespace vidora {
 
@@ -25,11 +24,6 @@ constexpr Milliseconds patienceWithServers = Seconds(5);
 QByteArray contents(const QString& path)
 {
     return AtomicFile::read(path, maximumEndpoints).value_or(QByteArray());
-}
-
-void say(const QString& message)
-{
-    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
 }
 
 StandardFolders foldersOf(const CommandLine& line)

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "app/Terminal.h"
 #include "core/UpdateCycle.h"
 
 #include <QString>
-#include <QStringList>
-
-#include <cstdio>
 
 namespace vidora {
 
@@ -27,11 +25,10 @@ public:
     const std::vector<ObjectId>& failed() const { return m_failed; }
 
 private:
-    void draw(const QString& text);
-    void clear();
+    void draw();
 
     const ChannelData& m_channels;
-    const bool m_isTerminal;
+    ProgressLine m_line;
     QString m_fetching;
     std::set<ObjectId> m_done;
     std::size_t m_wanted = 0;

@@ -10,4 +10,10 @@ struct Refusal
     QString message;
 };
 
+/// Thrown where it was asked wrongly: nothing was tried.
+struct UsageError
+{
+    QString message;
+};
+
 } // namespace vidora

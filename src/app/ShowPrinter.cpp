@@ -1,13 +1,13 @@
 #include "app/ShowPrinter.h"
 
 #include "app/ChannelNames.h"
+#include "app/Terminal.h"
 #include "listings/ShowJson.h"
 #include "platform/DeviceSettings.h"
 
 #include <QDateTime>
 #include <QJsonObject>
 
-#include <cstdio>
 #include <unistd.h>
 
 namespace vidora {
@@ -41,15 +41,6 @@ QLatin1String renditionOf(const QString& role)
 }
 
 } // namespace
-
-QString printable(QString text)
-{
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
-            character = QLatin1Char(' ');
-    }
-    return text.simplified();
-}
 
 ShowPrinter::ShowPrinter(const ChannelData& channels)
     : m_channels(channels)
@@ -158,11 +149,6 @@ QJsonArray ShowPrinter::json(const ShowList& shows) const
         array.append(object);
     }
     return array;
-}
-
-void printText(const QString& text)
-{
-    std::fputs(text.toUtf8().constData(), stdout);
 }
 
 } // namespace vidora

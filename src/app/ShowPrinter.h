@@ -41,9 +41,4 @@ private:
     const bool m_isColoured;
 };
 
-/// A text from outside on one line, without what would move the terminal's cursor.
-QString printable(QString text);
-/// Writes a text to standard output.
-void printText(const QString& text);
-
 } // namespace vidora

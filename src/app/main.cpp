@@ -1,36 +1,34 @@
 #include "app/CommandLine.h"
 #include "app/Commands.h"
+#include "app/Terminal.h"
 #include "app/Translations.h"
 #include "app/WindowProgram.h"
 #include "platform/Localized.h"
 
 #include <QCoreApplication>
 
-#include <cstdio>
-
 int main(int argc, char** argv)
 {
+    using namespace vidora;
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vidora"));
-    const vidora::Translations translations = vidora::Translations::ofEnvironment();
-    const vidora::CommandLineResult read = vidora::readCommandLine(QCoreApplication::arguments().mid(1));
-    if (read.error) {
-        std::fprintf(stderr, "%s\n\n%s", qUtf8Printable(*read.error), qUtf8Printable(vidora::commandLineHelp()));
-        return 2;
+    const Translations translations = Translations::ofEnvironment();
+    const auto [line, error] = readCommandLine(QCoreApplication::arguments().mid(1));
+    if (error)
+        return sayUsageError(*error, line.command);
+    if (line.help) {
+        printText(helpFor(line.command));
+        return ExitStatus::done;
     }
-    if (read.line.help) {
-        std::fputs(qUtf8Printable(vidora::commandLineHelp()), stdout);
-        return 0;
+    if (line.version) {
+        printText(QStringLiteral("vidora " VIDORA_VERSION "\n"));
+        return ExitStatus::done;
     }
-    if (read.line.version) {
-        std::puts("vidora " VIDORA_VERSION);
-        return 0;
+    if (wantsWindow(line))
+        becomeWindow(argv);
+    if (line.selfTest || line.opensAddress()) {
+        say(localized("There is no window here."));
+        return ExitStatus::notDone;
     }
-    if (vidora::wantsWindow(read.line))
-        vidora::becomeWindow(argv);
-    if (read.line.selfTest || read.line.opensAddress()) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(vidora::localized("There is no window here.")));
-        return 1;
-    }
-    return vidora::runCommand(read.line);
+    return runCommand(line);
 }

@@ -129,8 +129,7 @@ TEST_F(CalendarCommands, SayWhatIsWrong)
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(refused.errors.toStdString(), HasSubstr("does not accept this user with this password"));
     EXPECT_THAT(refused.errors.toStdString(), Not(HasSubstr("gu3ss")));
-    for (const char* line : {"calendars add", "calendars add 127.0.0.1", "calendars test", "calendars remove x",
-                             "calendars --user ana", "calendars test --force", "calendars nonsense"})
+    for (const char* line : {"calendars test", "calendars remove x", "calendars nonsense"})
         EXPECT_EQ(run(line).status, 1) << line;
     EXPECT_TRUE(run("calendars --json").json()[QStringLiteral("accounts")].toArray().isEmpty());
 

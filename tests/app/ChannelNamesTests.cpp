@@ -1,4 +1,5 @@
 #include "app/ChannelNames.h"
+#include "app/Refusal.h"
 
 #include <QTemporaryDir>
 
@@ -21,9 +22,11 @@ protected:
     /// The title of the channel that the name means, or the message.
     QString found(const char* name) const
     {
-        const NamedChannel named = channelNamed(QString::fromUtf8(name), m_channels);
-        const auto* id = std::get_if<ObjectId>(&named);
-        return id ? titleOf(*id, m_channels) : QStringLiteral("? ") + std::get<QString>(named);
+        try {
+            return titleOf(channelNamed(QString::fromUtf8(name), m_channels), m_channels);
+        } catch (const Refusal& refusal) {
+            return QStringLiteral("? ") + refusal.message;
+        }
     }
 
 private:

@@ -81,7 +81,8 @@ TEST(Program, NamesTheCandidatesForAnUnclearName)
     };
     for (const Case& c : {Case{"channel|lipa", "Lipa 1, Lipa 2, Lipa Plus", 1}, Case{"select|Vihor|x y z", "Behar", 1},
                           Case{"unselect|vihor se|lipa", "Lipa Plus", 1}, Case{"category|no such", "There are:", 1},
-                          Case{"nonsense", "Usage", 2}}) {
+                          Case{"nonsense", "\"vidora --help\" tells how.", 2},
+                          Case{"now|later", "\"vidora now --help\" tells how.", 2}}) {
         const Ended run = home.run(words(c.line));
         EXPECT_EQ(run.status, c.status) << c.line;
         EXPECT_THAT(run.errors.toStdString(), HasSubstr(c.errors)) << c.line;

@@ -1,3 +1,4 @@
+#include "app/Command.h"
 #include "app/Translations.h"
 #include "platform/DeviceSettings.h"
 #include "platform/Localized.h"
@@ -96,8 +97,7 @@ TEST(Translations, ChooseTheFormThatGoesWithANumber)
 TEST(Translations, LeaveWhatAUserTypesInLatinLetters)
 {
     const Translations serbian({utf8("sr")});
-    EXPECT_EQ(localized("alarm X --at TIME [--on CHANNEL] [--before MINUTES]"),
-              utf8("alarm X --at ВРЕМЕ [--on КАНАЛ] [--before МИНУТИ]"));
+    EXPECT_EQ(commandNamed(utf8("alarm"))->usage(), utf8("vidora alarm X --at ВРЕМЕ [--on КАНАЛ] [--before МИНУТИ]"));
     EXPECT_EQ(localized("%1 is no XMLTV guide."), utf8("%1 није XMLTV водич."));
 }
 

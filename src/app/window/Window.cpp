@@ -1,6 +1,8 @@
 #include "app/window/Window.h"
 
+#include "app/Commands.h"
 #include "app/Device.h"
+#include "app/Terminal.h"
 #include "app/window/Appearance.h"
 #include "app/window/LauncherBadge.h"
 #include "app/window/ShowPictureLoader.h"
@@ -22,20 +24,13 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace vidora {
 
 namespace {
 
-constexpr int endedBySignal = 128; // as shells have it
 const QString modules = QStringLiteral("qrc:/qt/qml");
 const QString files = QStringLiteral(":/qt/qml/Vidora");
-
-void say(const QString& message)
-{
-    std::fprintf(stderr, "%s\n", message.toUtf8().constData());
-}
 
 } // namespace
 
@@ -207,7 +202,7 @@ int runWindow(const CommandLine& line)
         }
     }
     device.quit();
-    return device.isEnding() ? endedBySignal + device.endSignal() : status;
+    return device.isEnding() ? ExitStatus::endedBySignal + device.endSignal() : status;
 }
 
 int testWindow()

@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/Commands.h"
 #include "app/Translations.h"
 #include "app/window/StreamMediaPlayer.h"
 #include "app/window/Window.h"
@@ -6,7 +7,6 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 
 int main(int argc, char** argv)
@@ -22,9 +22,7 @@ int main(int argc, char** argv)
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vidora"));
     const vidora::Translations translations = vidora::Translations::ofEnvironment();
     const vidora::CommandLineResult read = vidora::readCommandLine(QCoreApplication::arguments().mid(1));
-    if (read.error) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(*read.error));
-        return 2;
-    }
+    if (read.error)
+        return vidora::sayUsageError(*read.error, read.line.command);
     return read.line.selfTest ? vidora::testWindow() : vidora::runWindow(read.line);
 }
