@@ -70,6 +70,7 @@ PersistentAdTabBarController::~PersistentAdTabBarController()
     m_visible.reset();
     m_popover.reset();
     m_tabBar.setViewControllers({});
+    m_stacks.clear();
 }
 
 void PersistentAdTabBarController::fill(bool isPad)
@@ -77,10 +78,13 @@ void PersistentAdTabBarController::fill(bool isPad)
     std::vector<std::shared_ptr<ViewController>> stacks;
     m_tabs.clear();
     for (const TabContent& content : contentOfTabs(isPad)) {
-        auto navigation = std::make_shared<NavigationController>();
-        navigation->pushViewController(content.screen(m_delegate));
-        navigation->stackChanged = [this] { followVisibleScreen(); };
-        stacks.push_back(std::move(navigation));
+        auto& navigation = m_stacks[QString::fromLatin1(content.name)];
+        if (!navigation) {
+            navigation = std::make_shared<NavigationController>();
+            navigation->pushViewController(content.screen(m_delegate));
+            navigation->stackChanged = [this] { followVisibleScreen(); };
+        }
+        stacks.push_back(navigation);
         m_tabs.push_back({localized(content.title), QString::fromLatin1(content.name), true, std::nullopt});
     }
     m_tabBar.setViewControllers(std::move(stacks));
@@ -96,13 +100,17 @@ void PersistentAdTabBarController::setPad(bool isPad)
     if (isPad == m_delegate.isPad())
         return;
     const QString selected = m_tabs[m_tabBar.selectedIndex()].name;
+    const auto popover = m_tabBar.popover();
     m_delegate.setPad(isPad);
     const auto tell = std::exchange(m_tabBar.tabsChanged, {}); // nothing is told of what lies between
     fill(isPad);
+    m_delegate.setup(); // ahead of the selection, as its first call selects a tab of its own
     const auto isSelected = [&](const Tab& tab) { return tab.name == selected; };
     const auto place = std::find_if(m_tabs.begin(), m_tabs.end(), isSelected);
     m_tabBar.setSelectedIndex(place == m_tabs.end() ? 0 : static_cast<std::size_t>(place - m_tabs.begin()));
-    m_delegate.setup();
+    followPopover();
+    if (popover && place != m_tabs.end())
+        m_stacks[selected]->pushViewController(popover);
     m_tabBar.tabsChanged = tell;
     changed();
 }

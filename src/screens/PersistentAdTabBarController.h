@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 namespace vidora {
@@ -25,13 +26,15 @@ public:
                       ///< "channels", "allshows"
         bool enabled = true;
         std::optional<QString> badge;
+        friend bool operator==(const Tab&, const Tab&) = default;
     };
 
     /// The delegate outlives this object.
     explicit PersistentAdTabBarController(VidoraAppDelegate& delegate);
     ~PersistentAdTabBarController();
 
-    /// Fills the tabs for a phone or a pad. A change throws all pushed screens away and keeps the tab by its name.
+    /// Shows the tabs of a phone or of a pad. Screens stay as they are, those of a tab that only a pad has until it is
+    /// back; a popover becomes the last screen of its tab on a phone.
     void setPad(bool isPad);
 
     std::vector<Tab> tabs() const;
@@ -71,6 +74,7 @@ private:
     TabBarController& m_tabBar;
     StreamViewController m_stream;
     std::vector<Tab> m_tabs;
+    std::unordered_map<QString, std::shared_ptr<NavigationController>> m_stacks; ///< by the names of their tabs
     std::shared_ptr<ScreenModel> m_visible, m_popover;
     BlockOwner m_mainBlocks;
 };

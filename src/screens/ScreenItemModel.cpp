@@ -75,7 +75,7 @@ ScreenItemModel::ScreenItemModel(std::shared_ptr<ScreenModel> screen, QObject* p
 
 ScreenItemModel::~ScreenItemModel()
 {
-    m_screen->setView(nullptr);
+    m_screen->removeView(this);
 }
 
 std::vector<int> ScreenItemModel::sectionStarts() const

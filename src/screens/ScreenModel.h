@@ -151,8 +151,14 @@ public:
     virtual void viewWillDisappear() {}
     virtual void viewDidDisappear() {}
 
-    /// At most one; it outlives the screen or takes itself off with null.
+    /// At most one, the last that was set; it outlives the screen or takes itself off.
     void setView(ScreenView* view) { m_view = view; }
+    /// Nothing happens when another has taken its place.
+    void removeView(const ScreenView* view)
+    {
+        if (m_view == view)
+            m_view = nullptr;
+    }
 
 protected:
     virtual void viewDidLoad() {}

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Controls
 
 // The window: the tabs beside or below the screens, and over them what needs the whole of it.
@@ -31,7 +30,9 @@ ApplicationWindow {
         toolTipText: Theme.secondaryGroupedBackground
     }
 
-    onPadChanged: app.setPad(pad)
+    // Not within the change of a size: tabs and screens may go.
+    function followWidth() { app.setPad(pad) }
+    onPadChanged: Qt.callLater(followWidth)
     onClosing: app.keepWindowSize(width, height)
     Component.onCompleted: {
         Theme.scale = app.fontScale
@@ -52,39 +53,41 @@ ApplicationWindow {
         function onAlertPresented(alert) { alertPanel.show(alert) }
     }
 
-    GridLayout {
+    Item {
+        id: frame
         anchors.fill: parent
-        columns: window.pad ? 2 : 1
-        rowSpacing: 0
-        columnSpacing: 0
-        layoutDirection: window.pad ? Qt.RightToLeft : Qt.LeftToRight
+        readonly property real beside: window.pad ? tabs.implicitWidth : 0
+        readonly property real below: window.pad ? 0 : tabs.implicitHeight
 
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            spacing: 0
-            Item {
-                Layout.fillWidth: true
-                Layout.fillHeight: true
-                Repeater {
-                    id: screens
-                    model: window.app.screens
-                    ScreenSlot {
-                        anchors.fill: parent
-                        onBack: window.app.back()
-                    }
+        Item {
+            x: LayoutMirroring.enabled ? 0 : frame.beside
+            width: parent.width - frame.beside
+            height: parent.height - frame.below - update.height
+            Repeater {
+                id: screens
+                model: window.app.screens
+                ScreenSlot {
+                    anchors.fill: parent
+                    onBack: window.app.back()
                 }
             }
-            UpdateBar {
-                Layout.fillWidth: true
-                progress: window.app.progress
-            }
+        }
+        UpdateBar {
+            id: update
+            x: LayoutMirroring.enabled ? 0 : frame.beside
+            y: parent.height - frame.below - height
+            width: parent.width - frame.beside
+            height: implicitHeight
+            progress: window.app.progress
         }
         TabStrip {
+            id: tabs
             app: window.app
             rail: window.pad
-            Layout.fillWidth: !window.pad
-            Layout.fillHeight: window.pad
+            x: window.pad && LayoutMirroring.enabled ? parent.width - width : 0
+            y: parent.height - height
+            width: window.pad ? implicitWidth : parent.width
+            height: window.pad ? parent.height : implicitHeight
         }
     }
 

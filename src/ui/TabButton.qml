@@ -6,8 +6,9 @@ import QtQuick.Controls
 AbstractButton {
     id: button
 
-    property string symbol
-    property string badge
+    required property string symbol
+    required property string badge
+    required enabled
     property bool current: false
     property bool rail: false
 

@@ -165,6 +165,7 @@ TEST_F(ModelChangesTest, ListOfChannelsIsAPopoverOnAPad)
     home().list();
     EXPECT_TRUE(visible<ChannelListViewController>());
     EXPECT_FALSE(tabs->popover());
+    tabs->back();
     tabs->setPad(true);
     DispatchQueue::runMain([&] { return home().hasContent(); });
     for (const bool isLeft : {true, false}) {
@@ -181,6 +182,7 @@ TEST_F(ModelChangesTest, ListOfChannelsIsAPopoverOnAPad)
     home().list();
     tabs->setPad(false);
     EXPECT_FALSE(tabs->popover()) << "a phone has none";
+    EXPECT_TRUE(visible<ChannelListViewController>());
 }
 
 TEST_F(ModelChangesTest, EditorMovesAndDeletes)

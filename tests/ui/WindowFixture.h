@@ -5,6 +5,7 @@
 #include "app/window/WindowModel.h"
 
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
@@ -37,6 +38,20 @@ inline void turn()
     }
 }
 
+/// The list of the table in sight below an item; null without one.
+inline QQuickItem* visibleList(const QQuickItem& below)
+{
+    const auto children = below.childItems();
+    for (QQuickItem* item : children) {
+        if (!item->isVisible())
+            continue;
+        QQuickItem* found = item->inherits("QQuickListView") ? item : visibleList(*item);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
 /// The window on a home of its own, over the sample region.
 class WindowTest : public ::testing::Test
 {
@@ -57,11 +72,11 @@ protected:
     ScreenObject& screen() { return *qobject_cast<ScreenObject*>(m_model.visibleScreen()); }
     QQuickWindow* window() { return qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0)); }
     QVariant cell(int row, int role) { return screen().rows()->index(row, 0).data(role); }
+    QVariant tab(int index, int role) { return m_model.tabs()->index(index, 0).data(role); }
     int tabNamed(const QString& name)
     {
-        const QVariantList tabs = m_model.tabs();
-        for (int i = 0; i < tabs.size(); ++i) {
-            if (tabs[i].toMap().value(utf8("symbol")).toString() == name)
+        for (int i = 0; i < m_model.tabs()->rowCount(); ++i) {
+            if (tab(i, TabList::SymbolRole) == name)
                 return i;
         }
         return -1;
@@ -69,9 +84,9 @@ protected:
     QStringList enabledTabs()
     {
         QStringList names;
-        for (const QVariant& tab : m_model.tabs()) {
-            if (tab.toMap().value(utf8("enabled")).toBool())
-                names << tab.toMap().value(utf8("symbol")).toString();
+        for (int i = 0; i < m_model.tabs()->rowCount(); ++i) {
+            if (tab(i, TabList::EnabledRole).toBool())
+                names << tab(i, TabList::SymbolRole).toString();
         }
         return names;
     }

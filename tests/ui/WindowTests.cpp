@@ -28,7 +28,7 @@ TEST_F(WindowTest, LeadsFromNoChannelToAChannelsWeekAndBack)
     QTest::keyClick(window(), Qt::Key_Escape);
     EXPECT_TRUE(screen().isRoot());
     EXPECT_EQ(screen().rows()->rowCount(), 3);
-    EXPECT_EQ(enabledTabs().size(), m_model.tabs().size());
+    EXPECT_EQ(enabledTabs().size(), m_model.tabs()->rowCount());
 
     const int home = tabNamed(utf8("currently"));
     QTest::keyClick(window(), static_cast<Qt::Key>(Qt::Key_1 + home), Qt::ControlModifier);
@@ -154,19 +154,6 @@ TEST_F(WindowTest, TakesAnAddressFromASecondStart)
     m_device.quit();
 }
 
-QQuickItem* visibleList(const QQuickItem& below)
-{
-    const auto children = below.childItems();
-    for (QQuickItem* item : children) {
-        if (!item->isVisible())
-            continue;
-        QQuickItem* found = item->inherits("QQuickListView") ? item : visibleList(*item);
-        if (found)
-            return found;
-    }
-    return nullptr;
-}
-
 TEST_F(WindowTest, KeepsItsPlaceWhenRowsAreReadAnew)
 {
     press(utf8("add"));
@@ -175,7 +162,7 @@ TEST_F(WindowTest, KeepsItsPlaceWhenRowsAreReadAnew)
     m_model.selectTab(tabNamed(utf8("currently")));
     auto& progress = *qobject_cast<PassProgress*>(m_model.progress());
     DispatchQueue::runMain([&] { return screen().rows()->rowCount() >= 5 * 12 && !progress.isRunning(); });
-    QQuickItem* list = visibleList(*window()->contentItem());
+    QQuickItem* list = test::visibleList(*window()->contentItem());
     ASSERT_TRUE(list);
     const auto first = [&] {
         test::turn();

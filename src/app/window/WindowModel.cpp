@@ -40,18 +40,6 @@ WindowModel::~WindowModel()
     m_tabs.alertPresented = {};
 }
 
-QVariantList WindowModel::tabs() const
-{
-    QVariantList list;
-    for (const auto& tab : m_tabs.tabs()) {
-        list << QVariantMap{{QStringLiteral("title"), tab.title},
-                            {QStringLiteral("symbol"), tab.name},
-                            {QStringLiteral("badge"), tab.badge.value_or(QString())},
-                            {QStringLiteral("enabled"), tab.enabled}};
-    }
-    return list;
-}
-
 qreal WindowModel::fontScale() const
 {
     constexpr qreal usualPixels = 13; // ten points at 96 dots an inch
@@ -130,7 +118,8 @@ void WindowModel::followTabs()
     m_screens.follow(stacks, m_tabs.visibleScreen().get());
     followPopover();
     Q_EMIT visibleScreenChanged();
-    Q_EMIT tabsChanged();
+    m_tabList.follow(m_tabs.tabs());
+    Q_EMIT selectedTabChanged();
     if (m_screens.visible() != before)
         timePassed();
 }

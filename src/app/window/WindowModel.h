@@ -4,6 +4,7 @@
 #include "app/window/PassProgress.h"
 #include "app/window/ScreenList.h"
 #include "app/window/StreamMediaPlayer.h"
+#include "app/window/TabList.h"
 #include "screens/PersistentAdTabBarController.h"
 
 #include <QObject>
@@ -18,9 +19,8 @@ namespace vidora {
 class WindowModel final : public QObject
 {
     Q_OBJECT
-    /// Maps of "title", "symbol", "badge" and "enabled".
-    Q_PROPERTY(QVariantList tabs READ tabs NOTIFY tabsChanged)
-    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY tabsChanged)
+    Q_PROPERTY(QAbstractItemModel* tabs READ tabs CONSTANT)
+    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY selectedTabChanged)
     Q_PROPERTY(QAbstractItemModel* screens READ screens CONSTANT)
     Q_PROPERTY(QObject* visibleScreen READ visibleScreen NOTIFY visibleScreenChanged)
     /// The screen that lies over it on a pad, or null.
@@ -39,7 +39,7 @@ public:
     explicit WindowModel(VidoraAppDelegate& delegate);
     ~WindowModel() override;
 
-    QVariantList tabs() const;
+    QAbstractItemModel* tabs() { return &m_tabList; }
     int selectedTab() const { return static_cast<int>(m_tabs.selectedIndex()); }
     QAbstractItemModel* screens() { return &m_screens; }
     QObject* visibleScreen() const { return m_screens.visible(); }
@@ -69,7 +69,7 @@ public:
     Q_INVOKABLE void keepWindowSize(int width, int height);
 
 Q_SIGNALS:
-    void tabsChanged();
+    void selectedTabChanged();
     void visibleScreenChanged();
     void popoverChanged();
     void playerChanged();
@@ -88,6 +88,7 @@ private:
 
     VidoraAppDelegate& m_delegate;
     PersistentAdTabBarController m_tabs;
+    TabList m_tabList;
     ScreenList m_screens;
     std::unique_ptr<ScreenObject> m_popover;
     RichTextStyle m_style;
