@@ -44,6 +44,9 @@ struct RegionChannel
 inline constexpr int fixedPort = 26418;
 /// Where the one stream stands whose server takes connections and never answers.
 inline constexpr int silentPort = 26419;
+/// The first of those that a region takes which a program starts for itself: what its lists hold of addresses, those of
+/// pictures among them, leads somewhere in the next run too.
+inline constexpr int usualPort = 26420;
 /// The source id of the one channel page that is addressed by its provider's host.
 inline constexpr std::string_view primaMaxSourceId = "max.prima.example";
 

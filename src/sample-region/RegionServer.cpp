@@ -140,14 +140,14 @@ RegionServer::RegionServer(const Clock& clock, Sleeper& sleeper, const Options& 
     std::vector<std::string> origins;
     for (const Provider& provider : providers()) {
         const int port = options.port == 0 ? 0 : options.port + int(m_sites.size());
-        open(provider, port);
+        open(provider, port, options.fallsBack);
         origins.push_back(m_sites.back()->origin);
     }
     m_endpoints = endpointsJson(origins);
     if (options.fixedAddress) {
         m_silent = std::make_unique<SilentAddress>(silentPort);
         try {
-            open(fixedProvider(), fixedPort);
+            open(fixedProvider(), fixedPort, false);
         } catch (const std::runtime_error&) {
             // another region has it: what it serves is of the same kind
         }
@@ -156,7 +156,7 @@ RegionServer::RegionServer(const Clock& clock, Sleeper& sleeper, const Options& 
 
 RegionServer::~RegionServer() = default;
 
-void RegionServer::open(const Provider& provider, int port)
+void RegionServer::open(const Provider& provider, int port, bool fallsBack)
 {
     auto site = std::make_unique<Site>();
     site->provider = provider.name;
@@ -164,7 +164,7 @@ void RegionServer::open(const Provider& provider, int port)
                      [this, &provider, &site = *site](const httplib::Request& request, httplib::Response& response) {
                          answer(provider, site.origin, request, response);
                      });
-    if (!site->start(port))
+    if (!site->start(port) && !(fallsBack && site->start(0)))
         throw std::runtime_error("port " + std::to_string(port) + " cannot be had");
     m_sites.push_back(std::move(site));
 }

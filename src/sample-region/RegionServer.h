@@ -30,6 +30,8 @@ public:
         std::uint64_t seed = 1;
         /// Port of the first provider; the others follow. 0 takes free ports.
         int port = 0;
+        /// Whether a provider whose port is taken gets a free one.
+        bool fallsBack = false;
         /// Whether to serve the addresses that stand in the catalogue, too. Without it, or where their ports are taken,
         /// the channels of such an address are left to their second sources, and streams to whoever has the ports.
         bool fixedAddress = false;
@@ -57,7 +59,7 @@ public:
 
 private:
     struct Site;
-    void open(const Provider& provider, int port);
+    void open(const Provider& provider, int port, bool fallsBack);
     void answer(const Provider& provider, const std::string& origin, const httplib::Request& request,
                 httplib::Response& response);
     void send(httplib::Response& response, const Document& document, const Faults& faults, const std::string& origin);

@@ -1,5 +1,6 @@
 #include "Fetching.h"
 #include "sample-region/Fault.h"
+#include "sample-region/Provider.h"
 #include "sample-region/Streams.h"
 #include "support/SampleRegion.h"
 
@@ -47,6 +48,20 @@ TEST(Fault, MatchesPatternsInBoundedTime)
     EXPECT_FALSE(matches("n/epg", "n/epg.xml"));
     EXPECT_FALSE(matches("n/epg.xml?", "n/epg.xml1"));
     EXPECT_FALSE(matches("*a*a*a*a*a*a*a*a*a*a*b", std::string(100'000, 'a')));
+}
+
+TEST(RegionServer, KeepsItsPortsFromRunToRunAndYieldsToAnother)
+{
+    const FixedClock clock(*instantFromIsoText(u"2026-11-22T19:00:00Z"));
+    SystemSleeper sleeper;
+    RegionServer::Options options;
+    auto first = std::make_unique<RegionServer>(clock, sleeper, options);
+    const std::string origin = first->origin(providers().front().name);
+    options.port = std::stoi(origin.substr(origin.rfind(':') + 1));
+    options.fallsBack = true;
+    EXPECT_NE(RegionServer(clock, sleeper, options).origin(providers().front().name), origin);
+    first.reset();
+    EXPECT_EQ(RegionServer(clock, sleeper, options).origin(providers().front().name), origin);
 }
 
 TEST(RegionServer, FaultsReachTheClient)

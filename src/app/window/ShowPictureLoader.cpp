@@ -78,7 +78,7 @@ void ShowPictureLoader::stop()
     m_idle.wait(lock, [this] { return m_running == 0; });
 }
 
-ShowPictureLoader::Body ShowPictureLoader::fetch(URLRequest request)
+ShowPictureLoader::Body ShowPictureLoader::fetch(URLRequest request, Waiting waiting)
 {
     {
         const std::lock_guard lock(m_mutex);
@@ -92,7 +92,7 @@ ShowPictureLoader::Body ShowPictureLoader::fetch(URLRequest request)
     m_delegate.networkActivity().startNetworkActivity();
     URLResult result = m_delegate.session().perform(request);
     m_delegate.networkActivity().stopNetworkActivity();
-    if (!result.data && result.error && request.cachePolicy == CachePolicy::ReturnCacheDataElseLoad && !*m_isStopped)
+    if (!result.data && result.error && waiting == Waiting::User && !*m_isStopped)
         m_delegate.networkAlerts().noRemoteHostAlert(*result.error);
     {
         const std::lock_guard lock(m_mutex);
@@ -121,19 +121,20 @@ std::optional<ShowImage> ShowPictureLoader::image100AtURL(const URL& url, bool l
 {
     URLRequest request = requestOfRow(url);
     request.cachePolicy = load ? CachePolicy::ReturnCacheDataElseLoad : CachePolicy::ReturnCacheDataDontLoad;
-    const Body data = fetch(std::move(request));
+    const Body data = fetch(std::move(request), Waiting::Nobody);
     return data ? fitted(url, *data) : std::nullopt;
 }
 
-void ShowPictureLoader::fetchInTurn(const URLRequest& request, std::function<void(const QByteArray&)> received)
+void ShowPictureLoader::fetchInTurn(const URLRequest& request, Waiting waiting,
+                                    std::function<void(const QByteArray&)> received)
 {
-    m_loadImageQueue->async([self = shared_from_this(), request, received = std::move(received)] {
+    m_loadImageQueue->async([self = shared_from_this(), request, waiting, received = std::move(received)] {
         {
             const BlockingScope blocking;
             self->m_turns.acquire();
         }
-        DispatchQueue::global(QualityOfService::UserInitiated).async([self, request, received] {
-            const Body data = self->fetch(request);
+        DispatchQueue::global(QualityOfService::UserInitiated).async([self, request, waiting, received] {
+            const Body data = self->fetch(request, waiting);
             self->m_turns.release();
             if (data)
                 DispatchQueue::global(QualityOfService::Background).async([received, data] { received(*data); });
@@ -143,7 +144,7 @@ void ShowPictureLoader::fetchInTurn(const URLRequest& request, std::function<voi
 
 void ShowPictureLoader::asyncLoadOfShowImageAtURL(const URL& url, Received received)
 {
-    fetchInTurn(requestOfRow(url), [self = shared_from_this(), url, received](const QByteArray& data) {
+    fetchInTurn(requestOfRow(url), Waiting::Nobody, [self = shared_from_this(), url, received](const QByteArray& data) {
         if (const auto image = self->fitted(url, data))
             self->deliver([received, image] { received(*image); });
     });
@@ -152,7 +153,7 @@ void ShowPictureLoader::asyncLoadOfShowImageAtURL(const URL& url, Received recei
 void ShowPictureLoader::imageAtURL(const URL& url, const QSize& size,
                                    std::function<void(const std::optional<ShowImage>&)> mainBlock)
 {
-    fetchInTurn(requestFor(url, Seconds{10}, Seconds{20}),
+    fetchInTurn(requestFor(url, Seconds{10}, Seconds{20}), Waiting::User,
                 [self = shared_from_this(), url, size, mainBlock](const QByteArray& data) {
                     auto image = boundedImage::fromData(data, size * self->m_scale, boundedImage::Enlarging::Allowed);
                     std::optional<ShowImage> fitted;

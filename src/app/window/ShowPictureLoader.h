@@ -61,9 +61,15 @@ public:
 
 private:
     using Body = std::optional<QByteArray>;
-    Body fetch(URLRequest request);
+    /// Whether somebody waits for the picture, and is told that its host is missing.
+    enum class Waiting
+    {
+        Nobody, ///< it only adds to a row
+        User
+    };
+    Body fetch(URLRequest request, Waiting waiting);
     /// Fetches in its turn; `received` is called on a queue of the background, and not at all when nothing came.
-    void fetchInTurn(const URLRequest& request, std::function<void(const QByteArray& data)> received);
+    void fetchInTurn(const URLRequest& request, Waiting waiting, std::function<void(const QByteArray& data)> received);
     std::optional<ShowImage> fitted(const URL& url, const QByteArray& data) const;
     void deliver(DispatchQueue::Block block) const;
 

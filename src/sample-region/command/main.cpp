@@ -1,4 +1,5 @@
 #include "sample-region/Catalogue.h"
+#include "sample-region/RegionChannel.h"
 #include "sample-region/RegionServer.h"
 
 #include <QCommandLineParser>
@@ -106,7 +107,8 @@ std::optional<Options> options(const QStringList& arguments)
                       QStringLiteral("TITLE=KIND")});
     parser.addOption(
         {endpoints, QStringLiteral("Writes the endpoint configuration there, too."), QStringLiteral("FILE")});
-    parser.addOption({parent, QStringLiteral("Ends when standard input ends.")});
+    parser.addOption(
+        {parent, QStringLiteral("Ends when standard input ends. Takes the same ports each time where they are free.")});
     parser.addOption({catalogue, QStringLiteral("Writes Data.plist and the icons into a folder, and serves nothing."),
                       QStringLiteral("FOLDER")});
     if (!parser.parse(arguments))
@@ -128,6 +130,10 @@ std::optional<Options> options(const QStringList& arguments)
     read.endpointsFile = parser.value(endpoints);
     read.catalogueFolder = parser.value(catalogue);
     read.withParent = parser.isSet(parent);
+    if (read.withParent && !parser.isSet(port)) {
+        read.server.port = region::usualPort;
+        read.server.fallsBack = true;
+    }
     return read;
 }
 
