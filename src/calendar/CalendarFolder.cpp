@@ -1,11 +1,11 @@
 #include "calendar/CalendarFolder.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/FileTime.h"
 #include "platform/Log.h"
 
 #include <QFile>
 
-#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,19 +20,6 @@ constexpr std::size_t maximalFiles = 50'000;
 constexpr qint64 maximalAttributeSize = 4 * 1024;
 /// The coarsest step in which file systems and the kernel count the times of a file.
 constexpr std::int64_t timeStep = 20'000'000;
-
-std::int64_t nanoseconds(const timespec& time)
-{
-    return std::int64_t(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
-}
-
-/// Now, by the clock that files get their times from: not the one that tests move.
-std::int64_t fileTime()
-{
-    timespec now = {};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    return nanoseconds(now);
-}
 
 struct Folder
 {
@@ -67,8 +54,8 @@ std::optional<CalendarFolder::Stamp> CalendarFolder::stampOf(int folder, const c
     struct stat status = {};
     if (::fstatat(folder, name, &status, 0) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
-    const std::int64_t changed = nanoseconds(status.st_ctim);
-    return Stamp{status.st_size, nanoseconds(status.st_mtim), changed, status.st_ino, changed + timeStep < now};
+    const std::int64_t changed = nanosecondsOf(status.st_ctim);
+    return Stamp{status.st_size, nanosecondsOf(status.st_mtim), changed, status.st_ino, changed + timeStep < now};
 }
 
 std::optional<std::map<QString, CalendarFolder::Stamp>> CalendarFolder::list() const
@@ -76,7 +63,7 @@ std::optional<std::map<QString, CalendarFolder::Stamp>> CalendarFolder::list() c
     const Folder folder(m_path);
     if (!folder.stream)
         return std::nullopt;
-    const std::int64_t now = fileTime();
+    const std::int64_t now = presentFileTime();
     std::map<QString, Stamp> stamps;
     while (const dirent* entry = stamps.size() < maximalFiles ? ::readdir(folder.stream) : nullptr) {
         const QByteArrayView name(entry->d_name);
@@ -104,7 +91,7 @@ bool CalendarFolder::refresh()
 
 void CalendarFolder::refresh(const QString& name)
 {
-    const auto stamp = stampOf(AT_FDCWD, QFile::encodeName(pathOf(name)).constData(), fileTime());
+    const auto stamp = stampOf(AT_FDCWD, QFile::encodeName(pathOf(name)).constData(), presentFileTime());
     if (stamp) {
         take(name, *stamp);
     } else {
