@@ -73,7 +73,8 @@ struct ShowDescription
     std::optional<std::uint32_t> categories;
 };
 
-/// Fetches and stores what the pages behind a show tell of it. Blocks; never on the main thread.
+/// Fetches and stores what the pages behind a show tell of it. Blocks; never on the main thread. Work that is under way
+/// may outlast the window: who implements it refers to nothing that goes before.
 class ShowDetails
 {
 public:
@@ -89,7 +90,7 @@ struct ShowServices
 {
     ShowMarks* marks = nullptr;
     std::shared_ptr<ShowPictures> pictures = nullptr; ///< shared with work that is under way on other threads
-    ShowDetails* details = nullptr;
+    std::shared_ptr<ShowDetails> details = nullptr;   ///< shared likewise
 };
 
 } // namespace vidora

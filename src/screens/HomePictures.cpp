@@ -1,5 +1,7 @@
 #include "screens/HomePictures.h"
 
+#include <algorithm>
+
 namespace vidora {
 
 namespace {
@@ -31,7 +33,27 @@ std::optional<ShowImage> HomePictures::imageOf(const ObjectId& channel, const Sh
 void HomePictures::setShowImage(const ShowImage& image, const ObjectId& forChannelID, const QString& showIdentifier)
 {
     m_showImages[forChannelID][showIdentifier] = image;
+    forgetGoneShows(forChannelID); // it may have come late
     m_rows.reloadShow(forChannelID, showIdentifier);
+}
+
+void HomePictures::forgetGoneShows(const ObjectId& channel)
+{
+    const auto images = m_showImages.find(channel);
+    const ShowList* entries = m_rows.entriesOf(channel);
+    if (images == m_showImages.end() || !entries)
+        return;
+    std::erase_if(images->second, [&](const auto& image) {
+        return std::none_of(entries->begin(), entries->end(),
+                            [&](const Show& show) { return identifierOf(show) == image.first; });
+    });
+}
+
+void HomePictures::forgetGoneShows()
+{
+    std::erase_if(m_showImages, [this](const auto& images) { return !m_rows.entriesOf(images.first); });
+    for (const auto& [channel, images] : m_showImages)
+        forgetGoneShows(channel);
 }
 
 void HomePictures::displayed(const ObjectId& channel, const Show& show)

@@ -35,6 +35,10 @@ public:
     void setShowImage(const ShowImage& image, const ObjectId& forChannelID, const QString& showIdentifier);
     /// Forgets the pictures of a channel, whose list has changed.
     void forget(const ObjectId& channel) { m_showImages.erase(channel); }
+    /// Forgets the pictures of shows that have left the channel's rows: what is held here stays in memory.
+    void forgetGoneShows(const ObjectId& channel);
+    /// The same for all channels, those without a place among them.
+    void forgetGoneShows();
     /// The show has come into sight. Its picture is fetched, and once a channel what the pages of its shows tell.
     void displayed(const ObjectId& channel, const Show& show);
 

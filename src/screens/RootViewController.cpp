@@ -125,6 +125,7 @@ void RootViewController::show(Sections sections, std::vector<ShowList> entries)
     } else {
         reloadData(change);
     }
+    m_pictures.forgetGoneShows();
     surroundingsChanged();
 }
 
@@ -292,6 +293,7 @@ void RootViewController::setEntries(std::size_t section, const ShowList& entries
             present.insert(present.end(), entries.begin() + shown, entries.end());
         });
     present = entries;
+    m_pictures.forgetGoneShows(m_sections[section].channel.channel);
     reloadRows(section, 0, std::min(before, after));
 }
 

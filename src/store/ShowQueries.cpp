@@ -127,8 +127,8 @@ void TVListings::compoundListingsWithShows(SharedShowList shows, QualityOfServic
 {
     const StoreChannels& channels = m_surroundings.channels;
     const TVStationIcons& icons = m_surroundings.icons;
-    onMain([&channels, &icons, shows = std::move(shows), priority, mainBlock = std::move(mainBlock)] {
-        DispatchQueue::global(priority).async([&channels, &icons, shows, mainBlock] {
+    onMain([this, &channels, &icons, shows = std::move(shows), priority, mainBlock = std::move(mainBlock)] {
+        m_compounding.async(DispatchQueue::global(priority), [&channels, &icons, shows, mainBlock] {
             auto listing = std::make_shared<const CompoundListing>(compoundListing(*shows, channels, icons));
             DispatchQueue::main().async([listing = std::move(listing), mainBlock] { mainBlock(*listing); });
         });

@@ -25,6 +25,7 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
 TVListings::~TVListings()
 {
     startLoading();
+    m_compounding.wait(); // whose blocks need channels and icons, which go after the store
     // Blocks of the first queue put blocks into the second, never the reverse.
     m_listingsDictionaryAccessQueue->barrierSync([] {});
     m_fileIOQueue->sync([] {});

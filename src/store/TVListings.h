@@ -173,6 +173,7 @@ private:
     std::shared_ptr<const ListingsDictionary> m_listingsDictionary = std::make_shared<const ListingsDictionary>();
     std::set<ObjectId> m_scheduledForSaving; ///< belongs to m_fileIOQueue
     SearchIndex m_searchIndex;
+    DispatchGroup m_compounding; ///< begun on the main thread alone
 
     const std::shared_ptr<DispatchQueue> m_listingsDictionaryAccessQueue;
     const std::shared_ptr<DispatchQueue> m_fileIOQueue;

@@ -6,6 +6,9 @@
 
 #include <QAbstractItemModelTester>
 
+#include <atomic>
+#include <thread>
+
 namespace vidora {
 namespace {
 
@@ -139,6 +142,84 @@ TEST_F(ModelChangesTest, HomeRollsOnWithTheClock)
     EXPECT_EQ(watched.texts(), words("One|08:30 a|09:30 b|10:30 c|11:30 d|Two|08:30 g|09:30 h"));
     passTime(24 * 60 * minute);
     EXPECT_EQ(watched.texts(), words("One|Two"));
+}
+
+/// Has one picture for every show.
+struct OnePicture final : ShowPictures
+{
+    std::optional<ShowImage> image100AtURL(const URL&, bool) override { return std::nullopt; }
+    void asyncLoadOfShowImageAtURL(const URL&, Received received) override
+    {
+        const auto image = std::make_shared<const int>(0);
+        last = image;
+        received({QStringLiteral("image://pictures/1"), 10, image});
+    }
+    void imageAtURL(const URL&, const QSize&, std::function<void(const std::optional<ShowImage>&)>) override {}
+    std::weak_ptr<const int> last;
+};
+
+TEST_F(ModelChangesTest, PicturesGoWithTheirShows)
+{
+    const auto one = channel(1, QStringLiteral("One"));
+    broadcast(1, words("a|b|c|d|e|f"));
+    start({one});
+    device.update();
+    const auto pictures = std::make_shared<OnePicture>();
+    device.delegate->setShowServices({&marks, pictures, nullptr});
+    const Show first = home().rowAt({0, 1}).show;
+    const URL url = *URL::fromText(u"http://pictures.example/a.png");
+    device.delegate->listings().updateIMDBForChannel(idOf(one), *first->entry->identificator(), *first->categories, url,
+                                                     Pictures{url});
+    home().selectedChannelsChanged();
+    DispatchQueue::runMain([&] { return home().rowAt({0, 1}).show->count() == 4; });
+    home().rowDisplayed({0, 1});
+    DispatchQueue::runMain([&] { return home().rowAt({0, 1}).picture.width > 0; });
+    EXPECT_FALSE(pictures->last.expired());
+    device.clock.advance(std::chrono::minutes(61));
+    home().timePassed();
+    DispatchQueue::runMain([&] { return home().rowAt({0, 1}).show != nullptr && pictures->last.expired(); });
+}
+
+/// Looks for films until it is told to end.
+struct SlowDetails final : ShowDetails
+{
+    explicit SlowDetails(std::atomic<bool>& isAsked)
+        : asked(isAsked)
+    {
+    }
+    ~SlowDetails() override
+    {
+        DispatchQueue::main().async([] {});
+    }
+    std::optional<ShowDescription> netDescriptionFor(const std::shared_ptr<const TVEntry>&) override { return {}; }
+    void findFilm(const Show&) override
+    {
+        asked = true;
+        DispatchQueue::main().async([] {});
+        while (!mayEnd)
+            std::this_thread::yield();
+    }
+    std::atomic<bool>& asked;
+    std::atomic<bool> mayEnd = false;
+};
+
+TEST_F(ModelChangesTest, WhoLooksForDetailsLastsUntilTheyAreFound)
+{
+    broadcast(1, words("a|b|c|d|e"));
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    std::atomic<bool> asked = false;
+    auto details = std::make_shared<SlowDetails>(asked);
+    device.delegate->setShowServices({&marks, nullptr, details});
+    home().rowDisplayed({0, 1});
+    DispatchQueue::runMain([&] { return asked.load(); });
+    device.delegate->setShowServices({&marks, nullptr, nullptr});
+    const std::weak_ptr<SlowDetails> working = std::exchange(details, nullptr);
+    if (const auto used = working.lock())
+        used->mayEnd = true;
+    else
+        ADD_FAILURE() << "still at work";
+    DispatchQueue::runMain([&] { return working.expired(); });
 }
 
 TEST_F(ModelChangesTest, RefreshEndsWhenNoSourceDelivers)

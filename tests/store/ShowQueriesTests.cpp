@@ -247,6 +247,36 @@ TEST_F(ShowQueriesTest, CompoundListingsAreGroupedByTheDaysOfTheDevice)
     EXPECT_EQ(listing.icons.at(one), folder.filePath("icon.png"_s));
 }
 
+/// Channels whose owner may go.
+class GoingChannels final : public StoreDevice
+{
+public:
+    std::optional<QString> iconValue(const ObjectId&) const override
+    {
+        EXPECT_FALSE(areGone);
+        if (!wereAsked.exchange(true))
+            DispatchQueue::main().async([] {});
+        return std::nullopt;
+    }
+    mutable std::atomic<bool> wereAsked = false;
+    std::atomic<bool> areGone = false;
+};
+
+TEST_F(ShowQueriesTest, ACompoundListingThatIsBeingMadeEndsAheadOfTheStore)
+{
+    GoingChannels channels;
+    auto store = std::make_unique<TVListings>(
+        TVListings::Surroundings{clock, folder.path(), channels, icons, device, device, "vidora"_s});
+    auto shows = std::make_shared<ShowList>();
+    for (int number = 0; number < 20'000; ++number)
+        shows->push_back(TestShow{"a"_s, 0, 10}.show(channelId(number)));
+    store->compoundListingsWithShows(shows, priority, [](const CompoundListing&) {});
+    DispatchQueue::runMain([&] { return channels.wereAsked.load(); });
+    store.reset();
+    channels.areGone = true;
+    DispatchQueue::runMain([&] { return shows.use_count() == 1; });
+}
+
 TEST_F(ShowQueriesTest, IconsLieInTheirFolderOnly)
 {
     QFile::copy(folder.filePath("icon.png"_s), folder.filePath(".hidden"_s));
