@@ -34,29 +34,34 @@ bool URLCache::isStale(const Stored& stored) const
 
 void URLCache::remove(Entries::iterator at)
 {
-    m_usage -= at->second.entry.data.size();
+    m_usage -= at->entry.data.size();
+    m_places.erase(at->url);
     m_entries.erase(at);
+}
+
+void URLCache::removeOld()
+{
+    while (!m_entries.empty() && isStale(m_entries.front()))
+        remove(m_entries.begin());
 }
 
 void URLCache::makeRoom()
 {
-    while (m_usage > m_capacity) {
-        remove(std::min_element(m_entries.begin(), m_entries.end(),
-                                [](const auto& a, const auto& b) { return a.second.since < b.second.since; }));
-    }
+    while (m_usage > m_capacity)
+        remove(m_entries.begin());
 }
 
 std::optional<URLCache::Entry> URLCache::cachedResponseForRequest(const URLRequest& request)
 {
     const std::lock_guard lock(m_mutex);
-    const auto found = m_entries.find(request.url);
-    if (found == m_entries.end())
+    const auto found = m_places.find(request.url);
+    if (found == m_places.end())
         return std::nullopt;
-    if (isStale(found->second)) {
-        remove(found);
+    if (isStale(*found->second)) {
+        remove(found->second);
         return std::nullopt;
     }
-    return found->second.entry;
+    return found->second->entry;
 }
 
 void URLCache::storeCachedResponse(Entry entry, const URLRequest& forRequest)
@@ -66,23 +71,21 @@ void URLCache::storeCachedResponse(Entry entry, const URLRequest& forRequest)
         return;
     const std::lock_guard lock(m_mutex);
     // Addresses with a date in them are never asked for again: what is too old goes here, not only when it is met.
-    for (auto at = m_entries.begin(); at != m_entries.end();) {
-        const auto next = std::next(at);
-        if (at->first == forRequest.url || isStale(at->second))
-            remove(at);
-        at = next;
-    }
+    removeOld();
+    if (const auto known = m_places.find(forRequest.url); known != m_places.end())
+        remove(known->second);
     m_usage += entry.data.size();
-    m_entries.emplace(forRequest.url, Stored{std::move(entry), m_clock.now()});
+    m_entries.push_back({forRequest.url, std::move(entry), m_clock.now()});
+    m_places.emplace(forRequest.url, std::prev(m_entries.end()));
     makeRoom();
 }
 
 void URLCache::removeCachedResponseForRequest(const URLRequest& request)
 {
     const std::lock_guard lock(m_mutex);
-    const auto found = m_entries.find(request.url);
-    if (found != m_entries.end())
-        remove(found);
+    const auto found = m_places.find(request.url);
+    if (found != m_places.end())
+        remove(found->second);
 }
 
 void URLCache::setMemoryCapacity(qint64 bytes)

@@ -4,6 +4,7 @@
 #include "platform/URLSession.h"
 
 #include <functional>
+#include <list>
 #include <mutex>
 #include <unordered_map>
 
@@ -38,19 +39,22 @@ public:
 private:
     struct Stored
     {
+        URL url;
         Entry entry;
         Instant since;
     };
-    using Entries = std::unordered_map<URL, Stored>;
+    using Entries = std::list<Stored>;
 
     bool isStale(const Stored& stored) const;
     void remove(Entries::iterator at);
+    void removeOld();
     void makeRoom();
 
     const Clock& m_clock;
     const std::function<Milliseconds()> m_maximumAge;
     mutable std::mutex m_mutex;
-    Entries m_entries;
+    Entries m_entries; ///< in the order in which they were stored
+    std::unordered_map<URL, Entries::iterator> m_places;
     qint64 m_capacity;
     qint64 m_usage = 0;
 };

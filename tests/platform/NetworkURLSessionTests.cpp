@@ -342,4 +342,20 @@ TEST(URLCache, LetsTheOldestGoWhenItIsFull)
     EXPECT_EQ(cache.currentMemoryUsage(), 5); // the addresses of yesterday do not pile up
 }
 
+TEST(URLCache, LooksAtFewEntriesHoweverManyItHolds)
+{
+    FixedClock clock(instantFromUnixMilliseconds(0));
+    int looks = 0;
+    URLCache cache(clock, [&] {
+        ++looks;
+        return Milliseconds(Seconds(3600));
+    });
+    constexpr int pages = 1000;
+    for (int number = 0; number < pages; ++number)
+        cache.storeCachedResponse({"x", URLResponse{200, {}, false}},
+                                  URLRequest(*URL::fromText(QStringLiteral("http://a.example/%1").arg(number))));
+    EXPECT_EQ(cache.currentMemoryUsage(), pages);
+    EXPECT_LE(looks, 2 * pages);
+}
+
 } // namespace
