@@ -7,6 +7,8 @@
 
 #include <QCborMap>
 #include <QCborValue>
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -16,7 +18,7 @@ namespace vidora {
 
 namespace {
 
-constexpr QLatin1String channelsKey("Channels");
+constexpr QLatin1String channelsKey("Channels"), sourceKey("Source"), pathKey("Path");
 constexpr qint64 maximumFileSize = 16 * 1024 * 1024;
 
 struct Icon
@@ -119,27 +121,57 @@ bool cacheIsYoungest(const CatalogueFiles& files)
     return isYounger(files.catalogue) && isYounger(files.iconFolder);
 }
 
-std::optional<std::vector<ChannelDictionary>> readCache(const QString& path)
+/// What a cache was made of. Dates alone don't tell: a guide that is removed leaves the built-in catalogue, and a file
+/// from a backup is older than what it replaces.
+QCborMap sourceOf(const CatalogueFiles& files, const QByteArray& catalogue)
 {
-    const auto bytes = AtomicFile::read(path, maximumFileSize);
-    if (!bytes)
-        return std::nullopt;
-    QCborParserError error;
-    const QCborValue archive = QCborValue::fromCbor(*bytes, &error);
-    if (error.error != QCborError::NoError || !archive.toMap().contains(channelsKey))
-        return std::nullopt;
-    return channelsOfList(archive.toMap().value(channelsKey).toVariant());
+    const auto date = [](const QString& path) { return QFileInfo(path).lastModified().toMSecsSinceEpoch(); };
+    return {{pathKey, files.catalogue},
+            {QLatin1String("Size"), catalogue.size()},
+            {QLatin1String("Date"), date(files.catalogue)},
+            {QLatin1String("Digest"), QCryptographicHash::hash(catalogue, QCryptographicHash::Sha256)},
+            {QLatin1String("Icons"), files.iconFolder},
+            {QLatin1String("IconsDate"), date(files.iconFolder)}};
 }
 
-void writeCache(const QString& path, const std::vector<ChannelDictionary>& channels)
+/// Empty for a cache that can't be read.
+QCborMap readCache(const QString& path)
+{
+    QCborParserError error;
+    const QCborValue archive =
+        QCborValue::fromCbor(AtomicFile::read(path, maximumFileSize).value_or(QByteArray()), &error);
+    return error.error == QCborError::NoError ? archive.toMap() : QCborMap();
+}
+
+void writeCache(const QString& path, const QCborMap& source, const std::vector<ChannelDictionary>& channels)
 {
     QVariantList list;
     for (const ChannelDictionary& channel : channels)
         list.append(channel.keys());
     QCborMap archive;
+    archive.insert(sourceKey, source);
     archive.insert(channelsKey, QCborValue::fromVariant(list));
     if (AtomicFile::write(path, archive.toCborValue().toCbor(), AtomicFile::Access::Everyone))
         Log::line(QStringLiteral("catalogue: the filtered channels could not be kept"));
+}
+
+std::vector<ChannelDictionary> servedChannels(const CatalogueFiles& files, const IconTest& hasIcon)
+{
+    const QCborMap cache = readCache(files.filteredCache);
+    const QCborMap cachedSource = cache.value(sourceKey).toMap();
+    const auto cached = [&] { return channelsOfList(cache.value(channelsKey).toVariant()); };
+    const auto bytes = AtomicFile::read(files.catalogue, maximumFileSize);
+    if (!bytes) {
+        Log::line(QStringLiteral("catalogue: %1 can't be read").arg(files.catalogue));
+        return cachedSource.value(pathKey) == files.catalogue ? cached() : std::vector<ChannelDictionary>();
+    }
+    const QCborMap source = sourceOf(files, *bytes);
+    if (cacheIsYoungest(files) && cachedSource == source)
+        return cached();
+    auto channels = filteredChannels(channelsOfPropertyList(*bytes), hasIcon);
+    if (!files.readOnly)
+        writeCache(files.filteredCache, source, channels);
+    return channels;
 }
 
 } // namespace
@@ -189,19 +221,10 @@ std::vector<ChannelDictionary> channelsOfPropertyList(const QByteArray& bytes)
 
 ChannelData loadChannelData(const CatalogueFiles& files, const IconTest& hasIcon)
 {
-    std::optional<std::vector<ChannelDictionary>> channels;
-    if (cacheIsYoungest(files))
-        channels = readCache(files.filteredCache);
-    if (!channels) {
-        const auto bytes = AtomicFile::read(files.catalogue, maximumFileSize);
-        if (!bytes)
-            Log::line(QStringLiteral("catalogue: %1 can't be read").arg(files.catalogue));
-        channels = filteredChannels(channelsOfPropertyList(bytes.value_or(QByteArray())), hasIcon);
-        writeCache(files.filteredCache, *channels);
-    }
+    const std::vector<ChannelDictionary> channels = servedChannels(files, hasIcon);
     ChannelData data;
-    data.reserve(channels->size());
-    for (const ChannelDictionary& channel : *channels)
+    data.reserve(channels.size());
+    for (const ChannelDictionary& channel : channels)
         data.insert_or_assign(idOf(channel), channel);
     return data;
 }

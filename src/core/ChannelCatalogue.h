@@ -59,11 +59,13 @@ struct CatalogueFiles
 {
     QString catalogue;     ///< Data.plist
     QString iconFolder;    ///< a change of its time stamp is a change of the icons
-    QString filteredCache; ///< rebuilt whenever it is not younger than both
+    QString filteredCache; ///< rebuilt whenever it is not younger than both, or was made of others
+    bool readOnly = false; ///< another process owns the cache: it is not written
 };
 
-/// Reads the filtered cache, or filters the catalogue anew and writes the cache. A catalogue that can't be read gives
-/// no channels; a cache that can't be written is no failure. Main thread, at launch.
+/// Reads the filtered cache, or filters the catalogue anew and writes the cache. A cache counts for the very catalogue
+/// and icons that it was made of. A catalogue that can't be read leaves what its cache holds, or no channels; a cache
+/// that can't be written is no failure. Main thread, at launch.
 ChannelData loadChannelData(const CatalogueFiles& files, const IconTest& hasIcon);
 
 } // namespace vidora

@@ -78,7 +78,8 @@ void VidoraAppDelegate::applicationDidFinishLaunching()
 void VidoraAppDelegate::loadCatalogue()
 {
     const CatalogueFiles files{m_environment.catalogue, m_environment.iconFolder,
-                               m_environment.folders.caches + QLatin1Char('/') + filteredCatalogue};
+                               m_environment.folders.caches + QLatin1Char('/') + filteredCatalogue,
+                               m_environment.readOnly};
     m_channelData =
         loadChannelData(files, [this](const QString& name) { return m_icons->iconNamed(name).has_value(); });
     m_channels =

@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -93,10 +94,22 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000 + seconds, Qt::UTC), QFile::FileModificationTime);
     }
+    /// "cached" in front of what was not filtered anew.
     QString loadedTitle() const
     {
-        const ChannelData data = loadChannelData(files, [](const QString&) { return true; });
-        return data.size() == 1 ? *data.begin()->second.title() : QString();
+        bool isFiltered = false;
+        const ChannelData data = loadChannelData(files, [&](const QString&) { return isFiltered = true; });
+        const QString title = data.size() == 1 ? *data.begin()->second.title() : QString();
+        return isFiltered || title.isEmpty() ? title : QStringLiteral("cached ") + title;
+    }
+    /// A catalogue of one channel, as old as is said, with a cache that was made of it and is younger than anything.
+    void cacheOf(const QString& title, int seconds)
+    {
+        writeCatalogue({title});
+        stamp(files.catalogue, seconds);
+        QFile::remove(files.filteredCache);
+        ASSERT_EQ(loadedTitle(), title);
+        stamp(files.filteredCache, 1000);
     }
 
     QTemporaryDir folder;
@@ -106,24 +119,55 @@ protected:
 
 TEST_F(CatalogueFilesTest, trustsTheCacheOnlyWhileItIsYoungerThanTheCatalogue)
 {
-    writeCatalogue({QStringLiteral("old")});
-    EXPECT_EQ(loadedTitle(), u"old");
-    writeCatalogue({QStringLiteral("new")});
-    stamp(files.catalogue, 0);
-    stamp(files.filteredCache, 1);
-    EXPECT_EQ(loadedTitle(), u"old");
+    cacheOf(QStringLiteral("one"), 0);
+    EXPECT_EQ(loadedTitle(), u"cached one");
     stamp(files.filteredCache, 0);
-    EXPECT_EQ(loadedTitle(), u"new") << "an equal date is no later date";
+    EXPECT_EQ(loadedTitle(), u"one") << "an equal date is no later date";
+}
+
+TEST_F(CatalogueFilesTest, takesNoCacheForThatOfAnotherCatalogue)
+{
+    cacheOf(QStringLiteral("mine"), 0);
+    writeCatalogue({QStringLiteral("a guide from an older backup")});
+    stamp(files.catalogue, -10);
+    EXPECT_EQ(loadedTitle(), u"a guide from an older backup");
+
+    cacheOf(QStringLiteral("mine"), 0);
+    writeCatalogue({QStringLiteral("more")}); // of the same size and date
+    stamp(files.catalogue, 0);
+    EXPECT_EQ(loadedTitle(), u"more");
+
+    cacheOf(QStringLiteral("mine"), 0);
+    files.catalogue = folder.filePath(QStringLiteral("built-in.plist"));
+    writeCatalogue({QStringLiteral("mine")}); // the guide is removed, its twin takes its place
+    stamp(files.catalogue, 0);
+    EXPECT_EQ(loadedTitle(), u"mine");
+    QFile::remove(files.catalogue);
+    EXPECT_EQ(loadedTitle(), u"cached mine") << "a selection must not go because its catalogue is away for a moment";
+    files.catalogue = folder.filePath(QStringLiteral("elsewhere.plist"));
+    EXPECT_EQ(loadedTitle(), QString());
+}
+
+TEST_F(CatalogueFilesTest, leavesTheCacheOfAnotherProcessAlone)
+{
+    cacheOf(QStringLiteral("mine"), 0);
+    writeCatalogue({QStringLiteral("more")});
+    stamp(files.catalogue, 0);
+    files.readOnly = true;
+    EXPECT_EQ(loadedTitle(), u"more");
+    EXPECT_EQ(QFileInfo(files.filteredCache).lastModified().toSecsSinceEpoch(), 1'700'001'000);
+    QFile::remove(files.filteredCache);
+    EXPECT_EQ(loadedTitle(), u"more");
+    EXPECT_FALSE(QFile::exists(files.filteredCache));
 }
 
 TEST_F(CatalogueFilesTest, rebuildsABrokenCache)
 {
-    writeCatalogue({QStringLiteral("whole")});
+    cacheOf(QStringLiteral("whole"), 0);
     for (const QByteArray& broken :
          {QByteArray(), QByteArray("\xa1\x68"), QByteArray("\x9f\x9f\x9f\x9f"), QByteArray(64, '\xff')}) {
         write(files.filteredCache, broken);
-        stamp(files.catalogue, 0);
-        stamp(files.filteredCache, 1);
+        stamp(files.filteredCache, 1000);
         EXPECT_EQ(loadedTitle(), u"whole");
     }
 }
