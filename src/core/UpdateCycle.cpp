@@ -65,6 +65,17 @@ struct UpdateCycle::Pass
     }
 };
 
+// A group is a set: a channel may name one source twice. What stands there of a channel stands at the end, since
+// channels are collected one after the other.
+void UpdateCycle::addTo(std::vector<Source>& group, Source source)
+{
+    for (auto at = group.rbegin(); at != group.rend() && at->channel == source.channel; ++at) {
+        if (at->sourceId == source.sourceId)
+            return;
+    }
+    group.push_back(std::move(source));
+}
+
 std::size_t UpdateCycle::URLSetHash::operator()(const URLSet& urls) const
 {
     std::size_t hash = urls.size();
@@ -146,7 +157,7 @@ void UpdateCycle::collect(Pass& pass, const ObjectId& channel)
             Log::line(QStringLiteral("source %1: no address").arg(sourceId));
             continue;
         }
-        pass.groups[*urls].push_back({channel, sourceId});
+        addTo(pass.groups[*urls], {channel, sourceId});
         pass.choices.push_back({std::move(*urls), location});
     }
 }

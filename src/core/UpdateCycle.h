@@ -85,6 +85,7 @@ private:
     struct Pass;
 
     void run(const std::unordered_map<ObjectId, int>& showCounts);
+    static void addTo(std::vector<Source>& group, Source source);
     void collect(Pass& pass, const ObjectId& channel);
     ChannelItems neededOf(const std::vector<Source>& group) const;
     void update(Pass& pass, const URLSet& urls);

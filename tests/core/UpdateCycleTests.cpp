@@ -1,5 +1,8 @@
 #include "support/TestDevice.h"
 
+#include <QDateTime>
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace vidora {
@@ -172,30 +175,68 @@ TEST_F(UpdateCycleTest, readsAnOldListAgainAndLeavesAYoungOne)
 
 TEST_F(UpdateCycleTest, aDocumentThatMakesAScannerThrowLeavesTheListAndTheOtherGroups)
 {
-    const auto broken = with(one, {QStringLiteral("dolce-sport.x")}); // an empty page list would be out of range
+    device.endpoints.cinestar.host = QStringLiteral("cinestar.example.");
+    const QString firstDay = QStringLiteral("https://cinestar.example.rs/raspored/");
+    const auto broken = with(one, {QStringLiteral("cinestar.rs.x"), QStringLiteral("tvpc.a")});
     const auto whole = with(two, {QStringLiteral("n.b")});
-    device.session.answer(QStringLiteral("https://dolce.example/program/x"),
-                          {200, "<html>no tabs</html>", "text/html", {}});
+    device.session.answer(firstDay, {200, "<html>one of seven days</html>", "text/html", {}});
     device.session.answer(feedN, xml(guide({QStringLiteral("b")}, QStringLiteral("N"))));
+    device.session.answer(feedTvpc, xml(guide({QStringLiteral("a")}, QStringLiteral("T"))));
     start({broken, whole});
     device.update();
     EXPECT_EQ(device.titles(whole).size(), 5);
     EXPECT_TRUE(device.titles(broken).isEmpty());
+    EXPECT_TRUE(device.delegate->channels().channelWithChannelId(ObjectId::initWithHex(broken.id))->loading())
+        << "what made a parse fail would make the next one fail as well";
+    device.session.takeRequests();
+    device.update();
+    EXPECT_TRUE(device.session.takeRequests().isEmpty());
+}
+
+TEST_F(UpdateCycleTest, readsAChannelOnceFromASourceThatItNamesTwice)
+{
+    const auto channel = with(one, {QStringLiteral("n.a"), QStringLiteral("n.a")});
+    struct Fetches final : UpdateObserver
+    {
+        void passStarted(std::size_t) override {}
+        void fetching(const std::vector<ObjectId>& channels) override { asked = channels; }
+        void delivered(const std::unordered_map<ObjectId, ShowList>&) override {}
+        void passEnded(std::size_t, const std::vector<ObjectId>&) override { isOver = true; }
+        std::vector<ObjectId> asked;
+        bool isOver = false;
+    } fetches;
+    start({channel});
+    device.delegate->setUpdateObserver(&fetches);
+    device.delegate->checkAndUpdateAllChannels();
+    DispatchQueue::runMain([&] { return fetches.isOver; });
+    device.delegate->setUpdateObserver(nullptr);
+    EXPECT_EQ(fetches.asked, std::vector<ObjectId>{ObjectId::initWithHex(channel.id)});
 }
 
 TEST_F(UpdateCycleTest, listsAndAgesSurviveARestart)
 {
     const auto channel = with(one, {QStringLiteral("n.a")});
+    const auto id = ObjectId::initWithHex(channel.id);
     device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
     start({channel});
     device.update();
+    device.session.takeRequests();
     device.quit();
 
-    device.clock.set(device.clock.now());
+    const Instant loaded = device.clock.now() - std::chrono::hours(23);
+    {
+        QFile list(device.folders.caches + QLatin1Char('/') + TVListings::listingsFileFromChannelIdentificator(id));
+        ASSERT_TRUE(list.open(QIODevice::ReadWrite | QIODevice::ExistingOnly));
+        list.setFileTime(QDateTime::fromMSecsSinceEpoch(unixMilliseconds(loaded)), QFile::FileModificationTime);
+    }
     device.launch();
     EXPECT_EQ(device.titles(channel).size(), 5);
-    EXPECT_EQ(device.delegate->channels().selected().size(), 1U);
-    EXPECT_TRUE(device.delegate->channels().channelWithChannelId(ObjectId::initWithHex(channel.id))->timeLoaded());
+    EXPECT_EQ(device.delegate->channels().channelWithChannelId(id)->timeLoaded(), loaded);
+    device.update();
+    EXPECT_TRUE(device.session.takeRequests().isEmpty());
+    device.clock.advance(std::chrono::hours(1) + Seconds(1));
+    device.update();
+    EXPECT_EQ(device.session.takeRequests(), QStringList{feedN});
 }
 
 TEST_F(UpdateCycleTest, aChannelThatLeftTheCatalogueLeavesTheSelection)

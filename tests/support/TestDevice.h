@@ -170,9 +170,9 @@ public:
     VidoraAppDelegate& launch()
     {
         delegate.reset();
-        delegate = std::make_unique<VidoraAppDelegate>(
-            Environment{folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), endpoints,
-                        QStringLiteral("vidora"), clock, random, sleeper, session, false, false, eventStore});
+        delegate = std::make_unique<VidoraAppDelegate>(Environment{
+            folders, m_folder.filePath(QStringLiteral("Data.plist")), m_folder.path(), endpoints,
+            QStringLiteral("vidora"), clock, random, sleeper, network ? *network : session, false, false, eventStore});
         delegate->applicationDidFinishLaunching();
         settle();
         return *delegate;
@@ -224,6 +224,7 @@ public:
     StandardFolders folders;
     Endpoints endpoints;
     EventStore* eventStore = nullptr; ///< outlives the device
+    URLSession* network = nullptr;    ///< in place of the scripted one; outlives the device
     std::unique_ptr<VidoraAppDelegate> delegate;
     std::vector<ObjectId> failed;
 };

@@ -5,7 +5,9 @@
 
 #include <QtTest/QTest>
 
+#include <atomic>
 #include <gmock/gmock.h>
+#include <thread>
 
 namespace vidora {
 namespace {
@@ -109,17 +111,43 @@ TEST_F(ShowPictureTest, OnlyAPictureThatSomebodyWaitsForTellsOfAMissingHost)
     DispatchQueue::runMain([&] { return alerts == 1; });
 }
 
+/// Answers only when it is asked to end, with a whole picture all the same: the one that was nearly there.
+class LastMomentSession final : public URLSession
+{
+public:
+    URLResult perform(const URLRequest& request) override
+    {
+        hasBegun = true;
+        DispatchQueue::main().async([] {});
+        while (!*request.cancelled)
+            std::this_thread::yield();
+        return {test::png(300, 300), URLResponse{200, {}, false}, std::nullopt};
+    }
+    std::atomic<bool> hasBegun = false;
+};
+
 TEST_F(ShowPictureTest, BringsNothingAnyMoreOnceStopped)
 {
-    const URL url = serve("show.png", test::png(300, 300));
-    bool received = false;
-    loader->asyncLoadOfShowImageAtURL(url, [&](const ShowImage&) { received = true; });
+    const URL url = *URL::fromText(u"http://pictures.example/show.png");
+    LastMomentSession session;
     loader->stop();
-    EXPECT_FALSE(image100(url));
+    device.network = &session;
+    device.launch();
+    loader = std::make_shared<ShowPictureLoader>(*device.delegate, 99.0, 2.0);
+    bool received = false;
+    // Goes with the last that might still call back.
+    const auto watch = [](bool& isOver) {
+        return std::shared_ptr<void>(nullptr,
+                                     [&isOver](void*) { DispatchQueue::main().async([&] { isOver = true; }); });
+    };
+    bool isOver = false, secondIsOver = false;
+    loader->asyncLoadOfShowImageAtURL(url, [&received, held = watch(isOver)](const ShowImage&) { received = true; });
+    DispatchQueue::runMain([&] { return session.hasBegun.load(); });
+    loader->stop();
     device.delegate.reset(); // what still waits for its turn must not touch it
-    loader->asyncLoadOfShowImageAtURL(url, [&](const ShowImage&) { received = true; });
-    DispatchQueue::global(QualityOfService::Background).sync([] {});
-    test::settle();
+    loader->asyncLoadOfShowImageAtURL(url,
+                                      [&received, held = watch(secondIsOver)](const ShowImage&) { received = true; });
+    DispatchQueue::runMain([&] { return isOver && secondIsOver; });
     EXPECT_FALSE(received);
 }
 
