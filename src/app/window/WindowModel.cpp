@@ -9,7 +9,6 @@ namespace vidora {
 
 namespace {
 
-const QString selectedTabKey = QStringLiteral("window.tab");
 const QString widthKey = QStringLiteral("window.width");
 const QString heightKey = QStringLiteral("window.height");
 
@@ -29,7 +28,6 @@ WindowModel::WindowModel(VidoraAppDelegate& delegate)
     };
     m_tabs.stream().playerChanged = [this] { followPlayer(); };
     m_delegate.setUpdateObserver(&m_progress);
-    restoreTab();
     followTabs();
 }
 
@@ -88,16 +86,6 @@ void WindowModel::selectTab(int index)
     if (index < 0 || wanted >= tabs.size() || !tabs[wanted].enabled)
         return;
     m_tabs.selectTab(wanted);
-    m_delegate.defaults().setObject(tabs[wanted].name, selectedTabKey);
-}
-
-void WindowModel::restoreTab()
-{
-    const std::optional<QString> name = m_delegate.defaults().stringForKey(selectedTabKey);
-    const std::vector<PersistentAdTabBarController::Tab> tabs = m_tabs.tabs();
-    const auto at = std::find_if(tabs.begin(), tabs.end(), [&](const auto& tab) { return tab.name == name; });
-    if (at != tabs.end() && at->enabled)
-        m_tabs.selectTab(static_cast<std::size_t>(at - tabs.begin()));
 }
 
 void WindowModel::followTabs()

@@ -84,7 +84,6 @@ private:
     void presentAlert(Alert alert);
     void followPlayer();
     void showNextAlert();
-    void restoreTab();
 
     VidoraAppDelegate& m_delegate;
     PersistentAdTabBarController m_tabs;
