@@ -251,7 +251,7 @@ TEST_F(ShowQueriesTest, CompoundListingsAreGroupedByTheDaysOfTheDevice)
 class GoingChannels final : public StoreDevice
 {
 public:
-    std::optional<QString> iconValue(const ObjectId&) const override
+    std::optional<QString> iconName(const ObjectId&) const override
     {
         EXPECT_FALSE(areGone);
         if (!wereAsked.exchange(true))
