@@ -121,6 +121,14 @@ void ScreenWalk::enteredBackground() const
     });
 }
 
+void ScreenWalk::selectionModified() const
+{
+    forEach([](ViewController& screen) {
+        if (auto* root = as<RootScreen>(screen))
+            root->setModifiedSelectedChannels(true);
+    });
+}
+
 void ScreenWalk::selectedChannelsChanged() const
 {
     for (const auto& tab : m_tabs.viewControllers()) {

@@ -30,6 +30,8 @@ public:
     /// The application became active: the home screen follows the selection, the others read their lists again.
     void activated() const;
     void enteredBackground() const;
+    /// The home screens follow the selection when they come into sight.
+    void selectionModified() const;
     /// The first home screen of every stack follows the selection, in a block of its own on the main queue.
     void selectedChannelsChanged() const;
 

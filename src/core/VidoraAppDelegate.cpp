@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace vidora {
 
@@ -155,19 +156,30 @@ void VidoraAppDelegate::makeStore()
 void VidoraAppDelegate::pruneSelection()
 {
     ChannelIds selection = m_channels->selected();
-    ChannelIds removed;
-    std::copy_if(selection.begin(), selection.end(), std::back_inserter(removed),
-                 [this](const ObjectId& id) { return !m_channelData.contains(id); });
-    if (removed.empty())
+    if (std::erase_if(selection, [this](const ObjectId& id) { return !m_channelData.contains(id); }) == 0)
         return;
-    m_alarmEngine->setSynchronized(false);
-    std::erase_if(selection, [this](const ObjectId& id) { return !m_channelData.contains(id); });
+    changeSelection(selection);
+    m_screens.selectedChannelsChanged();
+}
+
+void VidoraAppDelegate::changeSelection(const ChannelIds& selection)
+{
+    const ChannelIds before = m_channels->selected();
+    const std::unordered_set<ObjectId> kept(selection.begin(), selection.end());
+    ChannelIds removed = before;
+    std::erase_if(removed, [&](const ObjectId& id) { return kept.contains(id); });
+    if (!removed.empty())
+        m_alarmEngine->setSynchronized(false);
     m_channels->setSelected(selection);
     for (const ObjectId& id : removed)
         m_listings->removeListingsForChannel(id);
     if (selection.empty())
         disableTabs();
-    m_screens.selectedChannelsChanged();
+    else if (before.empty())
+        enableTabs();
+    m_screens.selectionModified();
+    if (removed.empty())
+        return;
     m_alarmEngine->syncAlarms();
     m_screens.reloadData();
 }

@@ -74,6 +74,10 @@ public:
     void applicationDidReceiveMemoryWarning();
     void applicationWillTerminate();
 
+    /// Replaces the selection, with all that follows from it: lists of channels that are no longer selected go, alarms
+    /// and screens follow, and the tabs are turned off and on with the last and the first channel. Who adds channels
+    /// starts a pass.
+    void changeSelection(const ChannelIds& selection);
     /// Brings the lists of all selected channels up to date. Returns at once.
     void checkAndUpdateAllChannels();
     /// How many alarms there are; set by those who know.
@@ -108,7 +112,6 @@ public:
     /// Selects the last tab and turns all others off: without channels there is nothing to show.
     void disableTabs();
     void enableTabs();
-    void reloadData() { m_screens.reloadData(); }
     void favoritesUpdated() override { m_screens.favoritesUpdated(); }
     void recolor() { m_screens.recolor(); }
     void notificationsSynched() override;

@@ -1,6 +1,6 @@
 #include "screens/AllChannelsViewController.h"
 
-#include "content/TextFolding.h"
+#include "content/LatinFolding.h"
 #include "platform/DeviceSettings.h"
 #include "screens/Navigation.h"
 #include "screens/ShowRows.h"
@@ -21,9 +21,12 @@ QString letterOf(const QString& title)
     return DeviceSettings::locale().toUpper(end > 0 ? title.left(end) : QString());
 }
 
-bool contains(const QString& text, QStringView foldedPattern)
+/// Whether a title in either alphabet, or the language, has the pattern, which is folded already.
+bool isFound(const OfferedChannel& channel, const QString& pattern)
 {
-    return FoldedText(text).units().contains(foldedPattern);
+    const QStringList texts{channel.face.title, channel.face.catalogueTitle, channel.language};
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const QString& text) { return foldedInLatin(text).contains(pattern); });
 }
 
 } // namespace
@@ -41,12 +44,11 @@ void AllChannelsViewController::filter()
     m_sections.clear();
     if (isMenu())
         return;
-    const FoldedText pattern(m_searchText);
+    const QString pattern = foldedInLatin(m_searchText);
     for (const OfferedChannel& channel : (*m_groups)[m_selectedSubmenu - 1].channels) {
-        if (!m_searchText.isEmpty() && !contains(channel.face.catalogueTitle, pattern.units()) &&
-            !contains(channel.language, pattern.units()))
+        if (!m_searchText.isEmpty() && !isFound(channel, pattern))
             continue;
-        const QString letter = letterOf(channel.face.catalogueTitle);
+        const QString letter = letterOf(channel.face.title);
         const auto isOfLetter = [&](const Letter& section) { return section.title == letter; };
         auto section = std::find_if(m_sections.rbegin(), m_sections.rend(), isOfLetter);
         if (section == m_sections.rend()) {
@@ -109,24 +111,11 @@ void AllChannelsViewController::toggle(const ObjectId& channel)
 {
     ChannelIds selection = m_delegate.channels().selected();
     const bool isRemoval = std::erase(selection, channel) > 0;
-    if (isRemoval) {
-        m_delegate.listings().removeListingsForChannel(channel);
-    } else {
+    if (!isRemoval)
         selection.push_back(channel);
-        if (selection.size() == 1)
-            m_delegate.enableTabs();
-    }
-    if (selection.empty())
-        m_delegate.disableTabs();
-    m_delegate.channels().setSelected(selection);
-    if (RootScreen* home = homeScreen(m_delegate))
-        home->setModifiedSelectedChannels(true);
-    if (isRemoval) {
-        m_delegate.alarmEngine().setSynchronized(false);
-        m_delegate.alarmEngine().syncAlarms();
-    } else {
+    m_delegate.changeSelection(selection);
+    if (!isRemoval)
         m_delegate.checkAndUpdateAllChannels();
-    }
 }
 
 std::optional<QString> AllChannelsViewController::searchText() const

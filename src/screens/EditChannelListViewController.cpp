@@ -47,17 +47,9 @@ ScreenRow EditChannelListViewController::rowAt(RowPath path) const
     return row;
 }
 
-void EditChannelListViewController::store(bool isRemoval)
+void EditChannelListViewController::store()
 {
-    if (isRemoval)
-        m_delegate.alarmEngine().setSynchronized(false);
-    m_delegate.channels().setSelected(m_selected);
-    if (m_selected.empty())
-        m_delegate.disableTabs();
-    if (RootScreen* home = homeScreen(m_delegate))
-        home->setModifiedSelectedChannels(true);
-    if (isRemoval)
-        m_delegate.reloadData();
+    m_delegate.changeSelection(m_selected);
     surroundingsChanged();
 }
 
@@ -66,9 +58,8 @@ void EditChannelListViewController::deleteRow(RowPath path)
     if (path.row >= m_selected.size())
         return;
     const auto place = m_selected.begin() + static_cast<std::ptrdiff_t>(path.row);
-    m_delegate.listings().removeListingsForChannel(*place);
     removeRows(0, path.row, 1, [&] { m_selected.erase(place); });
-    store(true);
+    store();
 }
 
 void EditChannelListViewController::moveRow(RowPath from, RowPath to)
@@ -80,17 +71,15 @@ void EditChannelListViewController::moveRow(RowPath from, RowPath to)
         m_selected.erase(m_selected.begin() + static_cast<std::ptrdiff_t>(from.row));
         m_selected.insert(m_selected.begin() + static_cast<std::ptrdiff_t>(to.row), moved);
     });
-    store(false);
+    store();
 }
 
 void EditChannelListViewController::trash()
 {
     if (m_selected.empty())
         return;
-    for (const ObjectId& channel : m_selected)
-        m_delegate.listings().removeListingsForChannel(channel);
     removeRows(0, 0, m_selected.size(), [&] { m_selected.clear(); });
-    store(true);
+    store();
 }
 
 void EditChannelListViewController::add()

@@ -32,7 +32,7 @@ protected:
     void willAppear() override;
 
 private:
-    void store(bool isRemoval);
+    void store();
 
     VidoraAppDelegate& m_delegate;
     ChannelIds m_selected;

@@ -39,18 +39,4 @@ void dismiss(VidoraAppDelegate& delegate, const ViewController& screen)
         navigation->popViewController();
 }
 
-RootScreen* homeScreen(VidoraAppDelegate& delegate)
-{
-    for (const auto& tab : delegate.tabBarController().viewControllers()) {
-        const auto navigation = std::dynamic_pointer_cast<NavigationController>(tab);
-        if (!navigation)
-            continue;
-        for (const auto& screen : navigation->viewControllers()) {
-            if (auto* root = dynamic_cast<RootScreen*>(screen.get()))
-                return root;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace vidora

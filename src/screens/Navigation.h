@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/ScreenProtocols.h"
 #include "core/VidoraAppDelegate.h"
 #include "screens/ScreenModel.h"
 
@@ -17,8 +16,5 @@ void presentFrom(VidoraAppDelegate& delegate, const ViewController& below, std::
 
 /// Takes a screen away that was presented so. It may be gone afterwards.
 void dismiss(VidoraAppDelegate& delegate, const ViewController& screen);
-
-/// The first home screen of the tabs; null without one.
-RootScreen* homeScreen(VidoraAppDelegate& delegate);
 
 } // namespace vidora

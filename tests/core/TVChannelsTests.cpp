@@ -164,6 +164,54 @@ TEST_F(TVChannelsTest, theDelegateReachesTheOpenScreensByTheirProtocols)
     EXPECT_TRUE(tabs.items()[0].enabled);
 }
 
+TEST_F(TVChannelsTest, aChangeOfTheSelectionTakesListsTabsAndScreensAlong)
+{
+    const auto home = std::make_shared<Screen>();
+    const auto stack = std::make_shared<NavigationController>();
+    stack->pushViewController(home);
+    VidoraAppDelegate& delegate = *device.delegate;
+    TabBarController& tabs = delegate.tabBarController();
+    tabs.setViewControllers({stack, std::make_shared<NavigationController>()});
+    delegate.disableTabs();
+    const auto heldShows = [&](const ObjectId& channel) { return test::listOf(delegate, channel)->size(); };
+    const auto store = [&](const ObjectId& channel) {
+        ShowDraft draft;
+        draft.entry->setIdentificator(QStringLiteral("News"));
+        draft.entry->setChannel(channel);
+        draft.entry->setDateTime(device.clock.now());
+        draft.entry->setEndDateTime(device.clock.now() + Seconds(60));
+        delegate.listings().storeList(channel, std::make_shared<const ShowList>(ShowList{std::move(draft).publish()}));
+    };
+
+    delegate.changeSelection({idOne, idTwo});
+    EXPECT_TRUE(tabs.items()[0].enabled);
+    store(idOne);
+    store(idTwo);
+    delegate.changeSelection({idTwo, idOne});
+    EXPECT_EQ(heldShows(idOne) + heldShows(idTwo), 2U) << "another order takes nothing away";
+    delegate.changeSelection({idTwo});
+    EXPECT_EQ(heldShows(idOne), 0U);
+    EXPECT_EQ(heldShows(idTwo), 1U);
+    EXPECT_TRUE(tabs.items()[0].enabled);
+    delegate.changeSelection({});
+    EXPECT_EQ(heldShows(idTwo), 0U);
+    EXPECT_FALSE(tabs.items()[0].enabled);
+    EXPECT_EQ(tabs.selectedIndex(), 1U);
+    EXPECT_EQ(home->told, QStringList(4, QStringLiteral("modified")));
+}
+
+TEST_F(TVChannelsTest, aChannelThatLeftTheCatalogueLeavesTheSelectionForGood)
+{
+    channels().setSelected({idOne, idTwo});
+    channels().waitForWrites();
+    device.setCatalogue({two});
+    device.launch();
+    channels().waitForWrites();
+    device.setCatalogue({one, two});
+    device.launch();
+    EXPECT_EQ(channels().selected(), ChannelIds{idTwo});
+}
+
 TEST_F(TVChannelsTest, anActivationReadsSettingsAndRefreshesTheScreens)
 {
     const auto home = std::make_shared<Screen>();

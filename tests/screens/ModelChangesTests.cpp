@@ -288,6 +288,28 @@ TEST_F(ModelChangesTest, EditorMovesAndDeletes)
     EXPECT_EQ(enabledTabs(), (std::vector<bool>{false, false, false, false, true}));
 }
 
+TEST_F(ModelChangesTest, ChooserFindsTitlesInEitherAlphabet)
+{
+    TVEntry::setCyrillicDevice(true);
+    start({channel(1, QStringLiteral("Behar")), channel(2, QStringLiteral("Njiva Extra"))}, {});
+    visible<EditChannelListViewController>()->add();
+    const auto chooser = visible<AllChannelsViewController>();
+    WatchedModel watched(chooser);
+    // Letters that both alphabets share stay Latin where a title is converted.
+    const QString behar = QString::fromUtf8("Бeхaр"), njiva = QString::fromUtf8("Њивa Eктрa");
+    EXPECT_EQ(watched.texts(), (QStringList{behar, njiva}));
+    EXPECT_EQ(chooser->titleForHeaderInSection(1), QString::fromUtf8("Њ"));
+    for (const char* typed : {"behar", "Бехар", "Бeхaр"}) {
+        chooser->setSearchText(QString::fromUtf8(typed));
+        EXPECT_EQ(watched.texts(), QStringList{behar}) << typed;
+    }
+    for (const char* typed : {"njiva", "њива", "EXTRA", "ектра", "Njiva Extra"}) {
+        chooser->setSearchText(QString::fromUtf8(typed));
+        EXPECT_EQ(watched.texts(), QStringList{njiva}) << typed;
+    }
+    TVEntry::setCyrillicDevice(false);
+}
+
 TEST_F(ModelChangesTest, ChooserTogglesAndSearches)
 {
     const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
@@ -312,6 +334,7 @@ TEST_F(ModelChangesTest, ChooserTogglesAndSearches)
     tabs->selectTab(4);
     chooser->selectRow({0, 0});
     EXPECT_TRUE(device.delegate->channels().selected().empty());
+    EXPECT_TRUE(device.titles(one).isEmpty()) << "its shows go with the channel";
     EXPECT_FALSE(enabledTabs()[0]);
     EXPECT_EQ(watched.model.data(watched.model.index(0), ScreenItemModel::AccessoryRole), QStringLiteral("none"));
 }

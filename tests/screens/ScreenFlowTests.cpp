@@ -136,6 +136,23 @@ TEST_F(ScreenFlowTest, TabsFollowTheSizeOfTheWindow)
     EXPECT_EQ(visible<RootViewController>().get(), &home());
 }
 
+TEST_F(ScreenFlowTest, BackLeadsToWhereOneCameFrom)
+{
+    broadcast(1, {QStringLiteral("News"), QStringLiteral("Film")});
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    home().selectRow({0, 0});
+    const auto week = awaited<ChannelViewController>();
+    week->selectRow({0, 1});
+    EXPECT_EQ(visible<DetailViewController>()->title(), QStringLiteral("Film"));
+    tabs->back();
+    EXPECT_EQ(visible<ChannelViewController>(), week);
+    tabs->back();
+    EXPECT_EQ(visible<RootViewController>().get(), &home());
+    tabs->back();
+    EXPECT_EQ(visible<RootViewController>().get(), &home()) << "a tab keeps its first screen";
+}
+
 TEST_F(ScreenFlowTest, AnAddressLeadsToItsShow)
 {
     broadcast(1, {QStringLiteral("News")});
