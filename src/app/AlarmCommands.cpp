@@ -41,7 +41,7 @@ void alarm(CommandSession& session)
         throw Refusal{localized("No alarm was set: no calendar can be written.")};
     QString text = localized("Alarm %n minutes ahead: %1", static_cast<std::size_t>(lead)).arg(lineOf(show, session));
     if (!isFollowed)
-        text += QLatin1Char('\n') + localized("A favourite: %1").arg(printable(title));
+        text += QLatin1Char('\n') + localized("A favourite: %1").arg(printable(show->entry->title().value_or(title)));
     session.answer(text, {{QStringLiteral("minutes"), lead},
                           {QStringLiteral("favouriteAdded"), !isFollowed},
                           {QStringLiteral("show"), ShowPrinter(session.catalogue()).json({show}).first()}});
@@ -51,8 +51,9 @@ void removeAlarms(CommandSession& session)
 {
     const std::optional<QString> listed = listedTitle(session);
     const QString title = listed ? *listed : favouriteNamed(session);
+    const QString shown = shownFavourites(session).value(title.toLower(), title);
     session.outcomeOf([&](AlarmRequests& requests, const auto& done) { requests.removeAlarms(title, done); });
-    session.answer(localized("No alarms any more: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
+    session.answer(localized("No alarms any more: %1").arg(printable(shown)), {{QStringLiteral("removed"), title}});
 }
 
 void unalarm(CommandSession& session)

@@ -38,7 +38,7 @@ std::vector<ObjectId> namedChannels(CommandSession& session)
 
 void choose(CommandSession& session, const ChannelIds& selection)
 {
-    session.delegate().channels().setSelected(selection);
+    session.delegate().changeSelection(selection);
     say(localized("%n channels are chosen.", selection.size()));
 }
 
@@ -54,13 +54,10 @@ void select(CommandSession& session)
 
 void unselect(CommandSession& session)
 {
-    const std::vector<ObjectId> named = namedChannels(session);
     ChannelIds selection = session.delegate().channels().selected();
-    for (const ObjectId& id : named)
+    for (const ObjectId& id : namedChannels(session))
         std::erase(selection, id);
     choose(session, selection);
-    for (const ObjectId& id : named)
-        session.delegate().listings().removeListingsForChannel(id);
 }
 
 } // namespace

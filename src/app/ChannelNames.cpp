@@ -1,7 +1,9 @@
 #include "app/ChannelNames.h"
 
 #include "app/Refusal.h"
+#include "content/LatinFolding.h"
 #include "content/TextFolding.h"
+#include "core/ChannelFace.h"
 #include "platform/DeviceSettings.h"
 #include "platform/Localized.h"
 
@@ -15,12 +17,44 @@ namespace {
 
 constexpr qsizetype mostNamed = 12; // of the candidates, in a message
 
+/// A name as it was typed.
+class TypedName
+{
+public:
+    explicit TypedName(const QString& name)
+        : m_folded(name.trimmed())
+        , m_inLatin(foldedInLatin(name.trimmed()))
+    {
+    }
+
+    /// The better it fits the higher.
+    int fits(const QString& text) const
+    {
+        if (FoldedText(text).units() == m_folded.units())
+            return 3;
+        const QString present = foldedInLatin(text);
+        if (present == m_inLatin)
+            return 2;
+        return !m_inLatin.isEmpty() && present.contains(m_inLatin) ? 1 : 0;
+    }
+    int fits(const QStringList& spellings) const
+    {
+        int best = 0;
+        for (const QString& spelling : spellings)
+            best = std::max(best, fits(spelling));
+        return best;
+    }
+
+private:
+    const FoldedText m_folded;
+    const QString m_inLatin;
+};
+
 } // namespace
 
 QString titleOf(const ObjectId& channel, const ChannelData& channels)
 {
-    const auto found = channels.find(channel);
-    return found == channels.end() ? channel.hex() : found->second.title().value_or(channel.hex());
+    return channels.contains(channel) ? channelFace(channel, channels).title : channel.hex();
 }
 
 std::vector<ObjectId> channelsByTitle(const ChannelData& channels)
@@ -40,21 +74,31 @@ std::vector<ObjectId> channelsByTitle(const ChannelData& channels)
     return ids;
 }
 
+std::vector<std::size_t> placesNamed(const QString& name, const std::vector<QStringList>& spellings)
+{
+    const TypedName typed(name);
+    std::vector<std::size_t> places;
+    int best = 1;
+    for (std::size_t i = 0; i < spellings.size(); ++i) {
+        const int fit = typed.fits(spellings[i]);
+        if (fit > best)
+            places.clear();
+        best = std::max(best, fit);
+        if (fit == best)
+            places.push_back(i);
+    }
+    return places;
+}
+
 QStringList candidatesFor(const QString& name, const QStringList& texts)
 {
-    const QString trimmed = name.trimmed();
-    const FoldedText foldedName(trimmed);
-    const QStringView wanted = foldedName.units();
-    QStringList exact, partial;
-    for (const QString& text : texts) {
-        const FoldedText foldedText(text);
-        const QStringView present = foldedText.units();
-        if (present == wanted)
-            exact << text;
-        else if (!wanted.isEmpty() && present.contains(wanted))
-            partial << text;
-    }
-    return exact.isEmpty() ? partial : exact;
+    std::vector<QStringList> spellings;
+    for (const QString& text : texts)
+        spellings.push_back({text});
+    QStringList candidates;
+    for (const std::size_t place : placesNamed(name, spellings))
+        candidates << spellings[place];
+    return candidates;
 }
 
 QString ambiguousName(const QString& name, const QStringList& candidates, const QStringList& all)
@@ -83,17 +127,23 @@ ObjectId channelNamed(const QString& name, const ChannelData& channels)
         return id;
     const std::vector<ObjectId> ids = channelsByTitle(channels);
     QStringList titles;
-    for (const ObjectId& channel : ids)
-        titles << titleOf(channel, channels);
-    const QStringList candidates = candidatesFor(name, titles);
-    if (candidates.size() == 1)
-        return ids[static_cast<std::size_t>(titles.indexOf(candidates.front()))];
-    QStringList described;
-    for (qsizetype i = 0; i < titles.size(); ++i) {
-        if (candidates.contains(titles[i])) // two channels of one title are told apart by their ids
-            described << (candidates.count(titles[i]) > 1
-                              ? titles[i] + QStringLiteral(" (%1)").arg(ids[static_cast<std::size_t>(i)].hex())
-                              : titles[i]);
+    std::vector<QStringList> spellings;
+    for (const ObjectId& channel : ids) {
+        const ChannelFace face = channelFace(channel, channels);
+        titles << face.title;
+        spellings.push_back({face.title, face.catalogueTitle});
+    }
+    const std::vector<std::size_t> places = placesNamed(name, spellings);
+    if (places.size() == 1)
+        return ids[places.front()];
+    QStringList candidates, described;
+    for (const std::size_t place : places)
+        candidates << spellings[place].front();
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const QString& title = candidates[static_cast<qsizetype>(i)];
+        described << (candidates.count(title) > 1 // told apart by their ids
+                          ? title + QStringLiteral(" (%1)").arg(ids[places[i]].hex())
+                          : title);
     }
     throw Refusal{ambiguousName(name, described, titles)};
 }

@@ -9,16 +9,22 @@ namespace vidora {
 
 namespace {
 
-QString described(const Favorite& favorite)
+QString shownTitle(const QString& title, const QHash<QString, QString>& shown)
 {
+    return printable(shown.value(title.toLower(), title));
+}
+
+QString described(const Favorite& favorite, const QHash<QString, QString>& shown)
+{
+    const QString title = shownTitle(favorite.identificator(), shown);
     if (favorite.minutes() < 0)
-        return printable(favorite.identificator());
+        return title;
     const auto minutes = static_cast<std::size_t>(favorite.minutes());
     const QString text =
         !favorite.previouslyShown()   ? localized("%1: alarm %n minutes ahead of each broadcast", minutes)
         : *favorite.previouslyShown() ? localized("%1: alarm %n minutes ahead of each replay", minutes)
                                       : localized("%1: alarm %n minutes ahead of each premiere", minutes);
-    return text.arg(printable(favorite.identificator()));
+    return text.arg(title);
 }
 
 QJsonObject json(const Favorite& favorite)
@@ -55,7 +61,7 @@ void favourite(CommandSession& session)
         throw Refusal{
             localized("%1 is a favourite, but there is no calendar that can be written for its alarms.").arg(title)};
     const auto added = session.delegate().alarmRequests().favorite(title);
-    QString text = localized("A favourite: %1").arg(described(*added));
+    QString text = localized("A favourite: %1").arg(described(*added, shownFavourites(session)));
     if (!listed)
         text += QLatin1Char('\n') + localized("No broadcast of this title is listed at present.");
     session.answer(
@@ -65,8 +71,9 @@ void favourite(CommandSession& session)
 void unfavourite(CommandSession& session)
 {
     const QString title = favouriteNamed(session);
+    const QString shown = shownTitle(title, shownFavourites(session));
     session.outcomeOf([&](AlarmRequests& requests, const auto& done) { requests.removeFavorite(title, done); });
-    session.answer(localized("No longer a favourite: %1").arg(printable(title)), {{QStringLiteral("removed"), title}});
+    session.answer(localized("No longer a favourite: %1").arg(shown), {{QStringLiteral("removed"), title}});
 }
 
 void favourites(CommandSession& session)
@@ -75,11 +82,12 @@ void favourites(CommandSession& session)
     std::stable_sort(favorites.begin(), favorites.end(), [](const auto& a, const auto& b) {
         return a->identificator().compare(b->identificator(), Qt::CaseInsensitive) < 0;
     });
+    const QHash<QString, QString> shown = shownFavourites(session);
     QJsonArray array;
     QStringList lines;
     for (const auto& favorite : favorites) {
         array.append(json(*favorite));
-        lines << described(*favorite);
+        lines << described(*favorite, shown);
     }
     if (lines.isEmpty())
         lines << localized("No favourites yet. \"vidora favourite X\" adds one.");

@@ -108,7 +108,7 @@ void chooseFirstChannels(CommandSession& session)
     ids.resize(std::min(ids.size(), dozen));
     if (ids.empty() || session.device().hasOwnGuide())
         return;
-    session.delegate().channels().setSelected(ids);
+    session.delegate().changeSelection(ids);
     say(localized(
             "This is a first look at a made-up region, with the first %1 of its %2 channels. \"vidora import\" reads a "
             "guide of your own.")

@@ -19,14 +19,6 @@ QString titleOf(const Show& show)
     return show->entry->title().value_or(QString());
 }
 
-QStringList titlesOf(const ShowList& shows)
-{
-    QStringList titles;
-    for (const Show& show : shows)
-        titles << titleOf(show);
-    return titles;
-}
-
 /// `time`: of a day, or a moment.
 bool startsAt(const TVEntry& entry, const QString& time)
 {
@@ -62,11 +54,15 @@ ShowList broadcastsNamed(CommandSession& session)
 
 ShowList showsNamedLike(const QString& text, CommandSession& session)
 {
-    ShowList shows = *session.answerOf<SharedShowList>(
+    const ShowList shows = *session.answerOf<SharedShowList>(
         [&](const auto& answer) { session.delegate().listings().showsContainingPattern(text, answer); });
-    const QStringList candidates = candidatesFor(text, titlesOf(shows));
-    std::erase_if(shows, [&](const Show& show) { return !candidates.contains(titleOf(show)); });
-    return shows;
+    std::vector<QStringList> spellings;
+    for (const Show& show : shows)
+        spellings.push_back({titleOf(show), show->entry->identificator().value_or(QString())});
+    ShowList named;
+    for (const std::size_t place : placesNamed(text, spellings))
+        named.push_back(shows[place]);
+    return named;
 }
 
 std::optional<QString> listedTitle(CommandSession& session)
@@ -74,9 +70,13 @@ std::optional<QString> listedTitle(CommandSession& session)
     const ShowList shows = showsNamedLike(session.argument(), session);
     if (shows.empty())
         return std::nullopt;
-    const QStringList titles = titlesOf(shows);
-    const qsizetype index = titles.indexOf(textNamed(session.argument(), titles));
-    return shows[static_cast<std::size_t>(index)]->entry->identificator();
+    QStringList titles;
+    for (const Show& show : shows)
+        titles << titleOf(show);
+    titles.removeDuplicates();
+    if (titles.size() > 1)
+        throw Refusal{ambiguousName(session.argument(), titles, titles)};
+    return shows.front()->entry->identificator();
 }
 
 QString favouriteNamed(CommandSession& session)
@@ -106,6 +106,16 @@ Show broadcastNamed(CommandSession& session)
     for (const Show& show : shows)
         lines << lineOf(show, session);
     throw Refusal{lines.join(QLatin1Char('\n'))};
+}
+
+QHash<QString, QString> shownFavourites(CommandSession& session)
+{
+    const auto shows = session.answerOf<SharedShowList>(
+        [&](const auto& answer) { session.delegate().listings().favoritesScheduleWithBlock(answer); });
+    QHash<QString, QString> titles;
+    for (const Show& show : *shows)
+        titles.insert(show->entry->lowercasedIdentificator().value_or(QString()), titleOf(show));
+    return titles;
 }
 
 QString lineOf(const Show& show, CommandSession& session)

@@ -2,6 +2,7 @@
 
 #include "content/ObjectId.h"
 #include "content/ShowElement.h"
+#include "platform/URL.h"
 
 #include <vector>
 
@@ -47,6 +48,17 @@ public:
     virtual void reloadChannelData() = 0;
     /// A pass is over in which no source of the `failed` channels delivered.
     virtual void passEnded(const std::vector<ObjectId>& failed) = 0;
+};
+
+/// The screen of streams, of which one plays at a time.
+class StreamScreen
+{
+public:
+    virtual ~StreamScreen() = default;
+    /// Closes the open stream, and opens the one of this address.
+    virtual void playURL(const URL& url) = 0;
+    /// Goes on with the stream that is open, if any.
+    virtual void playOpenStream() = 0;
 };
 
 /// A screen of shows of many channels by days.

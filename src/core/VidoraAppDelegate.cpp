@@ -1,6 +1,7 @@
 #include "core/VidoraAppDelegate.h"
 
 #include "content/TVEntry.h"
+#include "core/Tabs.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -114,7 +115,6 @@ void VidoraAppDelegate::makeAlarms()
     m_alarmRequests = std::make_unique<AlarmRequests>(surroundings, *m_alarmEngine);
     m_alarmMarks = std::make_unique<AlarmMarks>(*m_alarmEngine, m_shows);
     m_showServices.marks = m_alarmMarks.get();
-    eventCount = [this] { return m_alarmEngine->eventCount(); };
     m_shows.favorites();
 }
 
@@ -188,12 +188,12 @@ void VidoraAppDelegate::setup()
 {
     m_colorizedShows = m_defaults.boolForKey(QStringLiteral("colorizedShows"));
     if (m_isPad)
-        m_tabBarController.setEnabled(0, true);
+        m_tabBarController.setEnabled(tabIndex(TabKind::AllShows, m_isPad), true);
     if (m_channels->selected().empty()) {
         disableTabs();
     } else if (!m_firstTabSelected && !m_tabBarController.items().empty()) {
         m_firstTabSelected = true;
-        m_tabBarController.setSelectedIndex(m_isPad ? 1 : 0);
+        m_tabBarController.setSelectedIndex(tabIndex(TabKind::Currently, m_isPad));
     }
 }
 
@@ -230,8 +230,8 @@ void VidoraAppDelegate::applicationDidEnterBackground()
     }
     m_screens.enteredBackground();
     m_mainBlocks.after(delayOfPlaying, [this] {
-        if (playOpenStream)
-            playOpenStream();
+        if (m_streams)
+            m_streams->playOpenStream();
     });
 }
 
@@ -273,12 +273,18 @@ void VidoraAppDelegate::checkAndUpdateAllChannels()
     m_updateCycle->checkAndUpdateAllChannels();
 }
 
+void VidoraAppDelegate::playURL(const URL& url)
+{
+    if (m_streams)
+        m_streams->playURL(url);
+}
+
 void VidoraAppDelegate::updateBadge()
 {
-    const int count = eventCount ? eventCount() : 0;
+    const int count = m_alarmEngine->eventCount();
     if (applicationIconBadge)
         applicationIconBadge(count);
-    m_tabBarController.setBadgeValue(m_isPad ? 4 : 3,
+    m_tabBarController.setBadgeValue(tabIndex(TabKind::Schedule, m_isPad),
                                      count == 0 ? std::nullopt : std::optional(QString::number(count)));
 }
 

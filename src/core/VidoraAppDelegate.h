@@ -6,6 +6,7 @@
 #include "core/AlarmServices.h"
 #include "core/ChannelCatalogue.h"
 #include "core/LoadPauses.h"
+#include "core/ScreenProtocols.h"
 #include "core/ScreenWalk.h"
 #include "core/ShowServices.h"
 #include "core/StoreServices.h"
@@ -80,8 +81,6 @@ public:
     void changeSelection(const ChannelIds& selection);
     /// Brings the lists of all selected channels up to date. Returns at once.
     void checkAndUpdateAllChannels();
-    /// How many alarms there are; set by those who know.
-    std::function<int()> eventCount;
     /// Shows a number on the application's icon, 0 for none.
     std::function<void(int)> applicationIconBadge;
     /// Called on the main thread when the first request begins and when the last one has ended.
@@ -92,9 +91,10 @@ public:
     /// Stops all parsing, and with it the running pass, until the token goes. Not held longer than one main-queue
     /// answer of the store needs.
     LoadPauses::Token pauseLoading() { return m_loadPauses.pause(m_loadQueue); }
-    /// Plays a channel's stream, and goes on with the one that is open. Set by the screen of streams; may be empty.
-    std::function<void(const URL&)> playURL;
-    std::function<void()> playOpenStream;
+    /// Plays a channel's stream. Nothing happens without a screen of streams.
+    void playURL(const URL& url);
+    /// Null: there is none any more.
+    void setStreams(StreamScreen* streams) { m_streams = streams; }
     /// Who knows more of shows than the lists; all outlive the screens.
     void setShowServices(const ShowServices& services) { m_showServices = services; }
     const ShowServices& showServices() const { return m_showServices; }
@@ -202,6 +202,7 @@ private:
     ShowServices m_showServices;
     LoadPauses m_loadPauses;
     UpdateObserver* m_updateObserver = nullptr;
+    StreamScreen* m_streams = nullptr;
     BlockOwner m_mainBlocks; ///< last, so that no block outlives what it refers to
 };
 

@@ -130,7 +130,7 @@ void ChannelViewController::recolor()
 
 void ChannelViewController::play()
 {
-    if (m_channel.streamURL && m_delegate.playURL)
+    if (m_channel.streamURL)
         m_delegate.playURL(*m_channel.streamURL);
 }
 

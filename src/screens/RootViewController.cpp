@@ -226,7 +226,7 @@ void RootViewController::accessoryTapped(RowPath path)
 
 void RootViewController::play(const ChannelFace& channel)
 {
-    if (channel.streamURL && m_delegate.playURL)
+    if (channel.streamURL)
         m_delegate.playURL(*channel.streamURL);
 }
 

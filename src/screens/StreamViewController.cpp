@@ -23,17 +23,12 @@ QString titleOfStream(const ChannelData& channels, const URL& url)
 StreamViewController::StreamViewController(VidoraAppDelegate& delegate)
     : m_delegate(delegate)
 {
-    m_delegate.playURL = [this](const URL& url) { playURL(url); };
-    m_delegate.playOpenStream = [this] {
-        if (m_player)
-            m_player->play();
-    };
+    m_delegate.setStreams(this);
 }
 
 StreamViewController::~StreamViewController()
 {
-    m_delegate.playURL = {};
-    m_delegate.playOpenStream = {};
+    m_delegate.setStreams(nullptr);
     if (m_player)
         m_player->pause();
 }
@@ -48,6 +43,12 @@ void StreamViewController::playURL(const URL& url)
     play();
     if (playerChanged)
         playerChanged();
+}
+
+void StreamViewController::playOpenStream()
+{
+    if (m_player)
+        m_player->play();
 }
 
 void StreamViewController::play()

@@ -10,20 +10,20 @@
 namespace vidora {
 
 /// The stream that fills the window while it plays. At most one is open. Main thread.
-class StreamViewController
+class StreamViewController final : public StreamScreen
 {
 public:
     /// The delegate outlives this object.
     explicit StreamViewController(VidoraAppDelegate& delegate);
-    ~StreamViewController();
+    ~StreamViewController() override;
 
     /// Makes the player of a stream. Set by the window; without one nothing plays.
     std::function<std::shared_ptr<StreamPlayer>(const URL& url)> playerWithURL;
     /// A player was opened or closed.
     std::function<void()> playerChanged;
 
-    /// Closes the open player, and opens one for this address.
-    void playURL(const URL& url);
+    void playURL(const URL& url) override;
+    void playOpenStream() override;
     /// Starts the open player, again where it already did. One that isn't ready in 25 seconds is closed, and the user
     /// is told.
     void play();

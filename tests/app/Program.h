@@ -48,6 +48,10 @@ public:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environment.remove(QString::fromLatin1(name));
+        if (!language.isEmpty()) {
+            environment.remove(QStringLiteral("LANGUAGE"));
+            environment.insert(QStringLiteral("LC_ALL"), language);
+        }
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(VIDORA_PROGRAM),
                       QStringList{QStringLiteral("--home"), path(), QStringLiteral("--clock"),
@@ -95,6 +99,8 @@ public:
         }
         return found;
     }
+
+    QString language; ///< as in LANG; empty for that of the tests
 
     static constexpr int patience = 60'000; // milliseconds, for a machine under load
 

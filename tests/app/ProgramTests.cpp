@@ -71,6 +71,26 @@ TEST(Program, ShowsTheRegionAtFirstStartAndAnswersItsCommands)
     EXPECT_EQ(updated[QLatin1String("failed")].toArray(), QJsonArray());
 }
 
+TEST(Program, TakesAndShowsTitlesInTheAlphabetOfTheReader)
+{
+    Home home;
+    home.language = utf8("sr_RS.UTF-8");
+    // Typed on a keyboard of either alphabet. What is shown has Latin letters where both alphabets share them.
+    EXPECT_EQ(home.run(words("select|Бехар|bistrica|ЗАВИЧАЈ дом")).status, 0);
+    EXPECT_EQ(home.run(words("update")).status, 0);
+    const QString now = home.run(words("now")).output;
+    EXPECT_EQ(countOf(now, "^(Бeхaр|Бистрицa|Зaвичaj Дoм)$"), 3) << now.toStdString();
+    const QString marked = home.run(words("channels")).output;
+    EXPECT_EQ(countOf(marked, "^\\* (Бeхaр|Бистрицa|Зaвичaj Дoм)$"), 3) << marked.toStdString();
+
+    for (const char* name : {"Behar", "Бехар", "Бeхaр"}) {
+        const QString shown = home.run({utf8("channel"), utf8(name)}).output;
+        EXPECT_GT(countOf(shown, "^  \\d\\d:\\d\\d-"), 4) << name;
+    }
+    EXPECT_EQ(home.run(words("unselect|zavicaj dom|бистрица")).status, 0);
+    EXPECT_EQ(countOf(home.run(words("channels")).output, "^\\* "), 1);
+}
+
 TEST(Program, NamesTheCandidatesForAnUnclearName)
 {
     const Home home;
