@@ -67,10 +67,10 @@ protected:
         return path;
     }
     /// The events on the server as an independent program shows them.
-    QString shown() const { return testing::linesOfKhal(server.calendar("tv")).join(QLatin1Char('\n')); }
+    QString shown() const { return test::linesOfKhal(server.calendar("tv")).join(QLatin1Char('\n')); }
 
     const Home home;
-    testing::CalDAVServer server;
+    test::CalDAVServer server;
 };
 
 TEST_F(CalendarCommands, AlarmsLiveOnAServerAndWaitForItWhereItIsDown)
@@ -148,20 +148,20 @@ TEST_F(CalendarCommands, KeepThePasswordInTheKeyringWhereThereIsOne)
 {
     QTemporaryDir folder;
     const QString script = folder.filePath(QStringLiteral("keyring.sh"));
-    testing::writeRaw(script, "set -e\nexport HOME=" + folder.path().toUtf8() + " XDG_DATA_HOME=" +
-                                  folder.path().toUtf8() + " XDG_RUNTIME_DIR=" + folder.path().toUtf8() +
-                                  "\nprintf unlocked | gnome-keyring-daemon --unlock --components=secrets\n"
-                                  "vidora=\"$1 --home $2 --clock 2026-11-22T19:00:00Z\"\n"
-                                  "echo s3cret | $vidora calendars add " +
-                                  server.address().toUtf8() +
-                                  " --user ana\n$vidora calendars test --json >$3\n$vidora calendars remove ana\n");
+    test::writeRaw(script, "set -e\nexport HOME=" + folder.path().toUtf8() + " XDG_DATA_HOME=" +
+                               folder.path().toUtf8() + " XDG_RUNTIME_DIR=" + folder.path().toUtf8() +
+                               "\nprintf unlocked | gnome-keyring-daemon --unlock --components=secrets\n"
+                               "vidora=\"$1 --home $2 --clock 2026-11-22T19:00:00Z\"\n"
+                               "echo s3cret | $vidora calendars add " +
+                               server.address().toUtf8() +
+                               " --user ana\n$vidora calendars test --json >$3\n$vidora calendars remove ana\n");
     QProcess process;
     const QString tested = folder.filePath(QStringLiteral("tested.json"));
     process.start(QStringLiteral("dbus-run-session"), {QStringLiteral("--"), QStringLiteral("sh"), script,
                                                        QStringLiteral(VIDORA_PROGRAM), home.path(), tested});
     const Ended ended = Home::end(process);
     ASSERT_EQ(ended.status, 0) << ended.errors.toStdString();
-    EXPECT_EQ(QJsonDocument::fromJson(testing::readRaw(tested))[QStringLiteral("accounts")][0][QStringLiteral("login")],
+    EXPECT_EQ(QJsonDocument::fromJson(test::readRaw(tested))[QStringLiteral("accounts")][0][QStringLiteral("login")],
               QStringLiteral("basic"))
         << "the kept password was found";
     EXPECT_TRUE(filesWithPassword().isEmpty());

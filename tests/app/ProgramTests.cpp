@@ -131,7 +131,7 @@ QByteArray fetched(const std::string& address)
 
 TEST(Program, ImportsAGuideFromAFileOrAnAddress)
 {
-    testing::SampleRegion region;
+    test::SampleRegion region;
     const std::string plain = region.server.origin("tvpc") + "/guide/tvpc.xml";
     const Home files;
     for (const QString& source :
@@ -184,7 +184,7 @@ TEST(Program, ReadsAFileOfTheUsersAtEachUpdate)
 
 TEST(Program, AFailedImportLeavesEverythingAsItWas)
 {
-    testing::SampleRegion region;
+    test::SampleRegion region;
     const std::string origin = region.server.origin("n");
     const Home home;
     home.run({utf8("import"), home.file(utf8("guide.xml"), shortGuide("Early"))});

@@ -6,7 +6,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 
 /// A session that lets an answer through when it is told to.
 class HeldSession final : public URLSession

@@ -6,7 +6,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 using Fault = FaultySession::Fault;
 
 TEST_F(CalDAVEventStoreTest, FindsTheCalendarsOfAnAccount)
@@ -172,7 +172,7 @@ TEST(CalDAVClient, GivesAPasswordToNobodyElse)
                                                           {"https://calendar.example/x", true},
                                                           {"http://calendar.example", false},
                                                           {"http://127.0.0.1.calendar.example", false}};
-    NoSleep sleeper;
+    ScriptedSleeper sleeper;
     for (const auto& [address, given] : hosts) {
         GreedySession session;
         QUrl home;

@@ -3,7 +3,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 using Fault = FaultySession::Fault;
 
 TEST_F(CalDAVEventStoreTest, LosesAndDoublesNothingWhateverTheServerAnswers)
@@ -145,9 +145,7 @@ TEST_F(CalDAVEventStoreTest, LeavesEachEventWholeWhereverItIsStopped)
         EXPECT_FALSE(store->saveEvent(changed, EventSpan::ThisEvent, false));
         EXPECT_FALSE(store->saveEvent(removed, EventSpan::ThisEvent));
 
-        FaultyLayer layer;
-        layer.failingStep = step;
-        layer.kills = true;
+        FaultyFileLayer layer(step, true);
         const auto doAll = [&](EventStore& calendars) {
             changed.title = name("After");
             EXPECT_FALSE(calendars.saveEvent(changed, EventSpan::ThisEvent, false));
@@ -177,7 +175,7 @@ TEST_F(CalDAVEventStoreTest, LeavesEachEventWholeWhereverItIsStopped)
 TEST_F(CalDAVEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
 {
     for (unsigned seed = 0; seed < 3; ++seed) {
-        SeededRandom dice(seed);
+        auto dice = ScriptedRandom::seeded(seed);
         const std::vector<const char*> devices{"a", "b"};
         std::vector<std::unique_ptr<CalDAVEventStore>> stores;
         const bool inBackground = seed == 2; // where much happens at once; faults are for the others

@@ -4,7 +4,7 @@
 #include "calendar/CalDAVEventStore.h"
 #include "platform/NetworkURLSession.h"
 
-namespace vidora::testing {
+namespace vidora::test {
 
 inline const Instant start = moment("2026-11-22T19:00:00Z");
 
@@ -66,8 +66,8 @@ protected:
     NetworkURLSession network{32 * 1024 * 1024};
     FaultySession session{network};
     FixedClock clock{moment("2026-11-22T12:00:00Z")};
-    SeededRandom random{7};
-    NoSleep sleeper;
+    ScriptedRandom random = ScriptedRandom::seeded(7);
+    ScriptedSleeper sleeper;
 };
 
-} // namespace vidora::testing
+} // namespace vidora::test

@@ -11,7 +11,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 using Outcome = CalDAVClient::Outcome;
 using Trouble = CalDAVClient::Trouble;
 
@@ -67,7 +67,7 @@ protected:
         return outcome;
     }
 
-    NoSleep sleeper;
+    ScriptedSleeper sleeper;
     Trouble trouble = Trouble::None;
 };
 

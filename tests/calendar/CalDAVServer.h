@@ -10,7 +10,7 @@
 #include <thread>
 #include <unistd.h>
 
-namespace vidora::testing {
+namespace vidora::test {
 
 /// A real calendar server on the loopback, with a user "ana" who has the calendars "tv" and "home", and may only read
 /// "shared". Its folders hold the events as files, which a test reads and writes as the rest of the world does.
@@ -147,10 +147,4 @@ private:
     URLSession& m_session;
 };
 
-class NoSleep final : public Sleeper
-{
-public:
-    void sleep(Milliseconds) override {}
-};
-
-} // namespace vidora::testing
+} // namespace vidora::test

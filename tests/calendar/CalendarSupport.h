@@ -1,20 +1,17 @@
 #pragma once
 
 #include "calendar/EventStore.h"
-#include "platform/AtomicFile.h"
-#include "platform/Clock.h"
 #include "support/ChildProcess.h"
 #include "support/RawFiles.h"
+#include "support/Seams.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cerrno>
 #include <gtest/gtest.h>
-#include <random>
 
-namespace vidora::testing {
+namespace vidora::test {
 
 inline Instant moment(const char* text)
 {
@@ -34,60 +31,6 @@ inline Event broadcast(const Calendar& calendar, const QString& title, Instant s
     event.alarms = {EventAlarm::alarmWithRelativeOffset(Seconds(-60 * minutes))};
     return event;
 }
-
-/// Chance that is the same in each run.
-class SeededRandom final : public Random
-{
-public:
-    explicit SeededRandom(unsigned seed)
-        : m_engine(seed)
-    {
-    }
-    std::uint32_t uniform(std::uint32_t bound) override { return static_cast<std::uint32_t>(m_engine() % bound); }
-
-private:
-    std::mt19937_64 m_engine;
-};
-
-/// Fails at the given step, or loses everything from there on, as a kill does.
-class FaultyLayer final : public FileLayer
-{
-public:
-    int failingStep = -1;
-    bool killed = false;
-    bool kills = false;
-    int steps = 0;
-
-    int create(const QString& path, unsigned mode, int& d) override
-    {
-        return fails() ? ENOSPC : system().create(path, mode, d);
-    }
-    int write(int d, QByteArrayView bytes) override
-    {
-        if (!fails())
-            return system().write(d, bytes);
-        system().write(d, bytes.first(bytes.size() / 2));
-        return ENOSPC;
-    }
-    int sync(int d) override { return fails() ? EIO : system().sync(d); }
-    int close(int d) override
-    {
-        const bool failed = fails();
-        system().close(d);
-        return failed ? EIO : 0;
-    }
-    int rename(const QString& from, const QString& to) override { return fails() ? EIO : system().rename(from, to); }
-    int syncFolder(const QString& folder) override { return fails() ? EIO : system().syncFolder(folder); }
-    int remove(const QString& path) override { return fails() ? EIO : system().remove(path); }
-
-private:
-    bool fails()
-    {
-        if (steps++ == failingStep)
-            killed = kills;
-        return killed || steps - 1 == failingStep;
-    }
-};
 
 /// All .ics files of a folder by name.
 inline std::map<QString, QByteArray> filesOf(const QString& folder)
@@ -127,4 +70,4 @@ inline QStringList linesOfKhal(const QString& folder)
     return QString::fromUtf8(readRaw(output)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-} // namespace vidora::testing
+} // namespace vidora::test

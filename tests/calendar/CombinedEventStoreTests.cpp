@@ -8,7 +8,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 using ::testing::ElementsAre;
 
 const Instant start = moment("2026-11-22T19:00:00Z");

@@ -8,7 +8,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 
 const Instant start = moment("2026-11-22T19:00:00Z");
 
@@ -32,7 +32,7 @@ protected:
     const QString root = home.filePath(QStringLiteral("calendars"));
     const QString folder = root + QStringLiteral("/vidora");
     FixedClock clock{moment("2026-11-22T12:00:00Z")};
-    SeededRandom random{1};
+    ScriptedRandom random = ScriptedRandom::seeded(1);
 };
 
 /// What every form of the store promises, tried on those that need no server.
@@ -188,9 +188,7 @@ TEST_F(FolderEventStoreTest, LeavesEachEventWholeWhereverItIsStopped)
                 events.push_back(broadcast(own(*before), QStringLiteral("Show %1").arg(i), start + dayStep * i));
                 ASSERT_FALSE(before->saveEvent(events.back(), EventSpan::ThisEvent));
             }
-            FaultyLayer layer;
-            layer.failingStep = step;
-            layer.kills = kills;
+            FaultyFileLayer layer(step, kills);
             const auto store = open(layer);
             events[0].startDate -= std::chrono::minutes(5);
             Event added = broadcast(own(*store), QStringLiteral("New"), start);
@@ -240,7 +238,7 @@ TEST_F(FolderEventStoreTest, NeverTouchesTheWorldsEventsWhateverHappens)
 {
     for (unsigned seed = 0; seed < 8; ++seed) {
         QDir(root).removeRecursively();
-        SeededRandom dice(seed);
+        auto dice = ScriptedRandom::seeded(seed);
         std::unique_ptr<FolderEventStore> stores[] = {open(), open()};
         const bool shared = seed % 2 == 1; // by two programs, which tell each other by the files alone
         const auto commits = [&] { return shared || dice.uniform(2) == 0; };
@@ -335,7 +333,7 @@ TEST_F(FolderEventStoreTest, SharesAFolderWithProgramsThatWriteAtTheSameTime)
     open();
     constexpr int rounds = 60;
     const auto device = [&](unsigned seed) {
-        SeededRandom dice(seed);
+        auto dice = ScriptedRandom::seeded(seed);
         FolderEventStore store(root, QStringLiteral("This device"), clock, dice);
         for (int round = 0; round < rounds; ++round) {
             Event event = broadcast(own(store), QStringLiteral("Show"), start + Seconds(1800) * dice.uniform(6));

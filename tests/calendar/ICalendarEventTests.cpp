@@ -6,8 +6,8 @@
 namespace vidora {
 namespace {
 
-using testing::foreignEvent;
-using testing::moment;
+using test::foreignEvent;
+using test::moment;
 
 const Instant now = moment("2026-11-22T12:00:00Z");
 
@@ -105,7 +105,7 @@ TEST(ICalendarEvent, WritesWhatItReads)
                           QStringLiteral("\nBEGIN:VALARM");
     for (const QString& each :
          {title, QString(), QStringLiteral("a\r\0b\x01\x7F"), QString::fromUtf8("\xC5\xA1").repeated(90)}) {
-        Event event = testing::broadcast({}, each, moment("2026-11-22T19:00:00Z"));
+        Event event = test::broadcast({}, each, moment("2026-11-22T19:00:00Z"));
         const QByteArray bytes = ICalendarEvent::write(QStringLiteral("id"), event, now);
         const auto read = ICalendarEvent::read(bytes);
         ASSERT_TRUE(read) << bytes.toStdString();

@@ -11,7 +11,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 using std::chrono::minutes;
 using test::RegionDevice;
 using test::SourcedChannel;
@@ -31,7 +31,7 @@ public:
     virtual int requests() const { return 0; }
 
 protected:
-    SeededRandom m_random{3};
+    ScriptedRandom m_random = ScriptedRandom::seeded(3);
     QTemporaryDir m_home;
 };
 
@@ -63,7 +63,7 @@ private:
     CalDAVServer m_server;
     NetworkURLSession m_network{32 * 1024 * 1024};
     FaultySession m_session{m_network};
-    NoSleep m_sleeper;
+    ScriptedSleeper m_sleeper;
     int m_devices = 0;
 };
 

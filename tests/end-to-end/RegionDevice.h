@@ -10,20 +10,6 @@
 
 namespace vidora::test {
 
-/// Does not wait, but lets something happen while the program believes it does.
-class HookedSleeper final : public Sleeper
-{
-public:
-    void sleep(Milliseconds duration) override
-    {
-        slept.push_back(duration);
-        if (onSleep)
-            onSleep();
-    }
-    std::vector<Milliseconds> slept; ///< touched by the pass alone, which is over when a test looks
-    std::function<void()> onSleep;
-};
-
 /// A channel with these sources, in this language.
 struct SourcedChannel
 {
@@ -83,7 +69,7 @@ public:
             read.push_back(region::Fault::fromText(fault).value());
         region.server.setFaults(read);
         region.server.clearRequests();
-        sleeper.slept.clear();
+        sleeper.takeSlept();
         QStringList titles;
         for (const ObjectId& id : runPass(*delegate))
             for (const SourcedChannel& channel : m_channels)
@@ -138,14 +124,14 @@ private:
     NetworkURLSession m_network;
 
 public:
-    testing::SampleRegion region;
+    SampleRegion region;
 
 private:
     const Endpoints m_endpoints;
     const std::unique_ptr<EventStore> m_calendars;
 
 public:
-    HookedSleeper sleeper;
+    ScriptedSleeper sleeper;
     std::unique_ptr<VidoraAppDelegate> delegate;
 };
 

@@ -52,7 +52,7 @@ TEST(UpdateOverRegion, EverySourceOfEveryFamilyDelivers)
     EXPECT_EQ(device.update(), QStringList());
     for (const SourcedChannel& channel : channels)
         EXPECT_GT(device.shows(channel).size(), 5U) << channel.title.toStdString();
-    EXPECT_THAT(device.sleeper.slept, IsEmpty());
+    EXPECT_THAT(device.sleeper.slept(), IsEmpty());
     // However many channels a feed serves, it is fetched once.
     for (const char* feed : {"n/epg.xml", "s/losmij/epg.xml.gz", "tvpc/guide/tvpc.xml", "r.0/rytecRS1.xz"})
         EXPECT_THAT(device.requests(feed), ElementsAre(feed));
@@ -73,7 +73,7 @@ TEST(UpdateOverRegion, AFaultyFirstSourceIsReplacedByTheSecond)
         EXPECT_EQ(device.update({c.fault}), QStringList()) << c.fault;
         EXPECT_THAT(device.shows(northThenSouth), SizeIs(Gt(10U))) << c.fault;
         EXPECT_THAT(device.requests("n/epg.xml"), SizeIs(c.asked)) << c.fault;
-        EXPECT_EQ(device.sleeper.slept, std::vector<Milliseconds>(c.pauses, Seconds(1))) << c.fault;
+        EXPECT_EQ(device.sleeper.slept(), std::vector<Milliseconds>(c.pauses, Seconds(1))) << c.fault;
         EXPECT_THAT(device.requests("s/"), SizeIs(1)) << c.fault;
     }
 }
@@ -88,7 +88,7 @@ TEST(UpdateOverRegion, AFirstSourceThatDeliversSparesTheSecond)
 TEST(UpdateOverRegion, TheSecondAttemptMendsAnEmptyAnswerAndFollowsARedirect)
 {
     RegionDevice device({north});
-    device.sleeper.onSleep = [&] { device.region.server.setFaults({}); };
+    device.sleeper.onSleep = [&](Milliseconds) { device.region.server.setFaults({}); };
     EXPECT_EQ(device.update({"n/epg.xml=empty"}), QStringList());
     EXPECT_THAT(device.requests(), ElementsAre("n/epg.xml", "n/epg.xml"));
 

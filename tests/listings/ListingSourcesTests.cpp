@@ -1,5 +1,6 @@
 #include "listings/ListingSources.h"
 #include "listings/PageScanner.h"
+#include "support/Seams.h"
 
 #include <QFile>
 
@@ -8,21 +9,6 @@
 using namespace vidora;
 
 namespace {
-
-/// Gives the same choices again and again, in turn.
-class PickedRandom final : public Random
-{
-public:
-    explicit PickedRandom(std::vector<std::uint32_t> picks)
-        : m_picks(std::move(picks))
-    {
-    }
-    std::uint32_t uniform(std::uint32_t bound) override { return m_picks[m_next++ % m_picks.size()] % bound; }
-
-private:
-    std::vector<std::uint32_t> m_picks;
-    std::size_t m_next = 0;
-};
 
 Endpoints application()
 {
@@ -34,7 +20,7 @@ Endpoints application()
 std::optional<URLSet> urls(const char* sourceId, const char* now, const Endpoints& endpoints = application(),
                            std::vector<std::uint32_t> picks = {0, 1, 1})
 {
-    PickedRandom random(std::move(picks));
+    test::ScriptedRandom random(std::move(picks));
     return urlsForSourceId(QString::fromUtf8(sourceId), *instantFromIsoText(QString::fromLatin1(now)), std::nullopt,
                            endpoints, random);
 }

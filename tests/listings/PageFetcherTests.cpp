@@ -1,10 +1,10 @@
 #include "listings/PageFetcher.h"
 #include "platform/CachedURLSession.h"
 #include "platform/Log.h"
+#include "support/Seams.h"
 
 #include <QCoreApplication>
 
-#include <deque>
 #include <gmock/gmock.h>
 #include <stdexcept>
 
@@ -13,61 +13,25 @@ using ::testing::ElementsAre;
 
 namespace {
 
-/// Answers each request with the next of the given results, and keeps what was asked for.
-class ScriptedSession final : public URLSession
-{
-public:
-    void answer(int status, QByteArray body, const QByteArray& name = {}, const QByteArray& value = {})
-    {
-        URLResponse response;
-        response.statusCode = status;
-        if (!name.isEmpty())
-            response.headerFields.set(name, value);
-        results.push_back({std::move(body), std::move(response), std::nullopt});
-    }
-    void fail(const QString& reason = {})
-    {
-        results.push_back({std::nullopt, std::nullopt, URLError{QStringLiteral("no route"), reason, {}}});
-    }
-    URLResult perform(const URLRequest& request) override
-    {
-        asked.append(request.url.text());
-        allowedFile = request.allowsFile;
-        if (results.empty())
-            throw std::runtime_error("nothing left to answer");
-        URLResult result = std::move(results.front());
-        results.pop_front();
-        return result;
-    }
-    std::deque<URLResult> results;
-    QStringList asked;
-    bool allowedFile = false;
-};
-
-class CountingSleeper final : public Sleeper
-{
-public:
-    void sleep(Milliseconds duration) override { slept += duration; }
-    Milliseconds slept{0};
-};
-
-class CountingRandom final : public Random
-{
-public:
-    std::uint32_t uniform(std::uint32_t bound) override
-    {
-        EXPECT_EQ(bound, 14U);
-        return next++;
-    }
-    std::uint32_t next = 12;
-};
-
 class PageFetcherTest : public ::testing::Test
 {
 protected:
     std::optional<Page> fetch(bool userIsWaitingFor = false)
     {
         return fetcher.netPageForRequest(request, userIsWaitingFor);
+    }
+    /// What the next request gets.
+    void answer(int status, const QByteArray& body, const QByteArray& name = {}, const QByteArray& value = {})
+    {
+        URLResponse response;
+        response.statusCode = status;
+        if (!name.isEmpty())
+            response.headerFields.set(name, value);
+        network.replyNext([=](const URLRequest&) { return URLResult{body, response, std::nullopt}; });
+    }
+    void fail(const QString& reason = {})
+    {
+        network.replyNext([=](const URLRequest&) { return test::ScriptedSession::noRoute(reason); });
     }
     std::optional<QString> fetchText()
     {
@@ -85,10 +49,10 @@ protected:
 
     const QString address = QStringLiteral("http://tv.example/day");
     FixedClock clock{instantFromUnixMilliseconds(1'800'000'000'000)};
-    ScriptedSession network;
+    test::ScriptedSession network;
     URLCache cache{clock, [] { return Milliseconds(Seconds(86'400)); }};
     CachedURLSession session{network, cache};
-    CountingSleeper sleeper;
+    test::ScriptedSleeper sleeper;
     // Shared, since what is queued for the main thread may outlive a test.
     std::shared_ptr<std::vector<bool>> indicator = std::make_shared<std::vector<bool>>();
     std::shared_ptr<std::vector<Alert>> alerts = std::make_shared<std::vector<Alert>>();
@@ -104,30 +68,25 @@ TEST_F(PageFetcherTest, TriesTwiceAndTakesOnlySuccessWithData)
     {
         int firstStatus;
         const char* firstBody;
-        int requests;
+        std::size_t requests;
     };
     const Case cases[] = {{200, "one", 1}, {299, "one", 1}, {204, "", 2},    {200, "", 2},
                           {199, "one", 2}, {300, "one", 2}, {500, "one", 2}, {0, "one", 2}};
     for (const Case& one : cases) {
-        network.asked.clear();
-        sleeper.slept = {};
         cache.setMemoryCapacity(0);
-        network.results.clear();
-        network.answer(one.firstStatus, one.firstBody);
-        network.answer(200, "two");
+        answer(one.firstStatus, one.firstBody);
+        if (one.requests == 2)
+            answer(200, "two");
         const auto text = fetchText();
         EXPECT_EQ(text, one.requests == 1 ? QStringLiteral("one") : QStringLiteral("two")) << one.firstStatus;
-        EXPECT_EQ(network.asked.size(), one.requests) << one.firstStatus;
-        EXPECT_EQ(sleeper.slept, Milliseconds(one.requests == 1 ? 0 : 1000)) << one.firstStatus;
+        EXPECT_EQ(network.takeRequests().size(), qsizetype(one.requests)) << one.firstStatus;
+        EXPECT_EQ(sleeper.takeSlept(), std::vector<Milliseconds>(one.requests - 1, Seconds(1))) << one.firstStatus;
     }
-    for (int attempt = 0; attempt < 3; ++attempt)
-        network.answer(404, "page not found");
-    network.asked.clear();
-    sleeper.slept = {};
-    network.results.pop_front();
+    for (int attempt = 0; attempt < 2; ++attempt)
+        answer(404, "page not found");
     EXPECT_FALSE(fetch());
-    EXPECT_EQ(network.asked.size(), 2);
-    EXPECT_EQ(sleeper.slept, Milliseconds(1000));
+    EXPECT_EQ(network.takeRequests().size(), 2);
+    EXPECT_THAT(sleeper.takeSlept(), ElementsAre(Seconds(1)));
     runMainQueue();
     EXPECT_TRUE(alerts->empty());
 }
@@ -135,37 +94,39 @@ TEST_F(PageFetcherTest, TriesTwiceAndTakesOnlySuccessWithData)
 TEST_F(PageFetcherTest, FollowsOneRedirectByItself)
 {
     request.allowsFile = true;
-    network.answer(302, "moved", "Location", "https://www.tv.example/den?a=\xC4\x8D");
-    network.answer(200, "page");
+    answer(302, "moved", "Location", "https://www.tv.example/den?a=\xC4\x8D");
+    network.replyNext([](const URLRequest& second) {
+        EXPECT_FALSE(second.allowsFile);
+        return URLResult{"page", URLResponse{200, {}}, std::nullopt};
+    });
     EXPECT_EQ(fetchText(), QStringLiteral("page"));
-    EXPECT_THAT(network.asked, ElementsAre(address, QStringLiteral("https://www.tv.example/den?a=%C4%8D")));
+    EXPECT_THAT(network.takeRequests(), ElementsAre(address, QStringLiteral("https://www.tv.example/den?a=%C4%8D")));
     EXPECT_EQ(request.url.text(), QStringLiteral("https://www.tv.example/den?a=%C4%8D"));
-    EXPECT_FALSE(network.allowedFile);
 
     request.url = *URL::fromText(address);
-    network.answer(301, "", "Location", "relative/path");
-    network.answer(302, "", "Location", "http://tv.example/again");
+    answer(301, "", "Location", "relative/path");
+    answer(302, "", "Location", "http://tv.example/again");
     EXPECT_FALSE(fetch());
     EXPECT_EQ(request.url.text(), QStringLiteral("relative/path")); // a second redirect is not followed
 
     request.url = *URL::fromText(address);
-    network.asked.clear();
-    network.answer(200, "", "Location", "");
-    network.answer(200, "page", "Location", "http://tv.example/elsewhere");
+    network.takeRequests();
+    answer(200, "", "Location", "");
+    answer(200, "page", "Location", "http://tv.example/elsewhere");
     EXPECT_EQ(fetchText(), QStringLiteral("page"));
-    EXPECT_THAT(network.asked, ElementsAre(address, address));
+    EXPECT_THAT(network.takeRequests(), ElementsAre(address, address));
 }
 
 TEST_F(PageFetcherTest, ServesFromTheCacheWithoutAskingAgain)
 {
     QStringList lines;
     Log::setSink([&lines](const QString& line) { lines.append(line); });
-    network.answer(200, "day");
+    answer(200, "day");
     EXPECT_EQ(fetchText(), QStringLiteral("day"));
     EXPECT_EQ(fetchText(), QStringLiteral("day"));
     EXPECT_TRUE(fetch(true));
     Log::setSink({});
-    EXPECT_EQ(network.asked.size(), 1);
+    EXPECT_EQ(network.takeRequests().size(), 1);
     EXPECT_THAT(lines, ElementsAre(QStringLiteral("page http://tv.example/day: fetched, status 200, 3 bytes"),
                                    QStringLiteral("page http://tv.example/day: from cache, status 200, 3 bytes"),
                                    QStringLiteral("page http://tv.example/day (user waits): from cache, status 200, "
@@ -175,8 +136,8 @@ TEST_F(PageFetcherTest, ServesFromTheCacheWithoutAskingAgain)
 TEST_F(PageFetcherTest, AlertsAtMostOnceInAMinute)
 {
     const auto failTwice = [this](const QString& reason = {}) {
-        network.fail(reason);
-        network.fail(reason);
+        fail(reason);
+        fail(reason);
         EXPECT_FALSE(fetch());
         runMainQueue();
         return alerts->size();
@@ -200,12 +161,14 @@ TEST_F(PageFetcherTest, ShowsActivityFromTheFirstStartToTheLastStop)
 {
     activity.stopNetworkActivity(); // unmatched
     activity.startNetworkActivity();
-    EXPECT_FALSE(fetch()); // the session throws: the activity ends all the same
+    for (int attempt = 0; attempt < 2; ++attempt)
+        network.replyNext([](const URLRequest&) -> URLResult { throw std::runtime_error("broken"); });
+    EXPECT_FALSE(fetch()); // the activity ends all the same
     activity.stopNetworkActivity();
     activity.startNetworkActivity();
     while (indicator->size() < 3) // the counter has a queue of its own
         runMainQueue();
-    EXPECT_EQ(network.asked.size(), 2);
+    EXPECT_EQ(network.takeRequests().size(), 2);
     EXPECT_THAT(*indicator, ElementsAre(true, false, true));
 }
 
@@ -248,11 +211,11 @@ TEST(PageFromData, ReadsTheContentTypeToTheLetter)
 
 TEST(HTTPUserAgent, IsChosenOnceARun)
 {
-    CountingRandom random;
+    test::ScriptedRandom random({12});
     HTTPUserAgent agent(random);
     EXPECT_EQ(agent.value(), "Opera/9.80 (X11; FreeBSD 11.1-RELEASE-p1 amd64) Presto/2.12.388 Version/12.16");
     EXPECT_EQ(agent.value(), agent.value());
-    EXPECT_EQ(random.next, 13U);
+    EXPECT_THAT(random.bounds(), ElementsAre(14U));
 }
 
 } // namespace

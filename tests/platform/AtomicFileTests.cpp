@@ -1,52 +1,16 @@
 #include "platform/AtomicFile.h"
 #include "platform/StandardFolders.h"
+#include "support/Seams.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cerrno>
 #include <gtest/gtest.h>
 
 using namespace vidora;
 
 namespace {
-
-/// Does what the system does, but one step fails, and a failing write leaves half of its bytes behind.
-class FailingLayer final : public FileLayer
-{
-public:
-    explicit FailingLayer(int failingStep)
-        : m_left(failingStep)
-    {
-    }
-    bool failed() const { return m_left < 0; }
-
-    int create(const QString& path, unsigned mode, int& descriptor) override
-    {
-        return step() ? system().create(path, mode, descriptor) : ENOSPC;
-    }
-    int write(int descriptor, QByteArrayView bytes) override
-    {
-        if (step())
-            return system().write(descriptor, bytes);
-        system().write(descriptor, bytes.first(bytes.size() / 2));
-        return ENOSPC;
-    }
-    int sync(int descriptor) override { return step() ? system().sync(descriptor) : EIO; }
-    int close(int descriptor) override
-    {
-        const int result = system().close(descriptor);
-        return step() ? result : EIO;
-    }
-    int rename(const QString& from, const QString& to) override { return step() ? system().rename(from, to) : EIO; }
-    int syncFolder(const QString& folder) override { return step() ? system().syncFolder(folder) : EIO; }
-    int remove(const QString& path) override { return system().remove(path); }
-
-private:
-    bool step() { return m_left-- != 0; }
-    int m_left;
-};
 
 TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
 {
@@ -56,7 +20,7 @@ TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("list"));
         ASSERT_FALSE(AtomicFile::write(path, old, AtomicFile::Access::OwnerOnly));
-        FailingLayer layer(failingStep);
+        test::FaultyFileLayer layer(failingStep);
         const auto error =
             AtomicFile::write(path, fresh, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
         completed = !layer.failed();

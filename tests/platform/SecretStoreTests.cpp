@@ -9,7 +9,7 @@
 namespace vidora {
 namespace {
 
-using namespace testing;
+using namespace test;
 
 TEST(SecretStore, KeepsSecretsFromOthers)
 {

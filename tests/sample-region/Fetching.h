@@ -7,7 +7,7 @@
 #include <httplib.h>
 #include <string>
 
-namespace vidora::testing {
+namespace vidora::test {
 
 /// One plain request to a site on the loopback, without a redirect being followed.
 inline httplib::Result get(const std::string& address)
@@ -33,4 +33,4 @@ inline Page pageOf(const httplib::Result& answer)
                                : QByteArray::fromStdString(type.substr(charset + 8)).toUpper());
 }
 
-} // namespace vidora::testing
+} // namespace vidora::test

@@ -11,7 +11,7 @@
 namespace vidora::region {
 namespace {
 
-using testing::SampleRegion;
+using test::SampleRegion;
 
 class Store final : public ListingReceiver
 {
@@ -23,15 +23,6 @@ public:
     std::shared_ptr<const ShowList> list;
 };
 
-class Alternating final : public Random
-{
-public:
-    std::uint32_t uniform(std::uint32_t bound) override { return m_next++ % bound; }
-
-private:
-    std::uint32_t m_next = 0;
-};
-
 QString text(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
@@ -41,17 +32,17 @@ QString text(std::string_view utf8)
 std::shared_ptr<const ShowList> delivered(const SampleRegion& region, const Endpoints& endpoints,
                                           const RegionChannel& channel, const QString& source)
 {
-    Alternating random;
+    test::ScriptedRandom random({0, 1});
     const auto urls = urlsForSourceId(source, region.clock.now(), std::nullopt, endpoints, random);
     if (!urls)
         return nullptr;
     Pages pages;
     for (const URL& url : *urls) {
-        const auto answer = testing::get(url.text().toStdString());
+        const auto answer = test::get(url.text().toStdString());
         if (!answer || answer->status != 200)
             ADD_FAILURE() << url.text().toStdString();
         else
-            pages.push_back(testing::pageOf(answer));
+            pages.push_back(test::pageOf(answer));
     }
     Store store;
     ListingParser parser(region.clock, endpoints, store);
@@ -116,7 +107,7 @@ TEST(Documents, XMLIsWellFormedAndCompressedFeedsStayWithinReadersLimits)
           server.origin(".tv") + "/export/xmltv/bura2.tvepg_2026-11-22.xml",
           server.origin("=.rs") + "/xmltv/service.ashx?kanal_id=5101&date=22.11.2026.",
           server.origin("_.0") + "/dati/palinsesto/palinsesto.xml", server.origin("_.1") + "/export/palinsesto.xml"}) {
-        const Page page = testing::pageOf(testing::get(address));
+        const Page page = test::pageOf(test::get(address));
         const QString document = page.text().value_or(QString());
         QXmlStreamReader reader(document);
         while (!reader.atEnd())

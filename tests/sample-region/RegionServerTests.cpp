@@ -9,11 +9,11 @@
 namespace vidora::region {
 namespace {
 
+using test::get;
+using test::SampleRegion;
 using ::testing::ElementsAre;
-using testing::get;
 using ::testing::HasSubstr;
 using ::testing::Not;
-using testing::SampleRegion;
 
 TEST(Fault, IsReadFromText)
 {

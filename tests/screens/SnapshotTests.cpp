@@ -57,7 +57,8 @@ protected:
         if (qEnvironmentVariableIsSet("VIDORA_REWRITE_SNAPSHOTS")) {
             ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
             file.write(actual.toUtf8());
-            return;
+            FAIL() << name.toStdString()
+                   << " is rewritten: read the difference, then run without VIDORA_REWRITE_SNAPSHOTS";
         }
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString() << " is missing";
         EXPECT_EQ(actual.toStdString(), file.readAll().toStdString()) << name.toStdString();

@@ -1,6 +1,7 @@
 #include "store/ShowArchive.h"
 #include "store/ShowArchiveReader.h"
 #include "store/StoreFixture.h"
+#include "support/Seams.h"
 
 #include <QCborArray>
 #include <QCborMap>
@@ -193,49 +194,13 @@ TEST(ShowArchive, ReadsTheFirstShowsOfAFileFromItsStart)
 // A disk that fails or tears a write at any step leaves the file that was there.
 TEST(ShowArchive, FailedWritesLeaveTheOldFile)
 {
-    class FailingLayer final : public FileLayer
-    {
-    public:
-        explicit FailingLayer(int failAt)
-            : m_left(failAt)
-        {
-        }
-        int create(const QString& path, unsigned mode, int& descriptor) override
-        {
-            return failsNow() ? EACCES : system().create(path, mode, descriptor);
-        }
-        int write(int descriptor, QByteArrayView bytes) override
-        {
-            if (!failsNow())
-                return system().write(descriptor, bytes);
-            system().write(descriptor, bytes.first(bytes.size() / 2));
-            return ENOSPC;
-        }
-        int sync(int descriptor) override { return failsNow() ? EIO : system().sync(descriptor); }
-        int close(int descriptor) override
-        {
-            const int result = system().close(descriptor);
-            return failsNow() ? EIO : result;
-        }
-        int rename(const QString& from, const QString& to) override
-        {
-            return failsNow() ? EIO : system().rename(from, to);
-        }
-        int syncFolder(const QString& folder) override { return failsNow() ? EIO : system().syncFolder(folder); }
-        int remove(const QString& path) override { return system().remove(path); }
-
-    private:
-        bool failsNow() { return m_left-- == 0; }
-        int m_left;
-    };
-
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("a.plist"));
     const ShowList old{TestShow{QStringLiteral("Old"), 0, 60}.show(channelId(1))};
     const ShowList fresh{fullDraft().publish(), fullDraft().publish()};
     ASSERT_TRUE(ShowArchive::archiveRootObject(old, file));
     for (int step = 0; step < 10; ++step) {
-        FailingLayer layer(step);
+        test::FaultyFileLayer layer(step);
         if (ShowArchive::archiveRootObject(fresh, file, layer)) {
             EXPECT_GE(step, 3) << "no step was left to fail";
             EXPECT_EQ(ShowArchive::unarchiveObjectWithFile(file).size(), 2u);

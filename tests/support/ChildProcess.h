@@ -11,7 +11,7 @@
 
 extern char** environ;
 
-namespace vidora::testing {
+namespace vidora::test {
 
 /// Another program, for as long as the object lives; what it prints goes into a file. Not QProcess: that clones the
 /// process in a way that ThreadSanitizer does not survive.
@@ -63,4 +63,4 @@ private:
     pid_t m_process = -1;
 };
 
-} // namespace vidora::testing
+} // namespace vidora::test

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vidora::testing {
+namespace vidora::test {
 
 inline void writeRaw(const QString& path, const QByteArray& bytes)
 {
@@ -24,4 +24,4 @@ inline QByteArray readRaw(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-} // namespace vidora::testing
+} // namespace vidora::test

@@ -1,33 +1,10 @@
 #pragma once
 
 #include "listings/Endpoints.h"
-#include "platform/Clock.h"
 #include "sample-region/RegionServer.h"
+#include "support/Seams.h"
 
-#include <mutex>
-#include <vector>
-
-namespace vidora::testing {
-
-/// Waits for nothing and remembers what it was asked for.
-class RecordingSleeper final : public Sleeper
-{
-public:
-    void sleep(Milliseconds duration) override
-    {
-        const std::lock_guard lock(m_mutex);
-        m_slept.push_back(duration);
-    }
-    std::vector<Milliseconds> slept() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_slept;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    std::vector<Milliseconds> m_slept;
-};
+namespace vidora::test {
 
 /// The sample region in this process, on free ports, at a moment that the test moves.
 struct SampleRegion
@@ -43,8 +20,8 @@ struct SampleRegion
     }
 
     FixedClock clock;
-    RecordingSleeper sleeper;
+    ScriptedSleeper sleeper;
     region::RegionServer server{clock, sleeper, {}};
 };
 
-} // namespace vidora::testing
+} // namespace vidora::test

@@ -2,88 +2,11 @@
 
 #include "core/PropertyList.h"
 #include "core/VidoraAppDelegate.h"
+#include "support/Seams.h"
 
 #include <QTemporaryDir>
 
-#include <map>
-#include <mutex>
-#include <vector>
-
 namespace vidora::test {
-
-/// The network seam in tests: answers from a table, and remembers what was asked for, in order.
-class ScriptedSession final : public URLSession
-{
-public:
-    struct Answer
-    {
-        int status = 200;
-        QByteArray body;
-        QByteArray contentType = "text/xml; charset=utf-8";
-        QByteArray location;
-    };
-
-    void answer(const QString& url, Answer answer)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_answers[url] = std::move(answer);
-    }
-
-    QStringList takeRequests()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_requests, {});
-    }
-
-    URLResult perform(const URLRequest& request) override
-    {
-        const std::lock_guard lock(m_mutex);
-        m_requests << request.url.text();
-        const auto found = m_answers.find(request.url.text());
-        if (found == m_answers.end())
-            return {std::nullopt, std::nullopt, URLError{QStringLiteral("no route"), {}, {}}};
-        URLResponse response;
-        response.statusCode = found->second.status;
-        response.headerFields.set("Content-Type", found->second.contentType);
-        if (!found->second.location.isEmpty())
-            response.headerFields.set("Location", found->second.location);
-        return {found->second.body, response, std::nullopt};
-    }
-
-private:
-    std::mutex m_mutex;
-    std::map<QString, Answer> m_answers;
-    QStringList m_requests;
-};
-
-/// Draws the numbers it was given, in turn, each taken modulo the bound.
-class ScriptedRandom final : public Random
-{
-public:
-    explicit ScriptedRandom(std::vector<std::uint32_t> numbers = {0})
-        : m_numbers(std::move(numbers))
-    {
-    }
-    std::uint32_t uniform(std::uint32_t bound) override { return m_numbers[m_next++ % m_numbers.size()] % bound; }
-
-private:
-    std::vector<std::uint32_t> m_numbers;
-    std::atomic<std::size_t> m_next = 0;
-};
-
-/// Sleeps by moving the clock.
-class ClockSleeper final : public Sleeper
-{
-public:
-    explicit ClockSleeper(FixedClock& clock)
-        : m_clock(clock)
-    {
-    }
-    void sleep(Milliseconds duration) override { m_clock.advance(duration); }
-
-private:
-    FixedClock& m_clock;
-};
 
 /// Runs an update pass to its end. The channels for which nothing came.
 inline std::vector<ObjectId> runPass(VidoraAppDelegate& delegate)
@@ -136,7 +59,6 @@ class TestDevice
 public:
     explicit TestDevice(const QString& now = QStringLiteral("2026-11-22T12:00:00Z"))
         : clock(*instantFromIsoText(now))
-        , sleeper(clock)
         , folders(StandardFolders::under(m_folder.path()))
     {
         folders.make();
@@ -219,7 +141,7 @@ private:
 public:
     FixedClock clock;
     ScriptedRandom random;
-    ClockSleeper sleeper;
+    ScriptedSleeper sleeper{[this](Milliseconds pause) { clock.advance(pause); }};
     ScriptedSession session;
     StandardFolders folders;
     Endpoints endpoints;

@@ -59,7 +59,7 @@ protected:
 
 TEST_F(StreamTest, PlaysAStreamAndClosesIt)
 {
-    testing::SampleRegion region;
+    test::SampleRegion region;
     open(region.server.origin("n") + "/stream/lipa1.m3u8");
     await([this] { return player()->isReady() && player()->isPlaying() && player()->position() > 200; });
     const auto* sink = player()->videoOutput()->property("videoSink").value<QVideoSink*>();
@@ -94,7 +94,7 @@ TEST_F(StreamTest, GivesUpOnAStreamThatNeverStarts)
 
 TEST_F(StreamTest, SaysThatAStreamIsNotThere)
 {
-    testing::SampleRegion region;
+    test::SampleRegion region;
     open(region.server.origin("n") + "/gone/harbournews.m3u8");
     await([this] { return player()->hasFailed(); });
     open("file:///etc/passwd");
