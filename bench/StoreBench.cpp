@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <tuple>
 #include <variant>
 
 namespace vidora::bench {
@@ -157,7 +158,7 @@ void writeBare(const std::vector<Token>& tokens, const QString& path)
                 writer.endMap();
         }
     }
-    AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced);
+    std::ignore = AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced);
 }
 
 void load(benchmark::State& state)

@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("settings.json"));
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
-    if (AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced))
+    if (AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced).failed())
         return 0;
     UserDefaults defaults(path);
     for (const char* name : {"show_img", "currently_show_count", "data_update", "selectedCalendar", ""}) {

@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <tuple>
+
 namespace vidora {
 
 Alarms::Alarms(const QString& cachesFolder, bool readOnly)
@@ -45,11 +47,11 @@ void Alarms::write(bool isSynchronized)
     m_synchronized = isSynchronized;
     if (m_readOnly)
         return;
-    // A flag that comes back after a loss of power only costs a synchronisation; one that stays would hide a change.
+    // A flag that is missing only costs a synchronisation; one that stays would hide a change.
     if (!isSynchronized)
         QFile::remove(m_path);
     else if (!QFile::exists(m_path))
-        AtomicFile::write(m_path, {}, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced);
+        std::ignore = AtomicFile::write(m_path, {}, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Unsynced);
 }
 
 } // namespace vidora

@@ -80,9 +80,12 @@ void TVShows::write(const Favorites& favorites, std::uint64_t generation)
     if (generation < m_writtenGeneration)
         return;
     m_writtenGeneration = generation;
-    if (m_fileIsUnreadable.exchange(false))
-        AtomicFile::setAside(m_path);
-    if (AtomicFile::write(m_path, archivedFavorites(favorites), AtomicFile::Access::OwnerOnly)) {
+    if (m_fileIsUnreadable && !AtomicFile::setAside(m_path)) {
+        Log::line(QStringLiteral("TVShows: favourites that can't be read are in the way"));
+        return;
+    }
+    m_fileIsUnreadable = false;
+    if (AtomicFile::write(m_path, archivedFavorites(favorites), AtomicFile::Access::OwnerOnly).failed()) {
         // What the file does not hold must not reach the other devices either.
         Log::line(QStringLiteral("TVShows: the favourites could not be written"));
         return;

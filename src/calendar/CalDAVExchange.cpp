@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <tuple>
 
 namespace vidora {
 
@@ -28,8 +29,8 @@ void writeAttribute(const QString& path, const QString& text)
     if (text.isEmpty() ? present.has_value() : present != bytes) {
         if (text.isEmpty())
             QFile::remove(path);
-        else
-            AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly);
+        else // a name or colour that can't be written is seen by the next exchange again
+            std::ignore = AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly);
     }
 }
 
@@ -224,7 +225,8 @@ void CalDAVEventStore::keep(CalDAVMirror& mirror, const QString& calendar, const
     if (mirror.outbox.contains(name) || event.document.size() > ICalendarEvent::maximumSize)
         return;
     if (AtomicFile::write(fileOf(calendar, name), event.document, AtomicFile::Access::OwnerOnly,
-                          AtomicFile::Durability::Unsynced, m_layer))
+                          AtomicFile::Durability::Unsynced, m_layer)
+            .failed())
         return;
     mirror.keep(name, event.address, event.tag);
 }

@@ -78,7 +78,8 @@ bool CalDAVMirror::write(const QString& folder, FileLayer& layer) const
                              {QStringLiteral("items"), itemObject},
                              {QStringLiteral("outbox"), outboxObject}};
     return !AtomicFile::write(fileIn(folder), QJsonDocument(object).toJson(QJsonDocument::Compact),
-                              AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
+                              AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer)
+                .failed();
 }
 
 QString CalDAVMirror::nameFor(const QUrl& event) const

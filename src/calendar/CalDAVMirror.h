@@ -41,7 +41,7 @@ struct CalDAVMirror
     /// that is missing or empty, as a loss of power may leave it.
     static CalDAVMirror read(const QString& folder);
     /// True when it is on the disk.
-    bool write(const QString& folder, FileLayer& layer) const;
+    [[nodiscard]] bool write(const QString& folder, FileLayer& layer) const;
 
     bool isLatest(const QString& name, const Order& order) const
     {

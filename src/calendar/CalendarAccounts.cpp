@@ -86,7 +86,8 @@ bool CalendarAccounts::write() const
                                  {QStringLiteral("name"), account.name},
                                  {QStringLiteral("address"), account.address},
                                  {QStringLiteral("user"), account.user}});
-    return !AtomicFile::write(m_surroundings.file, QJsonDocument(array).toJson(), AtomicFile::Access::OwnerOnly);
+    return !AtomicFile::write(m_surroundings.file, QJsonDocument(array).toJson(), AtomicFile::Access::OwnerOnly)
+                .failed();
 }
 
 CalDAVAccount CalendarAccounts::login(const CalendarAccount& account, const QString& password) const

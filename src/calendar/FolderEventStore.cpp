@@ -48,9 +48,9 @@ QString freshIdentity(Random& random)
     return QString::fromLatin1(bytes.toHex());
 }
 
-EventStoreError failure(const QString& path, const FileError& error)
+EventStoreError failure(const QString& path, const FileResult& result)
 {
-    return {QStringLiteral("%1: %2").arg(path, error.text)};
+    return {QStringLiteral("%1: %2").arg(path, result.text)};
 }
 
 } // namespace
@@ -86,9 +86,10 @@ void FolderEventStore::requestAccessToEntityType(EntityType type, const Completi
     std::optional<EventStoreError> error;
     if (authorizationStatusForEntityType(type) != AuthorizationStatus::Authorized) {
         const QString path = m_folder + QLatin1Char('/') + ownCalendar + QStringLiteral("/displayname");
-        if (const auto failed = AtomicFile::write(path, "Vidora", AtomicFile::Access::OwnerOnly,
-                                                  AtomicFile::Durability::Synced, m_layer))
-            error = failure(path, *failed);
+        const FileResult made =
+            AtomicFile::write(path, "Vidora", AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, m_layer);
+        if (made.failed())
+            error = failure(path, made);
     }
     completion(authorizationStatusForEntityType(type) == AuthorizationStatus::Authorized, error);
 }
@@ -321,10 +322,10 @@ std::optional<EventStoreError> FolderEventStore::writeFile(const QString& path, 
 {
     // A calendar that its owner shares with others stays shared.
     const bool shared = QFileInfo(path).permission(QFile::ReadOther);
-    const auto error =
+    const FileResult written =
         AtomicFile::write(path, bytes, shared ? AtomicFile::Access::Everyone : AtomicFile::Access::OwnerOnly,
                           AtomicFile::Durability::Synced, m_layer);
-    return error ? std::optional(failure(path, *error)) : std::nullopt;
+    return written.failed() ? std::optional(failure(path, written)) : std::nullopt;
 }
 
 std::optional<EventStoreError> FolderEventStore::removeFile(const Place& place, const QString& path)

@@ -151,7 +151,7 @@ void writeCache(const QString& path, const QCborMap& source, const std::vector<C
     QCborMap archive;
     archive.insert(sourceKey, source);
     archive.insert(channelsKey, QCborValue::fromVariant(list));
-    if (AtomicFile::write(path, archive.toCborValue().toCbor(), AtomicFile::Access::Everyone))
+    if (AtomicFile::write(path, archive.toCborValue().toCbor(), AtomicFile::Access::Everyone).failed())
         Log::line(QStringLiteral("catalogue: the filtered channels could not be kept"));
 }
 

@@ -72,7 +72,8 @@ private:
             ++m_fetched;
         const QString name = GuideImport::idOfChannel(channel.id).hex() + ending.value_or(QStringLiteral(".svg"));
         if (AtomicFile::write(m_folder + QLatin1Char('/') + name, bytes, AtomicFile::Access::Everyone,
-                              AtomicFile::Durability::Unsynced))
+                              AtomicFile::Durability::Unsynced)
+                .failed())
             Log::line(QStringLiteral("import: the icon of %1 can't be written").arg(title));
         const std::lock_guard lock(m_mutex);
         m_names.insert(channel.id, name);

@@ -125,9 +125,10 @@ std::variant<ImportReport, QString> GuideImport::import(const QString& source, c
         records.append(recordOf(channel, iconNames.value(channel.id)));
     }
     const QVariantMap catalogue{{QStringLiteral("Guide"), address->text()}, {QStringLiteral("Channels"), records}};
-    if (const auto error =
-            AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly))
-        return localized("The catalogue can't be written: %1").arg(error->text);
+    const FileResult written =
+        AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly);
+    if (written.failed())
+        return localized("The catalogue can't be written: %1").arg(written.text);
     return report;
 }
 

@@ -116,7 +116,7 @@ std::optional<ChannelIds> TVChannels::readFile() const
 void TVChannels::write(const ChannelIds& selection) const
 {
     // What the file does not hold must not reach the other devices either.
-    if (AtomicFile::write(m_path, archived(selection), AtomicFile::Access::OwnerOnly)) {
+    if (AtomicFile::write(m_path, archived(selection), AtomicFile::Access::OwnerOnly).failed()) {
         Log::line(QStringLiteral("TVChannels: the selection could not be written"));
         return;
     }

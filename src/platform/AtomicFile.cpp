@@ -106,8 +106,8 @@ FileLayer& FileLayer::system()
     return layer;
 }
 
-std::optional<FileError> AtomicFile::write(const QString& path, QByteArrayView bytes, Access access,
-                                           Durability durability, FileLayer& layer)
+FileResult AtomicFile::write(const QString& path, QByteArrayView bytes, Access access, Durability durability,
+                             FileLayer& layer)
 {
     const QString folder = QFileInfo(path).absolutePath();
     makeFolder(folder);
@@ -121,8 +121,8 @@ std::optional<FileError> AtomicFile::write(const QString& path, QByteArrayView b
     else if (synced)
         error = layer.syncFolder(folder);
     if (error == 0)
-        return std::nullopt;
-    FileError result{error, QString::fromStdString(std::generic_category().message(error))};
+        return {};
+    FileResult result{error, QString::fromStdString(std::generic_category().message(error))};
     Log::line(QStringLiteral("file %1 not written: %2").arg(path, result.text));
     return result;
 }

@@ -7,11 +7,13 @@
 
 namespace vidora {
 
-/// Why a file operation failed: the system's error number and its text.
-struct FileError
+/// How a file operation ended.
+struct [[nodiscard]] FileResult
 {
-    int code = 0;
-    QString text;
+    int code = 0; ///< 0 when it is done, otherwise the system's error number
+    QString text; ///< what the system says of that number
+
+    bool failed() const { return code != 0; }
 };
 
 /// The single steps out of which a file is written. A test puts in one that fails, tears or loses a step. Every
@@ -49,12 +51,10 @@ public:
     };
 
     /// Writes a new file beside `path`, brings it to the disk and renames it into place; missing folders are made,
-    /// readable by their owner alone. Nothing on success. On an error the file at `path` is the old one, except that a
-    /// failure of the very last step (the folder's sync) leaves the new one. Any thread; of two writers of one path
-    /// one wins as a whole.
-    static std::optional<FileError> write(const QString& path, QByteArrayView bytes, Access access,
-                                          Durability durability = Durability::Synced,
-                                          FileLayer& layer = FileLayer::system());
+    /// readable by their owner alone. After a failure the file at `path` is the old one, except that one of the very
+    /// last step (the folder's sync) leaves the new one. Any thread; of two writers of one path one wins as a whole.
+    static FileResult write(const QString& path, QByteArrayView bytes, Access access,
+                            Durability durability = Durability::Synced, FileLayer& layer = FileLayer::system());
 
     /// The whole of a regular file. Nothing when it is missing, can't be read, is longer than `maximumSize` bytes or is
     /// a folder, pipe or device. Any thread.
@@ -67,7 +67,7 @@ public:
 
     /// Moves a file that can't be understood out of the way, to PATH.unreadable, so that nothing of the user's is
     /// written over. False when that fails.
-    static bool setAside(const QString& path);
+    [[nodiscard]] static bool setAside(const QString& path);
 };
 
 } // namespace vidora

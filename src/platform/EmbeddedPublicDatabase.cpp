@@ -50,8 +50,8 @@ std::optional<PublicDatabaseError> EmbeddedPublicDatabase::run(const Prepare& pr
     std::optional<PublicDatabaseError> error;
     {
         // Made ahead of SQLite, which would leave it readable by everyone.
-        if (!QFileInfo::exists(m_path))
-            AtomicFile::write(m_path, {}, AtomicFile::Access::OwnerOnly);
+        if (!QFileInfo::exists(m_path) && AtomicFile::write(m_path, {}, AtomicFile::Access::OwnerOnly).failed())
+            return PublicDatabaseError{QStringLiteral("%1 can't be made").arg(m_path)};
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         database.setDatabaseName(m_path);
         if (!database.open()) {

@@ -41,10 +41,9 @@ bool isDamaged(const QSqlError& error)
 }
 
 /// Makes the file before SQLite does, which would leave it readable by everyone.
-void makeFile(const QString& path)
+bool makeFile(const QString& path)
 {
-    if (!QFileInfo::exists(path))
-        AtomicFile::write(path, {}, AtomicFile::Access::OwnerOnly);
+    return QFileInfo::exists(path) || !AtomicFile::write(path, {}, AtomicFile::Access::OwnerOnly).failed();
 }
 
 QCborValue decoded(const QVariant& column)
@@ -58,8 +57,9 @@ QCborValue decoded(const QVariant& column)
 
 } // namespace
 
-KeyValueStore::KeyValueStore(QString path)
+KeyValueStore::KeyValueStore(QString path, Milliseconds patience)
     : m_path(std::move(path))
+    , m_patience(patience)
     , m_writer(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
     synchronize();
@@ -73,6 +73,7 @@ bool KeyValueStore::withDatabase(const std::function<bool(QSqlDatabase&)>& work)
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         database.setDatabaseName(m_path);
+        database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(m_patience.count()));
         result = open(database) && work(database);
     }
     QSqlDatabase::removeDatabase(name);
@@ -82,7 +83,8 @@ bool KeyValueStore::withDatabase(const std::function<bool(QSqlDatabase&)>& work)
 bool KeyValueStore::open(QSqlDatabase& database)
 {
     for (int attempt = 0; attempt < 2; ++attempt) {
-        makeFile(m_path);
+        if (!makeFile(m_path))
+            return false;
         if (!database.open()) {
             Log::line(QStringLiteral("key-value store: %1").arg(database.lastError().text()));
             return false;

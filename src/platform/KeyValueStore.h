@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Instant.h"
+
 #include <QByteArray>
 #include <QCborArray>
 #include <QCborMap>
@@ -36,8 +38,9 @@ public:
     using ChangedExternally = std::function<void(ChangeReason reason, const QStringList& changedKeys)>;
 
     /// Opens or makes the database, readable by its owner alone. One that is damaged is moved aside. One that can't be
-    /// opened at all leaves a store that keeps its values in memory and tries again at each write and `synchronize`.
-    explicit KeyValueStore(QString path);
+    /// opened at all or is locked leaves a store that keeps its values in memory and tries again at each write and
+    /// `synchronize`. `patience`: how long a database that another connection has locked is waited for, each time.
+    explicit KeyValueStore(QString path, Milliseconds patience = Seconds(5));
 
     std::optional<QCborValue> objectForKey(const QString& key) const;
     /// Each of these gives nothing for a value of another kind; numbers and bools then are 0 and false.
@@ -67,6 +70,7 @@ private:
     bool withDatabase(const std::function<bool(QSqlDatabase&)>& work);
 
     const QString m_path;
+    const Milliseconds m_patience;
     const QString m_writer; ///< tells this instance's own rows from those of others
     mutable std::mutex m_mutex;
     QHash<QString, QCborValue> m_values;

@@ -31,7 +31,7 @@ QJsonObject readSecrets(const QString& file)
 
 bool writeSecrets(const QString& file, const QJsonObject& secrets)
 {
-    return !AtomicFile::write(file, QJsonDocument(secrets).toJson(), AtomicFile::Access::OwnerOnly);
+    return !AtomicFile::write(file, QJsonDocument(secrets).toJson(), AtomicFile::Access::OwnerOnly).failed();
 }
 
 } // namespace

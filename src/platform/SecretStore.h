@@ -17,9 +17,9 @@ public:
     /// Nothing when there is none, or none can be had.
     virtual std::optional<QString> secret(const QString& account) = 0;
     /// False when it could not be kept.
-    virtual bool setSecret(const QString& account, const QString& secret) = 0;
+    [[nodiscard]] virtual bool setSecret(const QString& account, const QString& secret) = 0;
     /// True when there is none any more.
-    virtual bool removeSecret(const QString& account) = 0;
+    [[nodiscard]] virtual bool removeSecret(const QString& account) = 0;
 };
 
 /// One file that nobody but its owner can read. Two processes must not write one file at the same time.

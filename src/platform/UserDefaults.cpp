@@ -163,7 +163,7 @@ bool UserDefaults::synchronize()
     if (m_unreadable && !AtomicFile::setAside(m_path))
         return false;
     const QByteArray bytes = QJsonDocument(m_values).toJson(QJsonDocument::Indented);
-    if (AtomicFile::write(m_path, bytes, AtomicFile::Access::OwnerOnly))
+    if (AtomicFile::write(m_path, bytes, AtomicFile::Access::OwnerOnly).failed())
         return false;
     m_changes.clear();
     return true;

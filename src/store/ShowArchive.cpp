@@ -166,7 +166,8 @@ bool ShowArchive::archiveRootObject(const ShowList& list, const QString& toFile,
 {
     // A list lost with the power is fetched again, so nobody waits for the disk here.
     return !AtomicFile::write(toFile, archivedData(list), AtomicFile::Access::OwnerOnly,
-                              AtomicFile::Durability::Unsynced, files);
+                              AtomicFile::Durability::Unsynced, files)
+                .failed();
 }
 
 ShowList ShowArchive::unarchiveObjectWithFile(const QString& file)

@@ -1,6 +1,7 @@
 #include "alarms/TVShows.h"
 
 #include <QCborArray>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -144,6 +145,22 @@ TEST_F(TVShowsTest, AFileThatCantBeReadIsMovedAsideAheadOfTheNextWrite)
     shows->waitForWrites();
     EXPECT_TRUE(unarchivedFavorites(file()));
     EXPECT_TRUE(QFile::exists(path() + QStringLiteral(".unreadable")));
+}
+
+TEST_F(TVShowsTest, AFileThatCantBeMovedAsideIsNotWrittenOver)
+{
+    const QByteArray unreadable("from a later version");
+    writeFile(unreadable);
+    ASSERT_TRUE(QDir().mkpath(path() + QStringLiteral(".unreadable/in the way")));
+    const auto shows = start();
+    EXPECT_FALSE(shows->favorites());
+    shows->setFavorites({favorite(QStringLiteral("Vesti"))});
+    shows->waitForWrites();
+    EXPECT_EQ(file(), unreadable);
+    ASSERT_TRUE(QDir(path() + QStringLiteral(".unreadable")).removeRecursively());
+    shows->setFavorites({favorite(QStringLiteral("Dnevnik"))});
+    shows->waitForWrites();
+    EXPECT_TRUE(unarchivedFavorites(file()));
 }
 
 } // namespace vidora

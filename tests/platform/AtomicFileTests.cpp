@@ -6,7 +6,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace vidora;
 
@@ -19,12 +22,12 @@ TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
     for (int failingStep = 0; !completed; ++failingStep) {
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("list"));
-        ASSERT_FALSE(AtomicFile::write(path, old, AtomicFile::Access::OwnerOnly));
+        ASSERT_FALSE(AtomicFile::write(path, old, AtomicFile::Access::OwnerOnly).failed());
         test::FaultyFileLayer layer(failingStep);
-        const auto error =
+        const FileResult result =
             AtomicFile::write(path, fresh, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
         completed = !layer.failed();
-        EXPECT_EQ(completed, !error.has_value()) << failingStep;
+        EXPECT_EQ(completed, !result.failed()) << failingStep;
         const auto found = AtomicFile::read(path, 1000);
         ASSERT_TRUE(found) << failingStep;
         const bool renamed = completed || failingStep == 5;
@@ -33,23 +36,60 @@ TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
     }
 }
 
+/// While it lives, no file of this process grows beyond a size: the system writes what fits, and fails thereafter.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t size)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{size, m_former.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_former);
+        std::signal(SIGXFSZ, m_formerHandler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_former = {};
+    const sighandler_t m_formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+TEST(AtomicFile, KeepsTheOldFileWhereTheNewOneFindsNoRoom)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("list"));
+    const QByteArray fits(4096, 'a');
+    ASSERT_FALSE(AtomicFile::write(path, "old", AtomicFile::Access::OwnerOnly).failed());
+    const FileSizeLimit limit(fits.size());
+    EXPECT_EQ(AtomicFile::write(path, QByteArray(4097, 'b'), AtomicFile::Access::OwnerOnly).code, EFBIG);
+    EXPECT_EQ(AtomicFile::read(path, 10'000), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("list")));
+    EXPECT_FALSE(AtomicFile::write(path, fits, AtomicFile::Access::OwnerOnly).failed());
+    EXPECT_EQ(AtomicFile::read(path, 10'000), fits);
+}
+
 TEST(AtomicFile, IsReadableByItsOwnerAloneWhereAskedTo)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("new/folder/list"));
-    ASSERT_FALSE(AtomicFile::write(path, "a", AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(path, "a", AtomicFile::Access::OwnerOnly).failed());
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
     EXPECT_EQ(QFile::permissions(folder.filePath(QStringLiteral("new"))) & QFile::ExeOther, QFile::Permissions());
-    ASSERT_FALSE(AtomicFile::write(path, "b", AtomicFile::Access::Everyone, AtomicFile::Durability::Unsynced));
+    ASSERT_FALSE(AtomicFile::write(path, "b", AtomicFile::Access::Everyone, AtomicFile::Durability::Unsynced).failed());
     EXPECT_TRUE(QFile::permissions(path) & QFile::ReadOther);
-    EXPECT_TRUE(AtomicFile::write(QStringLiteral("/proc/nowhere/list"), "a", AtomicFile::Access::Everyone));
+    EXPECT_TRUE(AtomicFile::write(QStringLiteral("/proc/nowhere/list"), "a", AtomicFile::Access::Everyone).failed());
 }
 
 TEST(AtomicFile, ReadsRegularFilesUpToTheLimitOnly)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("list"));
-    ASSERT_FALSE(AtomicFile::write(path, "12345", AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(path, "12345", AtomicFile::Access::OwnerOnly).failed());
     EXPECT_EQ(AtomicFile::read(path, 5), QByteArray("12345"));
     EXPECT_FALSE(AtomicFile::read(path, 4));
     EXPECT_FALSE(AtomicFile::read(folder.path(), 100));
@@ -61,7 +101,8 @@ TEST(AtomicFile, RemovesOnlyLeftovers)
 {
     QTemporaryDir folder;
     for (const char* name : {"list", "list.partial-1f", ".synchronized"})
-        ASSERT_FALSE(AtomicFile::write(folder.filePath(QLatin1String(name)), "a", AtomicFile::Access::OwnerOnly));
+        ASSERT_FALSE(
+            AtomicFile::write(folder.filePath(QLatin1String(name)), "a", AtomicFile::Access::OwnerOnly).failed());
     AtomicFile::removeLeftovers(folder.path());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name),
               QStringList({QStringLiteral(".synchronized"), QStringLiteral("list")}));

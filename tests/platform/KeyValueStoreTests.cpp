@@ -2,6 +2,8 @@
 #include "platform/KeyValueStore.h"
 
 #include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -81,22 +83,45 @@ TEST_F(KeyValueStoreTest, TellsOfOthersChangesButNotOfItsOwn)
 
 TEST_F(KeyValueStoreTest, SetsADamagedDatabaseAsideAndKeepsWhatItHolds)
 {
-    ASSERT_FALSE(AtomicFile::write(path, QByteArray(5000, 'x'), AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(path, QByteArray(5000, 'x'), AtomicFile::Access::OwnerOnly).failed());
     KeyValueStore store(path);
     store.setObject(5, favorites);
     EXPECT_EQ(KeyValueStore(path).longLongForKey(favorites), 5);
     EXPECT_TRUE(QFile::exists(path + QStringLiteral(".unreadable")));
 
-    ASSERT_FALSE(AtomicFile::write(path, QByteArray(5000, 'y'), AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(path, QByteArray(5000, 'y'), AtomicFile::Access::OwnerOnly).failed());
     store.setObject(6, channels);
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(KeyValueStore(path).longLongForKey(favorites), 5);
 }
 
+TEST_F(KeyValueStoreTest, LeavesADatabaseThatAnotherHasLockedWhereItIs)
+{
+    KeyValueStore(path).setObject(5, favorites);
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
+        other.setDatabaseName(path);
+        ASSERT_TRUE(other.open());
+        QSqlQuery query(other);
+        ASSERT_TRUE(query.exec(QStringLiteral("BEGIN EXCLUSIVE")));
+        KeyValueStore store(path, Milliseconds(0));
+        EXPECT_FALSE(store.objectForKey(favorites));
+        store.setObject(6, channels);
+        EXPECT_FALSE(store.synchronize());
+        EXPECT_FALSE(QFile::exists(path + QStringLiteral(".unreadable")));
+
+        ASSERT_TRUE(query.exec(QStringLiteral("COMMIT")));
+        EXPECT_TRUE(store.synchronize());
+        EXPECT_EQ(store.longLongForKey(favorites), 5);
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("other"));
+    EXPECT_EQ(KeyValueStore(path).longLongForKey(channels), 6);
+}
+
 TEST_F(KeyValueStoreTest, WritesLaterWhatCouldNotBeWritten)
 {
     const QString later = folder.filePath(QStringLiteral("later"));
-    ASSERT_FALSE(AtomicFile::write(later, "not a folder", AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(later, "not a folder", AtomicFile::Access::OwnerOnly).failed());
     KeyValueStore store(later + QStringLiteral("/shared.sqlite"));
     store.setObject(5, favorites);
     EXPECT_EQ(store.longLongForKey(favorites), 5);

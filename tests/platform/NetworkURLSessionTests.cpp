@@ -253,7 +253,7 @@ TEST_F(NetworkURLSessionTest, FetchesFromTheWebAloneAndFilesOnlyWhereAllowed)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("my guide.xz"));
-    ASSERT_FALSE(AtomicFile::write(path, QByteArrayView("\3757zXZ\0rest", 10), AtomicFile::Access::OwnerOnly));
+    ASSERT_FALSE(AtomicFile::write(path, QByteArrayView("\3757zXZ\0rest", 10), AtomicFile::Access::OwnerOnly).failed());
     URLRequest file(*URL::fromText(QString(QStringLiteral("file://") + path)));
     EXPECT_TRUE(session.perform(file).error);
     file.allowsFile = true;

@@ -14,7 +14,10 @@ namespace {
 class UserDefaultsTest : public ::testing::Test
 {
 protected:
-    void write(QByteArrayView bytes) { ASSERT_FALSE(AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly)); }
+    void write(QByteArrayView bytes)
+    {
+        ASSERT_FALSE(AtomicFile::write(path, bytes, AtomicFile::Access::OwnerOnly).failed());
+    }
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("settings.json"));
 };
