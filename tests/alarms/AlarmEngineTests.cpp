@@ -41,8 +41,13 @@ TEST_F(AlarmTest, ManyFavouritesDoNotHoldUpARemoval)
 
 TEST_F(AlarmTest, AFavouriteAlarmRingsForEachBroadcastThatIsStillToCome)
 {
-    update(one,
-           {{news, -10, 20}, {news, 5, 20}, {news, 10, 30}, {news, 11, 40}, {news.toUpper(), 60, 90}, {film, 90, 120}});
+    update(one, {{news, -10, 20},
+                 {news, 0, 20},
+                 {news, 5, 20},
+                 {news, 10, 30},
+                 {news, 11, 40},
+                 {news.toUpper(), 60, 90},
+                 {film, 90, 120}});
     // Not a favourite: no favourite changes, and no event is made.
     engine->setAlarmForTitle(news, 10, std::nullopt, true);
     settle();
@@ -180,6 +185,10 @@ TEST_F(AlarmTest, AlertsAreTheShowsForWhichAnAlarmWillSound)
             stored.alarms = {};
         put(stored);
     }
+    EXPECT_EQ(alerts(), QStringList{QStringLiteral("60")});
+    setSilent(40, 55); // the alarm sounds at 50
+    EXPECT_EQ(alerts(), QStringList());
+    setSilent(55, 80);
     EXPECT_EQ(alerts(), QStringList{QStringLiteral("60")});
     calendars.setUnreadable(true);
     EXPECT_EQ(alerts(), QStringList());

@@ -2,6 +2,7 @@
 
 #include "alarms/AlarmEngine.h"
 #include "calendar/MemoryEventStore.h"
+#include "platform/DeviceSettings.h"
 #include "platform/EmbeddedPublicDatabase.h"
 #include "store/StoreFixture.h"
 
@@ -27,7 +28,7 @@ protected:
     }
 
     /// Starts the alarms and the store anew over the same folder and calendars.
-    void start()
+    void start(bool readOnly = false)
     {
         listings.reset();
         engine.reset();
@@ -35,7 +36,7 @@ protected:
         alarms.emplace(folder.path());
         engine = std::make_unique<AlarmEngine>(AlarmSurroundings{clock, *shows, *alarms, silentHours, counters,
                                                                  calendars, defaults, keyValueStore, device, *this,
-                                                                 *this, QStringLiteral("vidora")});
+                                                                 *this, QStringLiteral("vidora"), readOnly});
         listings = std::make_unique<TVListings>(
             TVListings::Surroundings{clock, folder.path(), device, icons, *engine, device, QStringLiteral("vidora")});
         engine->setListings(*listings);
@@ -63,6 +64,15 @@ protected:
         engine->setSynchronized(false);
         engine->syncAlarms();
         settle();
+    }
+    /// From one minute to another, counted from testNow.
+    void setSilent(int from, int to)
+    {
+        const QTimeZone zone = DeviceSettings::timeZone();
+        const QTime now = SilentHours::timeOf(testNow, zone); // 19:00 UTC is 15:30 at the device
+        silentHours.setFromTimestamp(SilentHours::timestampOf(now.addSecs(from * 60), zone));
+        silentHours.setToTimestamp(SilentHours::timestampOf(now.addSecs(to * 60), zone));
+        silentHours.setEnabled(true);
     }
     void favorite(const QString& title, int minutes, std::optional<bool> shown = {})
     {

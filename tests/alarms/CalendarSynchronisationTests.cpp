@@ -1,5 +1,4 @@
 #include "alarms/AlarmFixture.h"
-#include "platform/DeviceSettings.h"
 
 namespace vidora {
 
@@ -30,11 +29,11 @@ TEST_F(AlarmTest, AnEventFollowsItsBroadcastAtTheNextUpdate)
     EXPECT_EQ(calendars.committedEvents().front().eventIdentifier, made.eventIdentifier);
     EXPECT_EQ(calendars.committedEvents().front().endDate, testNow + std::chrono::minutes(125));
 
-    // To another channel, nearest first; by five hours it is another broadcast.
+    // To another channel, nearest first and of two as near the first; by five hours it is another broadcast.
     update(one, {});
-    update(two, {{news, 0, 20}, {news, 80, 110}, {news, 110, 140}});
+    update(two, {{news, 0, 20}, {news, 80, 100}, {news, 100, 140}});
     EXPECT_EQ(seen(),
-              (QStringList{QStringLiteral("Dnevnik at 80 on Two -5"), QStringLiteral("Dnevnik at 110 on Two -10")}));
+              (QStringList{QStringLiteral("Dnevnik at 80 on Two -5"), QStringLiteral("Dnevnik at 100 on Two -10")}));
     update(two, {{news, 420, 440}});
     EXPECT_EQ(seen(), QStringList{QStringLiteral("Dnevnik at 420 on Two -10")});
 
@@ -44,6 +43,50 @@ TEST_F(AlarmTest, AnEventFollowsItsBroadcastAtTheNextUpdate)
     start();
     EXPECT_EQ(calendars.writeCount(), writes);
     EXPECT_EQ(engine->eventCount(), 1);
+    EXPECT_GT(device.lastTask, 0u) << "the process stays until it is done";
+    EXPECT_TRUE(device.tasks.empty());
+}
+
+TEST_F(AlarmTest, WhatAnotherProcessWritesToIsOnlyLookedAt)
+{
+    update(one, {{news, 60, 90}});
+    favorite(news, 10);
+    put(event(QStringLiteral("No place"), 100, QString(), QStringLiteral("vidora://host/1")));
+    const QStringList before = seen();
+    const int writes = calendars.writeCount();
+
+    start(true);
+    update(one, {{news, 300, 330}});
+    engine->setAlarmForTitle(news, 20, std::nullopt, true);
+    engine->setAlarmForTitle(news, one, testNow + std::chrono::minutes(300), std::nullopt, 5, true, true);
+    engine->removeAlarmForTitle(news, one, testNow + std::chrono::minutes(60), true, true);
+    engine->removeAlarmForTitle(news, true, true);
+    engine->removeAllEvents();
+    sync();
+    EXPECT_EQ(seen(), before);
+    EXPECT_EQ(calendars.writeCount(), writes);
+    EXPECT_EQ(engine->eventCount(), 2) << "those of the calendar are shown";
+    EXPECT_EQ(engine->alarmedIdentificatorType(news)->minutes, 10);
+    calendars.setAuthorizationStatus(AuthorizationStatus::NotDetermined, true);
+    sync();
+    EXPECT_EQ(calendars.authorizationStatusForEntityType(EntityType::Event), AuthorizationStatus::NotDetermined);
+}
+
+TEST_F(AlarmTest, InTheBackgroundTheSettingsAreWrittenWithTheCalendar)
+{
+    const auto writes = [this](const std::function<void()>& act) {
+        device.settingsSyncs = 0;
+        act();
+        settle();
+        return device.settingsSyncs > 0;
+    };
+    update(one, {{news, 60, 90}});
+    favorite(news, 10);
+    EXPECT_FALSE(writes([&] { sync(); }));
+    device.inBackground = true;
+    EXPECT_TRUE(writes([&] { sync(); }));
+    EXPECT_TRUE(writes([&] { engine->removeAlarmForTitle(news, true, true); }));
+    EXPECT_TRUE(writes([&] { engine->setAlarmForTitle(news, 5, std::nullopt, true); }));
 }
 
 TEST_F(AlarmTest, ABroadcastShownTwiceHasOneEvent)
@@ -118,14 +161,7 @@ TEST_F(AlarmTest, SilentHoursTakeFavouriteAlarmsAwayAndLeaveThoseSetByHand)
     settle();
     ASSERT_EQ(seen().size(), 3);
 
-    const QTimeZone zone = DeviceSettings::timeZone();
-    const auto setSilent = [&](int from, int to) {
-        const QTime now = SilentHours::timeOf(testNow, zone);
-        silentHours.setFromTimestamp(SilentHours::timestampOf(now.addSecs(from * 60), zone));
-        silentHours.setToTimestamp(SilentHours::timestampOf(now.addSecs(to * 60), zone));
-        silentHours.setEnabled(true);
-    };
-    setSilent(40, 80); // 19:00 UTC is 15:30 at the device
+    setSilent(40, 80);
     sync();
     EXPECT_EQ(seen(),
               (QStringList{QStringLiteral("Film at 90 on One -15"), QStringLiteral("Dnevnik at 600 on One -10")}));

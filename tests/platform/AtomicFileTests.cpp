@@ -28,6 +28,7 @@ TEST(AtomicFile, KeepsTheOldOrTheNewFileWhicheverStepFails)
             AtomicFile::write(path, fresh, AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, layer);
         completed = !layer.failed();
         EXPECT_EQ(completed, !result.failed()) << failingStep;
+        EXPECT_EQ(completed, result.text.isEmpty()) << failingStep;
         const auto found = AtomicFile::read(path, 1000);
         ASSERT_TRUE(found) << failingStep;
         const bool renamed = completed || failingStep == 5;

@@ -164,6 +164,10 @@ TEST_F(ShowQueriesTest, EveningShowsStartInTheEveningOfTheDevice)
                 {"0:00"_s, 510, 600},
                 {"19:10 next day"_s, 1660, 1700}});
     EXPECT_EQ(inAll(category::evening), QStringList({"19:00"_s, "23:59"_s, "19:10 next day"_s}));
+    clock.advance(std::chrono::minutes(300)); // the first ends now
+    EXPECT_EQ(inAll(category::evening), QStringList({"19:00"_s, "23:59"_s, "19:10 next day"_s}));
+    clock.advance(std::chrono::minutes(1));
+    EXPECT_EQ(inAll(category::evening), QStringList({"23:59"_s, "19:10 next day"_s}));
 }
 
 TEST_F(ShowQueriesTest, PopularShowsAreThoseThatAreNotOver)
