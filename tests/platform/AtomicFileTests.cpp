@@ -86,6 +86,19 @@ TEST(AtomicFile, IsReadableByItsOwnerAloneWhereAskedTo)
     EXPECT_TRUE(AtomicFile::write(QStringLiteral("/proc/nowhere/list"), "a", AtomicFile::Access::Everyone).failed());
 }
 
+TEST(AtomicFile, WaitsForTheDiskOnlyWhereAskedTo)
+{
+    QTemporaryDir folder;
+    const auto steps = [&](AtomicFile::Durability durability) {
+        test::FaultyFileLayer layer;
+        EXPECT_FALSE(AtomicFile::write(folder.filePath(QStringLiteral("list")), "a", AtomicFile::Access::OwnerOnly,
+                                       durability, layer)
+                         .failed());
+        return layer.steps;
+    };
+    EXPECT_EQ(steps(AtomicFile::Durability::Synced), steps(AtomicFile::Durability::Unsynced) + 2) << "file and folder";
+}
+
 TEST(AtomicFile, ReadsRegularFilesUpToTheLimitOnly)
 {
     QTemporaryDir folder;
@@ -96,6 +109,9 @@ TEST(AtomicFile, ReadsRegularFilesUpToTheLimitOnly)
     EXPECT_FALSE(AtomicFile::read(folder.path(), 100));
     EXPECT_FALSE(AtomicFile::read(QStringLiteral("/dev/zero"), 100));
     EXPECT_FALSE(AtomicFile::read(folder.filePath(QStringLiteral("missing")), 100));
+    EXPECT_EQ(AtomicFile::readStart(path, 4), QByteArray("1234"));
+    EXPECT_FALSE(AtomicFile::readStart(folder.path(), 100));
+    EXPECT_FALSE(AtomicFile::readStart(folder.filePath(QStringLiteral("missing")), 100));
 }
 
 TEST(AtomicFile, RemovesOnlyLeftovers)

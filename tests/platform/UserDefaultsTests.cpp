@@ -74,6 +74,9 @@ TEST_F(UserDefaultsTest, MergesWithWhatAnotherWrote)
     EXPECT_FALSE(other.boolForKey(QStringLiteral("colorizedShows")));
     EXPECT_TRUE(other.synchronize());
     EXPECT_TRUE(other.boolForKey(QStringLiteral("colorizedShows")));
+    EXPECT_EQ(other.stringArrayForKey(QStringLiteral("list")), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    other.setObject(QJsonArray{QStringLiteral("a"), 1}, QStringLiteral("list"));
+    EXPECT_FALSE(other.stringArrayForKey(QStringLiteral("list"))) << "not of texts alone";
     other.removeObjectForKey(QStringLiteral("colorizedShows"));
     other.setDouble(std::numeric_limits<double>::infinity(), QStringLiteral("list"));
     EXPECT_TRUE(other.synchronize());
