@@ -79,7 +79,7 @@ bool Device::hasOwnGuide() const
     return QFile::exists(ownCatalogue(m_folders));
 }
 
-Device::Device(const CommandLine& line, Access access, bool wantsNetwork, TVListings::Loading loading)
+Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
     , m_calendarNetwork(maximumCalendarAnswer)
@@ -100,7 +100,7 @@ Device::Device(const CommandLine& line, Access access, bool wantsNetwork, TVList
         m_folders, own ? ownCatalogue(m_folders) : resources() + QLatin1String("/Data.plist"),
         own ? ownIcons(m_folders) : resources() + QLatin1String("/icons"),
         readEndpoints(wantsNetwork, line.clock, guide), QString(scheme), *m_clock, m_random, m_sleeper, *m_guideSession,
-        false, m_lock->outcome() == HomeLock::Outcome::Second, m_eventStore.get(), m_publicDatabase.get(), loading});
+        false, m_lock->outcome() == HomeLock::Outcome::Second, m_eventStore.get(), m_publicDatabase.get()});
     m_delegate->applicationDidFinishLaunching();
     watchSystem();
 }

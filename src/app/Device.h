@@ -31,8 +31,7 @@ public:
     };
 
     /// `wantsNetwork`: the command may fetch. Starts the sample region when there is no guide of the user's own.
-    Device(const CommandLine& line, Access access, bool wantsNetwork,
-           TVListings::Loading loading = TVListings::Loading::AtOnce);
+    Device(const CommandLine& line, Access access, bool wantsNetwork);
     ~Device();
 
     VidoraAppDelegate& delegate() { return *m_delegate; }

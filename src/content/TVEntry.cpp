@@ -85,7 +85,12 @@ TVEntry::~TVEntry() = default;
 
 const TVEntry::Text& TVEntry::title() const
 {
-    return m_channel == channelWithTitlesInSubtitles() ? m_subtitle : m_title;
+    return showsSubtitleAsTitle(m_channel) ? m_subtitle : m_title;
+}
+
+bool TVEntry::showsSubtitleAsTitle(const ObjectId& channel)
+{
+    return channel == channelWithTitlesInSubtitles();
 }
 
 void TVEntry::setIdentificator(const QString& text)

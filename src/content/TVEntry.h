@@ -35,6 +35,8 @@ public:
 
     /// Shown title. For the one channel whose schedule carries its titles in the second line, the shown subtitle.
     const Text& title() const;
+    /// Whether this is that channel.
+    static bool showsSubtitleAsTitle(const ObjectId& channel);
     const Text& instantDetails() const { return m_instantDetails; }
     const Text& subtitle() const { return m_subtitle; }
     const Text& instantDescription() const { return m_instantDescription; }

@@ -128,7 +128,6 @@ void VidoraAppDelegate::makeStore()
         .followed = *m_alarmEngine,
         .application = *m_storeServices,
         .scheme = m_environment.scheme,
-        .loading = m_environment.loading,
     });
     m_alarmEngine->setListings(*m_listings);
     m_fetcher =

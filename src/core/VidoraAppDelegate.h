@@ -53,7 +53,6 @@ struct Environment
     bool readOnly = false;                    ///< another process owns the home: nothing is written
     EventStore* eventStore = nullptr;         ///< null: the user has no calendar
     PublicDatabase* publicDatabase = nullptr; ///< null: nobody counts
-    TVListings::Loading loading = TVListings::Loading::AtOnce;
 };
 
 /// The root object: creates the central objects at launch, holds them for the whole run, is the only receiver of the

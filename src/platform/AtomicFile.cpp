@@ -138,15 +138,6 @@ std::optional<QByteArray> AtomicFile::read(const QString& path, qint64 maximumSi
     return bytes;
 }
 
-std::optional<QByteArray> AtomicFile::readStart(const QString& path, qint64 size)
-{
-    QFile file;
-    if (!openRegular(file, path))
-        return std::nullopt;
-    QByteArray bytes = file.read(size);
-    return file.error() == QFileDevice::NoError ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
 void AtomicFile::removeLeftovers(const QString& folder)
 {
     QDir directory(folder);

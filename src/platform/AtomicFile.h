@@ -59,8 +59,6 @@ public:
     /// The whole of a regular file. Nothing when it is missing, can't be read, is longer than `maximumSize` bytes or is
     /// a folder, pipe or device. Any thread.
     static std::optional<QByteArray> read(const QString& path, qint64 maximumSize);
-    /// The same of at most the first `size` bytes of a file of any length.
-    static std::optional<QByteArray> readStart(const QString& path, qint64 size);
 
     /// Removes what writers that were killed half-way left in a folder. Only while nobody writes there: at launch.
     static void removeLeftovers(const QString& folder);

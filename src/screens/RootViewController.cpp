@@ -53,8 +53,6 @@ void RootViewController::viewDidAppear()
 {
     if (m_channelEntriesLoaded && !m_modifiedSelectedChannels)
         return;
-    if (!m_hasContent)
-        showFirstRows();
     selectedChannelsChanged();
     if (!m_modifiedSelectedChannels)
         return;
@@ -91,17 +89,6 @@ void RootViewController::selectedChannelsChanged()
         DispatchQueue::main(),
         m_mainBlocks.guarded([this, sections = sectionsOf(m_delegate.channels().selected()),
                               pause](std::vector<ShowList> entries) { show(sections, std::move(entries)); }));
-}
-
-// The lists may take long to load. What the beginnings of their files tell stands there until then.
-void RootViewController::showFirstRows()
-{
-    m_delegate.listings().onAirShowsOfFilesWithQueue(
-        DispatchQueue::main(), m_mainBlocks.guarded([this, sections = sectionsOf(m_delegate.channels().selected())](
-                                                        std::vector<ShowList> entries) {
-            if (!m_hasContent)
-                show(sections, std::move(entries));
-        }));
 }
 
 void RootViewController::show(Sections sections, std::vector<ShowList> entries)

@@ -63,7 +63,6 @@ private:
     using Sections = std::vector<Section>;
     /// The channels with their faces, and without shows.
     Sections sectionsOf(const std::vector<ObjectId>& channels) const;
-    void showFirstRows();
     void show(Sections sections, std::vector<ShowList> entries);
     ScreenRow headerRow(const Section& section) const;
     AttributedText updatedText(const ObjectId& channel) const;

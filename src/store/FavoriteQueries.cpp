@@ -7,19 +7,30 @@ namespace {
 
 constexpr std::size_t maximumShows = 2000;
 
+auto endsLaterThan(Instant now)
+{
+    return [now](const ShowTable& table, ShowTable::Row row) { return table.endsAfter(row, now); };
+}
+
 /// The favourites' broadcasts whose rows fit, in order, up to the maximum.
 template<typename Fits>
 ShowList favoriteShows(const MergedShows& merged, const QSet<QString>& lowercasedNames, Fits fits)
 {
+    QSet<std::uint32_t> marks;
+    for (const QString& name : lowercasedNames)
+        marks.insert(ShowTable::markOf(name));
     ShowList result;
-    if (lowercasedNames.isEmpty())
+    if (marks.isEmpty())
         return result;
-    for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
-        const Show& show = (*merged.shows)[i];
+    for (auto place = merged.places().begin(); place != merged.places().end() && result.size() < maximumShows;
+         ++place) {
+        const ShowTable& table = merged.tableOf(*place);
+        if (!fits(table, place->row) || !marks.contains(table.nameMarkOf(place->row)))
+            continue;
         // By the raw title: the shown one follows the alphabet of the device.
-        const auto& title = show->entry->lowercasedIdentificator();
-        if (fits(merged.rows[i]) && title && lowercasedNames.contains(*title))
-            result.push_back(show);
+        Show show = table.show(place->row);
+        if (show && lowercasedNames.contains(*show->entry->lowercasedIdentificator()))
+            result.push_back(std::move(show));
     }
     return result;
 }
@@ -28,19 +39,16 @@ ShowList favoriteShows(const MergedShows& merged, const QSet<QString>& lowercase
 
 void TVListings::favoritesScheduleWithBlock(ShowsBlock block)
 {
-    m_listingsDictionaryAccessQueue->async([this, block = std::move(block)] {
-        const Instant now = m_surroundings.clock.now();
+    read([this, block = std::move(block)](const ListingsDictionary& lists, Instant now) {
         block(std::make_shared<const ShowList>(
-            favoriteShows(dictionary()->merged(), m_surroundings.followed.lowercasedFavoriteNames(),
-                          [now](const MergedShows::Row& row) { return row.end > now; })));
+            favoriteShows(lists.merged(), m_surroundings.followed.lowercasedFavoriteNames(), endsLaterThan(now))));
     });
 }
 
 void TVListings::favoritesScheduleWithPriority(QualityOfService priority, CompoundBlock mainBlock)
 {
     const auto query = [this](const ListingsDictionary& lists, Instant now) {
-        return favoriteShows(lists.merged(), m_surroundings.followed.lowercasedFavoriteNames(),
-                             [now](const MergedShows::Row& row) { return row.end > now; });
+        return favoriteShows(lists.merged(), m_surroundings.followed.lowercasedFavoriteNames(), endsLaterThan(now));
     };
     compoundQuery(query, priority, std::move(mainBlock));
 }
@@ -48,18 +56,18 @@ void TVListings::favoritesScheduleWithPriority(QualityOfService priority, Compou
 void TVListings::favoritesScheduleWithPartialAllowed(bool, URLBlock block)
 {
     // Without favourites no show is looked at, whether or not the caller would take part of the answer.
-    m_listingsDictionaryAccessQueue->async([this, scheme = m_surroundings.scheme, block = std::move(block)] {
-        const Instant now = m_surroundings.clock.now();
-        auto shows = std::make_shared<const ShowList>(
-            favoriteShows(dictionary()->merged(), m_surroundings.followed.lowercasedFavoriteNames(),
-                          [now](const MergedShows::Row& row) { return row.start > now; }));
-        auto byURL = std::make_shared<ShowsByURL>();
-        for (const Show& show : *shows) {
-            if (const auto url = show->entry->urlDigestWithScheme(scheme))
-                byURL->insert_or_assign(*url, show);
-        }
-        block(std::move(shows), std::move(byURL));
-    });
+    read(
+        [this, scheme = m_surroundings.scheme, block = std::move(block)](const ListingsDictionary& lists, Instant now) {
+            auto shows = std::make_shared<const ShowList>(
+                favoriteShows(lists.merged(), m_surroundings.followed.lowercasedFavoriteNames(),
+                              [now](const ShowTable& table, ShowTable::Row row) { return table.startOf(row) > now; }));
+            auto byURL = std::make_shared<ShowsByURL>();
+            for (const Show& show : *shows) {
+                if (const auto url = show->entry->urlDigestWithScheme(scheme))
+                    byURL->insert_or_assign(*url, show);
+            }
+            block(std::move(shows), std::move(byURL));
+        });
 }
 
 } // namespace vidora

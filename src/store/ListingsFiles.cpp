@@ -81,20 +81,24 @@ void TVListings::writeScheduledFiles()
     // Lists are put into the dictionary before they are scheduled, but by another queue: wait for those on their way.
     std::shared_ptr<const ListingsDictionary> lists;
     m_listingsDictionaryAccessQueue->sync([&] { lists = dictionary(); });
-    const Instant now = m_surroundings.clock.now();
-    for (const ObjectId& channel : m_scheduledForSaving) {
-        const ShowList list = cutThePast(lists->list(channel), now);
-        if (!list.empty())
-            writeFile(channel, list);
-    }
+    for (const ObjectId& channel : m_scheduledForSaving)
+        writeFile(channel, *lists);
     m_scheduledForSaving.clear();
 }
 
-void TVListings::writeFile(const ObjectId& channel, const ShowList& list) const
+void TVListings::writeFile(const ObjectId& channel, const ListingsDictionary& lists) const
 {
+    const Instant now = m_surroundings.clock.now();
+    const SharedShowTable list = channel == ObjectId::popular()
+                                     ? ShowTable::make(lists.popular() ? *lists.popular() : ShowList())
+                                     : lists.list(channel);
+    if (!list || list->firstEndingAfter(now) == list->end())
+        return;
     for (int attempt = 0; attempt < writeAttempts; ++attempt) {
         try {
-            ShowArchive::archiveRootObject(list, listingsPath(channel), m_surroundings.files);
+            const auto bytes = list->archived(list->firstEndingAfter(now));
+            if (bytes && ShowArchive::writeFile(*bytes, listingsPath(channel), m_surroundings.files))
+                list->moveTo(listingsPath(channel));
             return;
         } catch (const std::exception& exception) {
             Log::line(QStringLiteral("commitFiles: ") + QString::fromUtf8(exception.what()));

@@ -1,45 +1,55 @@
 #pragma once
 
-#include "store/FoldedShows.h"
-
-#include <QString>
+#include "store/FoldedShow.h"
+#include "store/FoldedTexts.h"
+#include "store/MergedShows.h"
 
 #include <functional>
-#include <memory>
 #include <mutex>
-#include <vector>
 
 namespace vidora {
 
-/// Search as the user types, over one list of shows at a time. Keeps the list's texts folded from the first query on,
-/// and what the last query found: one that goes on with its pattern looks at these shows only. About a byte for each
-/// character of the list's texts; `clear` gives it back. May be called on any thread; one query runs at a time.
+/// Search as the user types, over the folded texts of all lists, on two threads. Keeps a bit a show of what the last
+/// query found: one that goes on with its pattern looks at these shows only, and a list that is new is searched alone.
+/// Lists that are in no file yet are folded at their first search, and kept so. `clear` gives all of it back. May be
+/// called on any thread; one query runs at a time.
 class SearchIndex
 {
 public:
-    using Wanted = std::function<bool(const ShowElement&)>;
+    using Wanted = std::function<bool(const ShowTable&, ShowTable::Row)>;
 
-    SearchIndex();
-    ~SearchIndex();
-
-    /// The shows, in the list's order and not more than `limit`, in whose texts the pattern is found, ignoring case and
-    /// diacritics, and that are wanted. An empty pattern finds nothing. Published lists never change: another list is
-    /// known by its pointer.
-    ShowList showsContainingPattern(const std::shared_ptr<const ShowList>& shows, QStringView pattern,
-                                    std::size_t limit, const Wanted& wanted);
+    /// The shows, in their order and not more than `limit`, in whose texts the pattern is found, ignoring case and
+    /// diacritics, and that are wanted. An empty pattern finds nothing.
+    ShowList showsContainingPattern(const MergedShows& shows, QStringView pattern, std::size_t limit,
+                                    const Wanted& wanted);
 
     /// Forgets everything: the search is over, or memory runs short.
     void clear();
 
 private:
-    void use(const std::shared_ptr<const ShowList>& shows);
+    /// A list, and in which of its shows the pattern's bytes are.
+    struct Searched
+    {
+        explicit Searched(SharedShowTable searched)
+            : table(std::move(searched))
+            , texts(*table)
+        {
+        }
+        void searchAll(const SearchPattern& pattern, QByteArray& scratch);
+        void searchFound(const SearchPattern& pattern, QByteArray& scratch);
+
+        SharedShowTable table;
+        FoldedTexts texts;
+        std::vector<bool> found; ///< of the length of the table once it was searched
+        std::size_t count = 0;   ///< how many of these are set
+    };
+
+    void use(const MergedShows& shows);
     void narrowTo(SearchPattern pattern);
 
     std::mutex m_mutex;
-    std::unique_ptr<const FoldedShows> m_texts;
+    std::vector<std::unique_ptr<Searched>> m_lists; ///< one for each table of the merged list, in its order
     SearchPattern m_pattern;
-    std::vector<std::size_t> m_found; ///< shows ahead of m_scanned in which m_pattern is found
-    std::size_t m_scanned = 0;
 };
 
 } // namespace vidora

@@ -1,6 +1,5 @@
 // Queries by channel and by time and category.
 #include "store/LocalDays.h"
-#include "store/ShowArchive.h"
 #include "store/TVListings.h"
 
 namespace vidora {
@@ -10,117 +9,114 @@ namespace {
 constexpr std::size_t maximumShows = 2000;
 constexpr int firstEveningHour = 19;
 
-/// The shows whose rows fit, in order, up to the maximum.
-template<typename Fits>
-ShowList collect(const MergedShows& merged, Fits fits)
+ShowList eveningShows(const MergedShows& merged, Instant now)
+{
+    LocalDays days;
+    return merged.collect(maximumShows, [&](const ShowTable& table, ShowTable::Row row) {
+        return table.endsNotBefore(row, now) && days.hour(table.startOf(row)) >= firstEveningHour;
+    });
+}
+
+ShowList currentShows(const ShowList& list, Instant now)
 {
     ShowList result;
-    for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
-        if (fits(merged.rows[i]))
-            result.push_back((*merged.shows)[i]);
+    std::copy_if(list.begin(), list.end(), std::back_inserter(result),
+                 [&](const Show& show) { return endsAfter(*show->entry, now); });
+    return result;
+}
+
+/// The shows of a list's rows that fit, in order.
+template<typename Fits>
+ShowList showsOf(const ShowTable& list, Fits fits, std::size_t limit = SIZE_MAX)
+{
+    ShowList result;
+    for (ShowTable::Row row = list.first(); row < list.end() && result.size() < limit; ++row) {
+        if (!fits(row))
+            continue;
+        if (Show show = list.show(row))
+            result.push_back(std::move(show));
     }
     return result;
 }
 
-ShowList eveningShows(const MergedShows& merged, Instant now)
+bool runsWithin(const ShowTable& list, ShowTable::Row row, Instant from, Instant until)
 {
-    LocalDays days;
-    return collect(merged, [&](const MergedShows::Row& row) {
-        return row.end >= now && days.hour(row.start) >= firstEveningHour;
-    });
-}
-
-ShowList currentShows(const ShowList& list, Instant now, bool (*isCurrent)(const TVEntry&, Instant))
-{
-    ShowList result;
-    result.reserve(list.size());
-    std::copy_if(list.begin(), list.end(), std::back_inserter(result),
-                 [&](const Show& show) { return isCurrent(*show->entry, now); });
-    return result;
+    return list.startOf(row) < until && (list.startOf(row) >= from || list.endsAfter(row, from));
 }
 
 } // namespace
 
 void TVListings::cachedListForChannel(const ObjectId& channel, QualityOfService, ShowsBlock mainBlock)
 {
-    m_listingsDictionaryAccessQueue->async([this, channel, mainBlock = std::move(mainBlock)] {
+    read([channel, mainBlock = std::move(mainBlock)](const ListingsDictionary& lists, Instant now) {
+        const SharedShowTable list = lists.list(channel);
         auto shows = std::make_shared<const ShowList>(
-            currentShows(dictionary()->list(channel), m_surroundings.clock.now(), endsNotBefore));
+            list ? showsOf(*list, [&](ShowTable::Row row) { return list->endsNotBefore(row, now); }) : ShowList());
         DispatchQueue::main().async([shows = std::move(shows), mainBlock] { mainBlock(shows); });
     });
 }
 
-ShowList TVListings::nextShows(const ShowList& list, std::size_t count, Instant now)
+ShowList TVListings::nextShows(const ShowTable& list, std::size_t count, Instant now)
 {
-    ShowList result;
-    for (const Show& show : list) {
-        if (result.size() >= count)
-            break;
-        if (endsNotBefore(*show->entry, now))
-            result.push_back(show);
-    }
-    return result;
+    return showsOf(
+        list, [&](ShowTable::Row row) { return list.endsNotBefore(row, now); }, count);
 }
 
 void TVListings::onAirShowsWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block)
 {
-    m_listingsDictionaryAccessQueue->async(
-        [this, &queue, selected = m_surroundings.channels.selected(), block = std::move(block)] {
-            const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
-            const Instant now = m_surroundings.clock.now();
-            const auto lists = dictionary();
-            std::vector<ShowList> result;
-            result.reserve(selected.size());
-            for (const ObjectId& channel : selected) {
-                result.push_back(
-                    lists->contains(channel)
-                        ? nextShows(lists->list(channel), count, now)
-                        : nextShows(cutThePast(ShowArchive::unarchiveObjectWithFile(listingsPath(channel)), now), count,
-                                    now));
-            }
-            queue.async([block, result = std::move(result)] { block(result); });
-        });
+    read([this, &queue, selected = m_surroundings.channels.selected(),
+          block = std::move(block)](const ListingsDictionary& lists, Instant now) {
+        const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
+        std::vector<ShowList> result;
+        result.reserve(selected.size());
+        for (const ObjectId& channel : selected) {
+            SharedShowTable list = lists.list(channel);
+            if (!list)
+                list = ShowTable::openFile(listingsPath(channel), now);
+            result.push_back(list ? nextShows(*list, count, now) : ShowList());
+        }
+        queue.async([block, result = std::move(result)] { block(result); });
+    });
 }
 
-void TVListings::onAirShowsOfFilesWithQueue(DispatchQueue& queue,
-                                            std::function<void(std::vector<ShowList>)> block) const
+void TVListings::showsOfChannels(std::vector<ObjectId> channels, Instant from, Instant until, DispatchQueue& queue,
+                                 std::function<void(std::vector<ShowList>)> block)
 {
-    std::vector<QString> paths;
-    for (const ObjectId& channel : m_surroundings.channels.selected())
-        paths.push_back(listingsPath(channel));
-    const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
-    DispatchQueue::global(QualityOfService::UserInteractive)
-        .async([&queue, paths = std::move(paths), count, now = m_surroundings.clock.now(), block = std::move(block)] {
-            std::vector<ShowList> result;
-            for (const QString& path : paths)
-                result.push_back(ShowArchive::firstShowsOfFile(
-                    path, count, [now](const TVEntry& entry) { return endsAfter(entry, now); }));
-            queue.async([block, result = std::move(result)] { block(result); });
-        });
+    read([&queue, channels = std::move(channels), from, until,
+          block = std::move(block)](const ListingsDictionary& lists, Instant) {
+        std::vector<ShowList> result;
+        for (const ObjectId& channel : channels) {
+            const SharedShowTable list = lists.list(channel);
+            const auto fits = [&](ShowTable::Row row) { return runsWithin(*list, row, from, until); };
+            result.push_back(list ? showsOf(*list, fits) : ShowList());
+        }
+        queue.async([block, result = std::move(result)] { block(result); });
+    });
 }
 
 void TVListings::showCountForSelectedChannelsForQueue(DispatchQueue& queue,
                                                       std::function<void(std::unordered_map<ObjectId, int>)> withBlock)
 {
-    m_listingsDictionaryAccessQueue->async(
-        [this, &queue, selected = m_surroundings.channels.selected(), withBlock = std::move(withBlock)] {
-            const auto count = static_cast<std::size_t>(m_surroundings.channels.showCount());
-            const Instant now = m_surroundings.clock.now();
-            const auto lists = dictionary();
-            std::unordered_map<ObjectId, int> counts;
-            for (const ObjectId& channel : selected)
-                counts[channel] = static_cast<int>(nextShows(lists->list(channel), count, now).size());
-            queue.async([withBlock, counts = std::move(counts)] { withBlock(counts); });
-        });
+    read([this, &queue, selected = m_surroundings.channels.selected(),
+          withBlock = std::move(withBlock)](const ListingsDictionary& lists, Instant now) {
+        const int most = m_surroundings.channels.showCount();
+        std::unordered_map<ObjectId, int> counts;
+        for (const ObjectId& channel : selected) {
+            int& count = counts[channel];
+            const SharedShowTable list = lists.list(channel);
+            for (ShowTable::Row row = list ? list->first() : 0; list && row < list->end() && count < most; ++row)
+                count += list->endsNotBefore(row, now);
+        }
+        queue.async([withBlock, counts = std::move(counts)] { withBlock(counts); });
+    });
 }
 
 void TVListings::compoundQuery(Query query, QualityOfService priority, CompoundBlock mainBlock)
 {
-    m_listingsDictionaryAccessQueue->async(
-        [this, query = std::move(query), priority, mainBlock = std::move(mainBlock)]() mutable {
-            auto shows = std::make_shared<const ShowList>(query(*dictionary(), m_surroundings.clock.now()));
-            compoundListingsWithShows(std::move(shows), priority, std::move(mainBlock));
-        });
+    read([this, query = std::move(query), priority, mainBlock = std::move(mainBlock)](const ListingsDictionary& lists,
+                                                                                      Instant now) {
+        compoundListingsWithShows(std::make_shared<const ShowList>(query(lists, now)), priority, mainBlock);
+    });
 }
 
 void TVListings::compoundListingsWithShows(SharedShowList shows, QualityOfService priority, CompoundBlock mainBlock)
@@ -139,9 +135,9 @@ void TVListings::showsWithCategory(TVListingsCategory mask, QualityOfService pri
 {
     const auto query = [mask](const ListingsDictionary& lists, Instant now) {
         const TVListingsCategory series = mask & category::series;
-        return collect(lists.merged(), [=](const MergedShows::Row& row) {
-            return row.classified && (row.categories & category::series) == series && (row.categories & mask) != 0 &&
-                   row.end > now;
+        return lists.merged().collect(maximumShows, [=](const ShowTable& table, ShowTable::Row row) {
+            const TVListingsCategory bits = table.categoriesOf(row).value_or(0);
+            return (bits & mask) != 0 && (bits & category::series) == series && table.endsAfter(row, now);
         });
     };
     compoundQuery(query, priority, std::move(mainBlock));
@@ -151,10 +147,11 @@ void TVListings::allShowsWithCategory(TVListingsCategory category, QualityOfServ
 {
     const auto query = [category](const ListingsDictionary& lists, Instant now) {
         if (category == category::popular)
-            return currentShows(lists.list(ObjectId::popular()), now, endsAfter);
+            return lists.popular() ? currentShows(*lists.popular(), now) : ShowList();
         if (category == category::evening)
             return eveningShows(lists.merged(), now);
-        return collect(lists.merged(), [now](const MergedShows::Row& row) { return row.end >= now; });
+        return lists.merged().collect(
+            maximumShows, [now](const ShowTable& table, ShowTable::Row row) { return table.endsNotBefore(row, now); });
     };
     compoundQuery(query, priority, std::move(mainBlock));
 }

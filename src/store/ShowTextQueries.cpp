@@ -7,29 +7,18 @@ namespace {
 
 constexpr std::size_t maximumShows = 2000;
 
-/// The first shows of a list that fit, up to the maximum.
-template<typename Fits>
-ShowList firstShows(const ShowList& shows, Fits fits)
-{
-    ShowList result;
-    for (auto show = shows.begin(); show != shows.end() && result.size() < maximumShows; ++show) {
-        if (fits(**show))
-            result.push_back(*show);
-    }
-    return result;
-}
-
 } // namespace
 
 void TVListings::showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock)
 {
-    m_listingsDictionaryAccessQueue->async([this, pattern, highPriorityBlock = std::move(highPriorityBlock)] {
-        const SharedShowList all = dictionary()->merged().shows;
-        const auto isCurrent = [now = m_surroundings.clock.now()](const ShowElement& show) {
-            return endsNotBefore(*show.entry, now);
+    read([this, pattern, highPriorityBlock = std::move(highPriorityBlock)](const ListingsDictionary& lists,
+                                                                           Instant now) {
+        const MergedShows& all = lists.merged();
+        const auto isCurrent = [now](const ShowTable& table, ShowTable::Row row) {
+            return table.endsNotBefore(row, now);
         };
         auto found = std::make_shared<const ShowList>(
-            pattern.isEmpty() ? firstShows(*all, isCurrent)
+            pattern.isEmpty() ? all.collect(maximumShows, isCurrent)
                               : m_searchIndex.showsContainingPattern(all, pattern, maximumShows, isCurrent));
         DispatchQueue::global(QualityOfService::UserInitiated).async([found = std::move(found), highPriorityBlock] {
             highPriorityBlock(found);
@@ -44,27 +33,32 @@ void TVListings::dropSearchIndex()
 
 void TVListings::showWithURL(const URL& url, std::function<void(Show)> mainBlock)
 {
-    m_listingsDictionaryAccessQueue->async(
-        [this, url, scheme = m_surroundings.scheme, mainBlock = std::move(mainBlock)] {
-            const auto lists = dictionary();
-            for (const Show& show : *lists->merged().shows) {
-                if (show->entry->urlDigestWithScheme(scheme) == url) {
-                    DispatchQueue::main().async([show, mainBlock] { mainBlock(show); });
-                    return;
-                }
+    read([url, scheme = m_surroundings.scheme, mainBlock = std::move(mainBlock)](const ListingsDictionary& lists,
+                                                                                 Instant) {
+        const MergedShows& merged = lists.merged();
+        for (const MergedShows::Place& place : merged.places()) {
+            const Show show = merged.show(place);
+            if (show && show->entry->urlDigestWithScheme(scheme) == url) {
+                DispatchQueue::main().async([show, mainBlock] { mainBlock(show); });
+                return;
             }
-        });
+        }
+    });
 }
 
 void TVListings::showScheduleForTitle(const QString& title, QualityOfService priority, CompoundBlock mainBlock)
 {
-    const auto query = [title](const ListingsDictionary& lists, Instant now) {
+    const auto query = [title, mark = ShowTable::markOf(title)](const ListingsDictionary& lists, Instant now) {
         const MergedShows& merged = lists.merged();
         ShowList result;
-        for (std::size_t i = 0; i < merged.rows.size() && result.size() < maximumShows; ++i) {
-            const Show& show = (*merged.shows)[i];
-            if (merged.rows[i].titleSize == title.size() && merged.rows[i].end >= now && show->entry->title() == title)
-                result.push_back(show);
+        for (auto place = merged.places().begin(); place != merged.places().end() && result.size() < maximumShows;
+             ++place) {
+            const ShowTable& table = merged.tableOf(*place);
+            if (!table.endsNotBefore(place->row, now) || table.titleMarkOf(place->row).value_or(mark) != mark)
+                continue;
+            Show show = table.show(place->row);
+            if (show && show->entry->title() == title)
+                result.push_back(std::move(show));
         }
         return result;
     };
@@ -73,18 +67,18 @@ void TVListings::showScheduleForTitle(const QString& title, QualityOfService pri
 
 void TVListings::broadcastForTitle(const QString& title, bool previouslyShown, std::function<void(bool)> mainBlock)
 {
-    m_listingsDictionaryAccessQueue->async([this, title, previouslyShown, mainBlock = std::move(mainBlock)] {
-        const auto lists = dictionary();
-        const MergedShows& merged = lists->merged();
-        const Instant now = m_surroundings.clock.now();
-        bool isFound = false;
-        for (std::size_t i = 0; i < merged.rows.size() && !isFound; ++i) {
-            const MergedShows::Row& row = merged.rows[i];
-            if (row.identificatorSize != title.size() || row.end < now)
-                continue;
-            const TVEntry& entry = *(*merged.shows)[i]->entry;
-            isFound = entry.previouslyShown() == previouslyShown && entry.identificator() == title;
-        }
+    read([title, mark = ShowTable::markOf(title.toLower()), previouslyShown,
+          mainBlock = std::move(mainBlock)](const ListingsDictionary& lists, Instant now) {
+        const MergedShows& merged = lists.merged();
+        const bool isFound =
+            std::any_of(merged.places().begin(), merged.places().end(), [&](const MergedShows::Place& place) {
+                const ShowTable& table = merged.tableOf(place);
+                if (table.nameMarkOf(place.row) != mark || !table.endsNotBefore(place.row, now) ||
+                    table.isPreviouslyShown(place.row) != previouslyShown)
+                    return false;
+                const Show show = table.show(place.row);
+                return show && show->entry->identificator() == title;
+            });
         DispatchQueue::main().async([isFound, mainBlock] { mainBlock(isFound); });
     });
 }

@@ -4,32 +4,33 @@
 
 namespace vidora {
 
-std::optional<ShowList> listWithDescription(const ShowList& list, const std::shared_ptr<const TVEntry>& entry,
-                                            const std::shared_ptr<const TVEntrySupplementalData>& extra,
-                                            const std::optional<Pictures>& pictures)
+SharedShowTable listWithDescription(const ShowTable& list, const std::shared_ptr<const TVEntry>& entry,
+                                    const std::shared_ptr<const TVEntrySupplementalData>& extra,
+                                    const std::optional<Pictures>& pictures)
 {
-    const auto found = std::find_if(list.begin(), list.end(), [&](const Show& show) {
-        return show->entry == entry || show->entry->dateTime() > entry->dateTime();
-    });
-    if (found == list.end() || (*found)->entry != entry)
-        return std::nullopt;
-    ShowElement element = **found;
+    const std::optional<ShowTable::Row> row = list.rowOf(entry);
+    const Show show = row ? list.show(*row) : nullptr;
+    if (!show)
+        return nullptr;
+    ShowElement element = *show;
     if (!element.categories)
         element.categories = 0;
     element.extra = extra;
     if (pictures && !pictures->empty())
         element.pictures = pictures;
-    ShowList changed = list;
-    changed[static_cast<std::size_t>(found - list.begin())] = std::make_shared<const ShowElement>(std::move(element));
-    return changed;
+    return list.with({{*row, std::make_shared<const ShowElement>(std::move(element))}});
 }
 
-ShowList listWithIMDB(const ShowList& list, const QString& identificator, std::uint32_t category,
-                      const std::optional<URL>& url, const std::optional<Pictures>& pictures)
+SharedShowTable listWithIMDB(const ShowTable& list, const QString& identificator, std::uint32_t category,
+                             const std::optional<URL>& url, const std::optional<Pictures>& pictures)
 {
-    ShowList changed = list;
-    for (Show& show : changed) {
-        if (show->categories != category || show->entry->identificator() != identificator)
+    const std::uint32_t mark = ShowTable::markOf(identificator.toLower());
+    ShowTable::Changes changes;
+    for (ShowTable::Row row = list.first(); row < list.end(); ++row) {
+        if (list.categoriesOf(row) != category || list.nameMarkOf(row) != mark)
+            continue;
+        const Show show = list.show(row);
+        if (!show || show->entry->identificator() != identificator)
             continue;
         auto extra = show->extra ? std::make_shared<TVEntrySupplementalData>(*show->extra)
                                  : std::make_shared<TVEntrySupplementalData>();
@@ -38,9 +39,9 @@ ShowList listWithIMDB(const ShowList& list, const QString& identificator, std::u
         element.extra = std::move(extra);
         if (pictures)
             element.pictures = pictures;
-        show = std::make_shared<const ShowElement>(std::move(element));
+        changes[row] = std::make_shared<const ShowElement>(std::move(element));
     }
-    return changed;
+    return list.with(changes);
 }
 
 bool isEqualToShowList(const ShowList& a, const ShowList& b)

@@ -1,6 +1,6 @@
 #include "store/TVListings.h"
 
-#include "store/ShowArchive.h"
+#include "platform/Log.h"
 #include "store/ShowUpdates.h"
 
 namespace vidora {
@@ -12,10 +12,7 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
           DispatchQueue::concurrent(QStringLiteral("ostrel.listings.access"), QualityOfService::Default, waitingRank))
     , m_fileIOQueue(
           DispatchQueue::serial(QStringLiteral("ostrel.listings.file.io"), QualityOfService::Background, waitingRank))
-    , m_isLoadHeld(m_surroundings.loading == Loading::Held)
 {
-    if (m_isLoadHeld)
-        m_listingsDictionaryAccessQueue->suspend();
     m_surroundings.followed.syncAlarms();
     std::vector<ObjectId> channels = m_surroundings.channels.selected();
     channels.push_back(ObjectId::popular());
@@ -24,39 +21,39 @@ TVListings::TVListings(Surroundings surroundings, PopularRefresh popularRefresh)
 
 TVListings::~TVListings()
 {
-    startLoading();
     m_compounding.wait(); // whose blocks need channels and icons, which go after the store
     // Blocks of the first queue put blocks into the second, never the reverse.
     m_listingsDictionaryAccessQueue->barrierSync([] {});
     m_fileIOQueue->sync([] {});
 }
 
-void TVListings::startLoading()
-{
-    if (m_isLoadHeld.exchange(false))
-        m_listingsDictionaryAccessQueue->resume();
-}
-
 void TVListings::load(const std::vector<ObjectId>& channels)
 {
-    const QualityOfService priority =
-        m_surroundings.loading == Loading::Held ? QualityOfService::Background : QualityOfService::UserInitiated;
     ListingsDictionary loaded;
     const auto serialQueue = DispatchQueue::serial(QStringLiteral("ostrel.serialQueue"));
     DispatchGroup group;
     for (const ObjectId& channel : channels) {
-        group.async(DispatchQueue::global(priority), [this, &loaded, &serialQueue, channel] {
-            auto list = std::make_shared<const ShowList>(
-                cutThePast(ShowArchive::unarchiveObjectWithFile(listingsPath(channel)), m_surroundings.clock.now()));
-            if (!list->empty())
+        group.async(DispatchQueue::global(QualityOfService::UserInitiated), [this, &loaded, &serialQueue, channel] {
+            SharedShowTable list = ShowTable::openFile(listingsPath(channel), m_surroundings.clock.now());
+            if (channel == ObjectId::popular())
+                loadPopular(list, loaded);
+            else if (list && !list->isEmpty())
                 serialQueue->sync([&] { loaded.set(channel, std::move(list)); });
-            else if (channel != ObjectId::popular())
+            else
                 m_surroundings.channels.unload(channel);
         });
     }
     group.wait();
     changeDictionary([&](ListingsDictionary& dictionary) { dictionary = std::move(loaded); });
     saveAllShowsWithUpdatePopular(false);
+}
+
+/// Every show of it: the list is short, and always looked at.
+void TVListings::loadPopular(const SharedShowTable& list, ListingsDictionary& loaded)
+{
+    auto shows = std::make_shared<const ShowList>(list ? list->shows() : ShowList());
+    if (!shows->empty() && !list->isDamaged())
+        loaded.setPopular(std::move(shows));
 }
 
 QString TVListings::listingsFileFromChannelIdentificator(const ObjectId& channel)
@@ -86,16 +83,18 @@ void TVListings::changeDictionary(const Change& change)
 
 void TVListings::saveAllShowsWithUpdatePopular(bool updatePopular)
 {
-    const std::shared_ptr<const MergedShows> merged = dictionary()->merge(m_surroundings.clock.now());
-    changeDictionary([&](ListingsDictionary& dictionary) { dictionary.setMerged(merged); });
+    changeDictionary([&](ListingsDictionary& dictionary) { dictionary.merge(m_surroundings.clock.now()); });
+    const auto lists = dictionary();
+    for (const auto& [channel, list] : lists->lists())
+        list->forgetReleased();
     if (updatePopular && m_popularRefresh)
-        m_popularRefresh(merged->shows);
+        m_popularRefresh(lists);
 }
 
 void TVListings::storeList(const ObjectId& channel, SharedShowList list)
 {
-    m_listingsDictionaryAccessQueue->barrierAsync([this, channel, list = std::move(list)] {
-        changeDictionary([&](ListingsDictionary& dictionary) { dictionary.set(channel, list); });
+    m_listingsDictionaryAccessQueue->barrierAsync([this, channel, table = ShowTable::make(*list)] {
+        changeDictionary([&](ListingsDictionary& dictionary) { dictionary.set(channel, table); });
     });
 }
 
@@ -117,10 +116,13 @@ void TVListings::removeListingsForChannel(const ObjectId& channel)
     });
 }
 
-void TVListings::replaceList(const ObjectId& channel, ShowList list)
+void TVListings::replaceList(const ObjectId& channel, const ListChange& change)
 {
-    auto shared = std::make_shared<const ShowList>(std::move(list));
-    changeDictionary([&](ListingsDictionary& dictionary) { dictionary.set(channel, std::move(shared)); });
+    const SharedShowTable list = dictionary()->list(channel);
+    const SharedShowTable changed = list ? change(*list) : nullptr;
+    if (!changed)
+        return;
+    changeDictionary([&](ListingsDictionary& dictionary) { dictionary.set(channel, changed); });
     saveAllShowsWithUpdatePopular(false);
     addToSaveSchedule(channel);
 }
@@ -131,9 +133,9 @@ void TVListings::updateIMDBForChannel(const ObjectId& channel, const QString& id
 {
     m_listingsDictionaryAccessQueue->barrierAsync(
         [this, channel, identificator, category, url = std::move(url), pictureURLs = std::move(pictureURLs)] {
-            const auto lists = dictionary();
-            if (lists->contains(channel))
-                replaceList(channel, listWithIMDB(lists->list(channel), identificator, category, url, pictureURLs));
+            replaceList(channel, [&](const ShowTable& list) {
+                return listWithIMDB(list, identificator, category, url, pictureURLs);
+            });
         });
 }
 
@@ -141,20 +143,16 @@ void TVListings::updateDescriptionForEntry(std::shared_ptr<const TVEntry> entry,
                                            std::shared_ptr<const TVEntrySupplementalData> extra,
                                            std::optional<Pictures> pictures)
 {
-    m_listingsDictionaryAccessQueue->barrierAsync([this, entry = std::move(entry), extra = std::move(extra),
-                                                   pictures = std::move(pictures)] {
-        const auto lists = dictionary();
-        std::optional<ShowList> changed = listWithDescription(lists->list(entry->channel()), entry, extra, pictures);
-        if (changed)
-            replaceList(entry->channel(), std::move(*changed));
-    });
+    m_listingsDictionaryAccessQueue->barrierAsync(
+        [this, entry = std::move(entry), extra = std::move(extra), pictures = std::move(pictures)] {
+            replaceList(entry->channel(),
+                        [&](const ShowTable& list) { return listWithDescription(list, entry, extra, pictures); });
+        });
 }
 
 SharedShowList TVListings::popularShows() const
 {
-    const auto lists = dictionary();
-    const auto found = lists->lists().find(ObjectId::popular());
-    return found == lists->lists().end() ? nullptr : found->second;
+    return dictionary()->popular();
 }
 
 void TVListings::setPopularShows(SharedShowList shows)
@@ -163,10 +161,9 @@ void TVListings::setPopularShows(SharedShowList shows)
         return;
     bool changed = false;
     changeDictionary([&](ListingsDictionary& dictionary) {
-        changed = !dictionary.contains(ObjectId::popular()) ||
-                  !isEqualToShowList(dictionary.list(ObjectId::popular()), *shows);
+        changed = !dictionary.popular() || !isEqualToShowList(*dictionary.popular(), *shows);
         if (changed)
-            dictionary.set(ObjectId::popular(), shows);
+            dictionary.setPopular(shows);
     });
     if (changed)
         addToSaveSchedule(ObjectId::popular());
@@ -181,6 +178,30 @@ void TVListings::listingsStored()
         if (m_surroundings.application.isInBackground())
             m_surroundings.application.synchronizeSettings();
         m_surroundings.followed.syncAlarms();
+    });
+}
+
+void TVListings::read(std::function<void(const ListingsDictionary&, Instant now)> query)
+{
+    m_listingsDictionaryAccessQueue->async([this, query = std::move(query)] {
+        const auto lists = dictionary();
+        query(*lists, m_surroundings.clock.now());
+        for (const auto& [channel, list] : lists->lists()) {
+            if (list->isDamaged())
+                dropDamagedList(channel, list);
+        }
+    });
+}
+
+void TVListings::dropDamagedList(const ObjectId& channel, const SharedShowTable& list)
+{
+    m_listingsDictionaryAccessQueue->barrierAsync([this, channel, list] {
+        if (dictionary()->list(channel) != list)
+            return; // it was dropped or replaced meanwhile
+        Log::line(QStringLiteral("the list of %1 is damaged").arg(channel.hex()));
+        changeDictionary([&](ListingsDictionary& dictionary) { dictionary.remove(channel); });
+        saveAllShowsWithUpdatePopular(false);
+        m_surroundings.channels.unload(channel);
     });
 }
 

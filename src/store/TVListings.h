@@ -10,7 +10,6 @@
 #include "store/SearchIndex.h"
 #include "store/StoreSurroundings.h"
 
-#include <atomic>
 #include <set>
 
 namespace vidora {
@@ -34,13 +33,6 @@ public:
     /// Of both queues, which may wait for each other; a caller's queue ranks below, or has no rank.
     static constexpr int waitingRank = 3;
 
-    /// When the lists are read from their files.
-    enum class Loading
-    {
-        AtOnce,
-        Held ///< from `startLoading` on, and at a priority below that of a window
-    };
-
     /// All outlive the store.
     struct Surroundings
     {
@@ -52,24 +44,21 @@ public:
         ApplicationLife& application;
         QString scheme; ///< of the application's own addresses
         FileLayer& files = FileLayer::system();
-        Loading loading = Loading::AtOnce;
     };
     using Completion = std::function<void()>;
     using ShowsBlock = std::function<void(SharedShowList)>;
     using CompoundBlock = std::function<void(const CompoundListing&)>;
     /// `byURL` leads from the address of a broadcast in the application's scheme to its element in the list.
     using URLBlock = std::function<void(SharedShowList shows, std::shared_ptr<const ShowsByURL> byURL)>;
-    /// Told of the merged list when the popular list is to be made anew. Called in a barrier block: returns at once.
-    using PopularRefresh = std::function<void(SharedShowList merged)>;
+    /// Told of the lists, the merged one among them, when the popular list is to be made anew. Called in a barrier
+    /// block: returns at once.
+    using PopularRefresh = std::function<void(std::shared_ptr<const ListingsDictionary> lists)>;
 
     /// Starts an alarm synchronisation and the load of the files of all selected channels and of the popular list. Does
     /// not wait: every query is behind the load. A selected channel without a current show in its file is unloaded.
     explicit TVListings(Surroundings surroundings, PopularRefresh popularRefresh = {});
     /// On the main thread. Waits for what was asked for; blocks for the main queue may still come.
     ~TVListings() override;
-
-    /// Lets a load begin that is held; until then every query waits. On any thread, any number of times.
-    void startLoading();
 
     /// "<hex>.plist".
     static QString listingsFileFromChannelIdentificator(const ObjectId& channel);
@@ -112,9 +101,10 @@ public:
     /// For each selected channel, in order, its next shows up to `showCount`, the one on air first. A channel without a
     /// list is read from its file for this once.
     void onAirShowsWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block);
-    /// The same out of the beginnings of the files, whatever is in memory. Does not wait for the load: what a screen
-    /// shows until the load is done.
-    void onAirShowsOfFilesWithQueue(DispatchQueue& queue, std::function<void(std::vector<ShowList>)> block) const;
+    /// For each of some channels, in order, its shows that run within a span of time, those that reach into it
+    /// included: a window of a time grid. A show without an end counts by its start alone.
+    void showsOfChannels(std::vector<ObjectId> channels, Instant from, Instant until, DispatchQueue& queue,
+                         std::function<void(std::vector<ShowList>)> block);
     /// For each selected channel how many shows are ahead of it, up to `showCount`.
     void showCountForSelectedChannelsForQueue(DispatchQueue& queue,
                                               std::function<void(std::unordered_map<ObjectId, int>)> withBlock);
@@ -147,21 +137,27 @@ public:
 private:
     using Change = std::function<void(ListingsDictionary&)>;
     using Query = std::function<ShowList(const ListingsDictionary&, Instant now)>;
+    using ListChange = std::function<SharedShowTable(const ShowTable&)>;
 
     QString listingsPath(const ObjectId& channel) const;
     std::shared_ptr<const ListingsDictionary> dictionary() const;
     /// Changes the dictionary in one step. Readers keep what they have taken.
     void changeDictionary(const Change& change);
     void load(const std::vector<ObjectId>& channels);
+    static void loadPopular(const SharedShowTable& list, ListingsDictionary& loaded);
     void saveAllShowsWithUpdatePopular(bool updatePopular);
-    /// In a barrier block: replaces a channel's list by a changed one.
-    void replaceList(const ObjectId& channel, ShowList list);
+    /// In a barrier block: replaces a channel's list by a changed one, if there is both.
+    void replaceList(const ObjectId& channel, const ListChange& change);
     void writeScheduledFiles();
-    void writeFile(const ObjectId& channel, const ShowList& list) const;
+    void writeFile(const ObjectId& channel, const ListingsDictionary& lists) const;
+    /// Runs a query as a reader, with the lists and the moment of its turn. A list that turns out to be damaged goes,
+    /// and is fetched again.
+    void read(std::function<void(const ListingsDictionary&, Instant now)> query);
+    void dropDamagedList(const ObjectId& channel, const SharedShowTable& list);
     /// Runs the block on the main queue, unless the store is gone by then.
     void onMain(Completion block);
     /// The first shows of a list that have not ended.
-    static ShowList nextShows(const ShowList& list, std::size_t count, Instant now);
+    static ShowList nextShows(const ShowTable& list, std::size_t count, Instant now);
     /// Runs a query as a reader and makes a compound listing of what it finds.
     void compoundQuery(Query query, QualityOfService priority, CompoundBlock mainBlock);
 
@@ -177,7 +173,6 @@ private:
 
     const std::shared_ptr<DispatchQueue> m_listingsDictionaryAccessQueue;
     const std::shared_ptr<DispatchQueue> m_fileIOQueue;
-    std::atomic<bool> m_isLoadHeld;
 };
 
 } // namespace vidora

@@ -22,6 +22,7 @@ std::optional<QString> optional(const char16_t* text)
 Show show(const Texts& texts)
 {
     ShowDraft draft;
+    draft.entry->setEndDateTime(instantFromUnixMilliseconds(0));
     if (texts.title)
         draft.entry->setIdentificator(QString::fromUtf16(texts.title));
     draft.entry->setInstantDetails1(optional(texts.details));
@@ -50,6 +51,7 @@ Show titled(const QString& title, std::int64_t minute = 0)
     ShowDraft draft;
     draft.entry->setIdentificator(title);
     draft.entry->setDateTime(instantFromUnixMilliseconds(minute * 60'000));
+    draft.entry->setEndDateTime(instantFromUnixMilliseconds(minute * 60'000 + 1));
     return std::move(draft).publish();
 }
 
@@ -61,11 +63,39 @@ QString titles(const ShowList& shows)
     return texts.join(QLatin1Char(' '));
 }
 
-const auto everyone = [](const ShowElement&) { return true; };
+const auto everyone = [](const ShowTable&, ShowTable::Row) { return true; };
+
+/// Shows that somebody holds, in the lists of some channels.
+struct Guide
+{
+    ShowList shows;
+    MergedList merged;
+
+    explicit Guide(ShowList given, std::size_t channels = 1)
+        : shows(std::move(given))
+        , merged(tablesOf(shows, channels), Instant::min(), nullptr)
+    {
+    }
+    static std::vector<SharedShowTable> tablesOf(const ShowList& shows, std::size_t channels)
+    {
+        std::vector<ShowList> lists(channels);
+        for (std::size_t i = 0; i < shows.size(); ++i)
+            lists[i % channels].push_back(shows[i]);
+        std::vector<SharedShowTable> tables;
+        for (const ShowList& list : lists)
+            tables.push_back(ShowTable::make(list));
+        return tables;
+    }
+    ShowList find(SearchIndex& index, QStringView pattern, std::size_t limit,
+                  const SearchIndex::Wanted& wanted = everyone) const
+    {
+        return index.showsContainingPattern(merged.shows(), pattern, limit, wanted);
+    }
+};
 
 TEST(SearchIndex, LooksInEachTextOfAShowButNotAcross)
 {
-    const auto list = std::make_shared<const ShowList>(ShowList{
+    const Guide guide(ShowList{
         show({u"Dnevnik", u"vijesti", u"izdanje", u"najava", u"opis", u"epizoda", u"podaci", u"redatelj", u"glumica"}),
         show({u"Mađar i đak", nullptr, nullptr, u"Sle\u0301pi u\u017ei\u0301ci", u"", nullptr, nullptr, nullptr,
               nullptr}),
@@ -91,34 +121,33 @@ TEST(SearchIndex, LooksInEachTextOfAShowButNotAcross)
     };
     SearchIndex index;
     for (const auto& c : cases) {
-        const ShowList found = index.showsContainingPattern(list, c.pattern, 2000, everyone);
+        const ShowList found = guide.find(index, c.pattern, 2000);
         ShowList expected;
-        for (std::size_t i = 0; i < list->size(); ++i)
+        for (std::size_t i = 0; i < guide.shows.size(); ++i)
             if (std::find(c.found.begin(), c.found.end(), i) != c.found.end())
-                expected.push_back((*list)[i]);
+                expected.push_back(guide.shows[i]);
         EXPECT_EQ(found, expected) << QString::fromUtf16(c.pattern).toStdString();
     }
 }
 
-/// A list whose titles are numbers, with a letter in front of every third, and of which four start together: over
-/// several blocks.
-std::shared_ptr<const ShowList> numbered(int count)
+/// Shows whose titles are numbers, with a letter in front of every third, and of which four start together.
+ShowList numbered(int count)
 {
     ShowList shows;
     for (int i = 0; i < count; ++i)
         shows.push_back(titled((i % 3 == 0 ? QStringLiteral("ć") : QString()) + QString::number(i), i / 4));
-    return std::make_shared<const ShowList>(std::move(shows));
+    return shows;
 }
 
 TEST(SearchIndex, GoesOnFromWhatItFoundAndWhereItStopped)
 {
-    const auto list = numbered(9000);
+    const Guide guide(numbered(9000), 4);
     SearchIndex index;
     const auto count = [&](const char16_t* pattern, std::size_t limit) {
-        return index.showsContainingPattern(list, pattern, limit, everyone).size();
+        return guide.find(index, pattern, limit).size();
     };
     EXPECT_EQ(count(u"c", 2000), 2000u);
-    EXPECT_EQ(titles(index.showsContainingPattern(list, u"c899", 3, everyone)), QStringLiteral("ć8991 ć8994 ć8997"));
+    EXPECT_EQ(titles(guide.find(index, u"c899", 3)), QStringLiteral("ć8991 ć8994 ć8997"));
     EXPECT_EQ(count(u"c899", 2000), 3u);
     EXPECT_EQ(count(u"c89", 9000), 36u);
     EXPECT_EQ(count(u"c", 9000), 3000u);
@@ -128,35 +157,36 @@ TEST(SearchIndex, GoesOnFromWhatItFoundAndWhereItStopped)
     index.clear();
     EXPECT_EQ(count(u"ć3", 0), 0u);
     EXPECT_EQ(count(u"ć30", 9000), 39u);
+    EXPECT_EQ(titles(guide.find(index, u"Ć30", 3)), QStringLiteral("ć30 ć300 ć303"));
 }
 
 TEST(SearchIndex, UnwantedShowsTakeNoPlaceAndMayBeWantedLater)
 {
-    const auto list = numbered(5000);
+    const Guide guide(numbered(5000));
     SearchIndex index;
-    const auto late = [](const ShowElement& element) {
-        return element.entry->identificator()->endsWith(QLatin1Char('7'));
+    const auto late = [](const ShowTable& table, ShowTable::Row row) {
+        return table.show(row)->entry->identificator()->endsWith(QLatin1Char('7'));
     };
-    EXPECT_EQ(titles(index.showsContainingPattern(list, u"c", 3, late)), QStringLiteral("ć27 ć57 ć87"));
-    EXPECT_EQ(titles(index.showsContainingPattern(list, u"c", 3, everyone)), QStringLiteral("ć0 ć3 ć6"));
-    EXPECT_EQ(titles(index.showsContainingPattern(list, u"c5", 2, late)), QStringLiteral("ć57 ć507"));
+    EXPECT_EQ(titles(guide.find(index, u"c", 3, late)), QStringLiteral("ć27 ć57 ć87"));
+    EXPECT_EQ(titles(guide.find(index, u"c", 3)), QStringLiteral("ć0 ć3 ć6"));
+    EXPECT_EQ(titles(guide.find(index, u"c5", 2, late)), QStringLiteral("ć57 ć507"));
 }
 
 TEST(SearchIndex, AnotherListIsAnotherSearch)
 {
-    const auto first = numbered(3000);
-    ShowList changed(first->begin() + 100, first->end());
+    const Guide first(numbered(3000), 2);
+    ShowList changed(first.shows.begin() + 100, first.shows.end());
     changed.insert(changed.begin() + 50, titled(QStringLiteral("novo"), 37));
     changed.erase(changed.begin() + 60);
-    const auto second = std::make_shared<const ShowList>(changed);
+    const Guide second(changed);
 
     SearchIndex index;
-    EXPECT_EQ(titles(index.showsContainingPattern(first, u"299", 1, everyone)), QStringLiteral("299"));
-    EXPECT_EQ(titles(index.showsContainingPattern(second, u"novo", 9, everyone)), QStringLiteral("novo"));
-    EXPECT_EQ(index.showsContainingPattern(first, u"novo", 9, everyone).size(), 0u);
-    EXPECT_EQ(titles(index.showsContainingPattern(second, u"159", 2, everyone)), QStringLiteral("1159 ć1590"));
-    EXPECT_EQ(titles(index.showsContainingPattern(second, u"c2997", 2, everyone)), QStringLiteral("ć2997"));
-    EXPECT_EQ(index.showsContainingPattern(std::make_shared<const ShowList>(), u"1", 9, everyone).size(), 0u);
+    EXPECT_EQ(titles(first.find(index, u"299", 1)), QStringLiteral("299"));
+    EXPECT_EQ(titles(second.find(index, u"novo", 9)), QStringLiteral("novo"));
+    EXPECT_EQ(first.find(index, u"novo", 9).size(), 0u);
+    EXPECT_EQ(titles(second.find(index, u"159", 2)), QStringLiteral("1159 ć1590"));
+    EXPECT_EQ(titles(second.find(index, u"c2997", 2)), QStringLiteral("ć2997"));
+    EXPECT_EQ(Guide(ShowList()).find(index, u"1", 9).size(), 0u);
 }
 
 TEST(ByteSearch, FindsTheFirstOccurrenceAtEveryPlace)

@@ -80,46 +80,6 @@ TEST_F(ShowQueriesTest, OnAirAnswersForEachSelectedChannel)
     EXPECT_TRUE(cached(three)->empty()) << "a list read for a query isn't kept";
 }
 
-TEST_F(ShowQueriesTest, OnAirAnswersOutOfTheFilesAsOutOfTheLoadedLists)
-{
-    for (const ObjectId& channel : {one, three})
-        ShowArchive::archiveRootObject(*listOf(channel, {{"past"_s, -20, 0},
-                                                         {"a"_s, -10, 10},
-                                                         {"b"_s, 10, 20},
-                                                         {"c"_s, 20, 30},
-                                                         {"d"_s, 30, 40},
-                                                         {"e"_s, 40, 50}}),
-                                       file(channel));
-    start();
-    const auto ofFiles = answer<std::vector<ShowList>>(
-        [&](auto block) { listings->onAirShowsOfFilesWithQueue(DispatchQueue::main(), std::move(block)); });
-    const auto loaded = answer<std::vector<ShowList>>(
-        [&](auto block) { listings->onAirShowsWithQueue(DispatchQueue::main(), std::move(block)); });
-    ASSERT_EQ(ofFiles.size(), 3u);
-    for (std::size_t i = 0; i < ofFiles.size(); ++i)
-        EXPECT_EQ(titles(ofFiles[i]), titles(loaded[i]));
-    EXPECT_EQ(titles(ofFiles[2]), QStringList({"a"_s, "b"_s, "c"_s, "d"_s}));
-}
-
-TEST_F(ShowQueriesTest, WaitForALoadThatIsHeldButNotForTheBeginningsOfFiles)
-{
-    device.selection = {one};
-    ShowArchive::archiveRootObject(*listOf(one, {{"a"_s, -10, 10}}), file(one));
-    start(FileLayer::system(), TVListings::Loading::Held);
-    std::optional<std::vector<ShowList>> loaded;
-    listings->onAirShowsWithQueue(DispatchQueue::main(),
-                                  [&](std::vector<ShowList> lists) { loaded = std::move(lists); });
-    const auto ofFiles = answer<std::vector<ShowList>>(
-        [&](auto block) { listings->onAirShowsOfFilesWithQueue(DispatchQueue::main(), std::move(block)); });
-    EXPECT_EQ(titles(ofFiles[0]), QStringList{"a"_s});
-    EXPECT_FALSE(loaded);
-    listings->startLoading();
-    listings->startLoading();
-    DispatchQueue::runMain([&] { return loaded.has_value(); });
-    EXPECT_EQ(titles((*loaded)[0]), QStringList{"a"_s});
-    start(FileLayer::system(), TVListings::Loading::Held); // one that ends before it was let go does not hang
-}
-
 TEST_F(ShowQueriesTest, Categories)
 {
     store(one, {{"unclassified"_s, 0, 10, {}},
@@ -168,6 +128,36 @@ TEST_F(ShowQueriesTest, EveningShowsStartInTheEveningOfTheDevice)
     EXPECT_EQ(inAll(category::evening), QStringList({"19:00"_s, "23:59"_s, "19:10 next day"_s}));
     clock.advance(std::chrono::minutes(1));
     EXPECT_EQ(inAll(category::evening), QStringList({"23:59"_s, "19:10 next day"_s}));
+}
+
+TEST_F(ShowQueriesTest, EveningShowsMayEndNowButNotBefore)
+{
+    store(one, {{"ends now"_s, 210, 240}, {"longer"_s, 211, 300}});
+    EXPECT_EQ(inAll(category::evening).size(), 2); // behind the merge
+    clock.advance(std::chrono::minutes(240));
+    EXPECT_EQ(inAll(category::evening), QStringList({"ends now"_s, "longer"_s}));
+    clock.advance(Milliseconds(1));
+    EXPECT_EQ(inAll(category::evening), QStringList("longer"_s));
+}
+
+TEST_F(ShowQueriesTest, WindowsOfAGridHoldWhatRunsInThem)
+{
+    store(one, {{"over"_s, -60, 0},
+                {"reaches in"_s, -10, 10},
+                {"no end ahead"_s, -5, {}},
+                {"within"_s, 10, 20},
+                {"no end"_s, 15, {}},
+                {"reaches out"_s, 20, 90},
+                {"behind"_s, 30, 40}});
+    store(two, {{"around"_s, -10, 100}});
+    const auto window = answer<std::vector<ShowList>>([&](auto block) {
+        listings->showsOfChannels({two, three, one}, testNow, testNow + std::chrono::minutes(30), DispatchQueue::main(),
+                                  std::move(block));
+    });
+    ASSERT_EQ(window.size(), 3u);
+    EXPECT_EQ(titles(window[0]), QStringList("around"_s));
+    EXPECT_TRUE(window[1].empty());
+    EXPECT_EQ(titles(window[2]), QStringList({"reaches in"_s, "within"_s, "no end"_s, "reaches out"_s}));
 }
 
 TEST_F(ShowQueriesTest, PopularShowsAreThoseThatAreNotOver)

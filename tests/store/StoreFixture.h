@@ -108,13 +108,16 @@ class StoreTest : public ::testing::Test
 {
 protected:
     /// A store over the files of the folder, as after a start of the process.
-    void start(FileLayer& files = FileLayer::system(), TVListings::Loading loading = TVListings::Loading::AtOnce)
+    void start(FileLayer& files = FileLayer::system())
     {
         listings.reset();
-        listings =
-            std::make_unique<TVListings>(TVListings::Surroundings{clock, folder.path(), device, icons, device, device,
-                                                                  QStringLiteral("vidora"), files, loading},
-                                         [this](SharedShowList merged) { refreshed.push_back(std::move(merged)); });
+        listings = std::make_unique<TVListings>(
+            TVListings::Surroundings{clock, folder.path(), device, icons, device, device, QStringLiteral("vidora"),
+                                     files},
+            [this](std::shared_ptr<const ListingsDictionary> lists) {
+                const auto every = [](const ShowTable&, ShowTable::Row) { return true; };
+                refreshed.push_back(std::make_shared<const ShowList>(lists->merged().collect(SIZE_MAX, every)));
+            });
     }
     void store(const ObjectId& channel, const std::vector<TestShow>& shows)
     {

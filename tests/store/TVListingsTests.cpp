@@ -224,6 +224,39 @@ TEST_F(TVListingsTest, StoresAFilmLinkWithEveryBroadcastOfTheFilm)
         EXPECT_EQ((*cached(one))[i]->pictures, pictures);
 }
 
+// What turns out to be damaged when it is looked at costs a refetch of that channel.
+TEST_F(TVListingsTest, DropsAListThatTurnsOutToBeDamaged)
+{
+    device.selection = {one, two};
+    giveIcons({one, two});
+    std::vector<TestShow> shows;
+    for (int i = 0; i < 1000; ++i)
+        shows.push_back({"show"_s, i, i + 1});
+    write(one, shows);
+    write(two, {{"whole"_s, 0, 30}});
+    start();
+    cached(two); // behind the load
+    EXPECT_TRUE(device.unloaded.empty());
+    QFile::resize(file(one), QFile(file(one)).size() / 2);
+    EXPECT_LT(all().size(), 1000);
+    EXPECT_EQ(all(), QStringList("whole"_s));
+    EXPECT_EQ(device.unloaded, std::set<ObjectId>{one});
+    EXPECT_TRUE(cached(one)->empty());
+}
+
+TEST_F(TVListingsTest, GivesTheMemoryOfAListBackOnceItIsInItsFile)
+{
+    start();
+    store(one, {{"over soon"_s, -30, 1}, {"a"_s, 0, 30}, {"b"_s, 30, 60}});
+    const Show held = cached(one)->at(1);
+    clock.advance(std::chrono::minutes(1));
+    commit();
+    EXPECT_EQ(cached(one)->at(1), held) << "a held show stays the same object";
+    EXPECT_EQ(titles(*cached(one)), QStringList({"over soon"_s, "a"_s, "b"_s}));
+    QFile::resize(file(one), 0);
+    EXPECT_EQ(titles(*cached(one)), QStringList("a"_s)) << "the others lie in the file alone";
+}
+
 // Readers and writers at once; what this is for is a run under ThreadSanitizer.
 TEST_F(TVListingsTest, ReadersAndWritersAtOnce)
 {

@@ -9,7 +9,6 @@
 #include "app/window/SingleInstance.h"
 #include "app/window/WindowImages.h"
 #include "app/window/WindowModel.h"
-#include "platform/BlockOwner.h"
 #include "platform/Log.h"
 #include "platform/MemoryWarnings.h"
 #include "platform/SignificantTimeChange.h"
@@ -68,12 +67,10 @@ public:
         m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures->shelf()));
         m_engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue<QObject*>(&m_model)}});
         m_engine.load(QUrl(modules + QLatin1String("/Vidora/Main.qml")));
-        holdLoad();
     }
 
     ~OpenWindow()
     {
-        delegate().listings().startLoading();
         ShowServices services = delegate().showServices();
         services.pictures = nullptr;
         delegate().setShowServices(services);
@@ -97,25 +94,6 @@ public:
 private:
     VidoraAppDelegate& delegate() { return m_device.delegate(); }
     QQuickWindow* window() { return qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0)); }
-
-    /// The lists are read once the first rows are drawn, which come from the beginnings of the files: otherwise both
-    /// share the processors, and the window opens late. A screen without rows does not hold them for long.
-    void holdLoad()
-    {
-        constexpr Milliseconds longest{500};
-        m_mainBlocks.after(longest, [this] { delegate().listings().startLoading(); });
-        if (QQuickWindow* shown = window())
-            m_drawing = QObject::connect(shown, &QQuickWindow::frameSwapped, &m_model, [this] { frameDrawn(); });
-    }
-
-    void frameDrawn()
-    {
-        auto* screen = qobject_cast<ScreenObject*>(m_model.visibleScreen());
-        if (!screen || screen->rows()->rowCount() == 0)
-            return;
-        QObject::disconnect(m_drawing);
-        delegate().listings().startLoading();
-    }
 
     /// What the user set by hand, whatever the desktop says.
     std::optional<bool> chosenAppearance()
@@ -152,8 +130,6 @@ private:
     MemoryWarnings m_memoryWarnings;
     SignificantTimeChange m_timeChange;
     QQmlApplicationEngine m_engine;
-    QMetaObject::Connection m_drawing;
-    BlockOwner m_mainBlocks;
 };
 
 /// Opens the window on an empty home, without a network, and closes it.
@@ -188,7 +164,7 @@ int runWindow(const CommandLine& line)
     SingleInstance instance(homeOf(line));
     if (instance.handOver(address))
         return 0;
-    Device device(line, Device::Access::Write, true, TVListings::Loading::Held);
+    Device device(line, Device::Access::Write, true);
     int status = 1;
     {
         OpenWindow window(device);
