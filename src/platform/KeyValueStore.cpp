@@ -94,7 +94,6 @@ bool KeyValueStore::open(QSqlDatabase& database)
             return true;
         succeeded(query);
         const bool damaged = isDamaged(query.lastError());
-        query.clear();
         database.close();
         if (!damaged || !AtomicFile::setAside(m_path))
             return false;

@@ -41,14 +41,6 @@ std::int64_t cutOff(double number)
     return static_cast<std::int64_t>(number);
 }
 
-void apply(const QString& key, const QJsonValue& value, QJsonObject& values)
-{
-    if (value.isUndefined() || value.isNull())
-        values.remove(key);
-    else
-        values.insert(key, value);
-}
-
 } // namespace
 
 UserDefaults::UserDefaults(QString path)
@@ -129,7 +121,7 @@ void UserDefaults::setObject(const QJsonValue& value, const QString& forKey)
 {
     const std::lock_guard lock(m_mutex);
     m_changes.insert(forKey, value);
-    apply(forKey, value, m_values);
+    m_values.insert(forKey, value); // which removes it when the value is undefined
 }
 
 void UserDefaults::setInteger(std::int64_t value, const QString& forKey)
@@ -139,7 +131,7 @@ void UserDefaults::setInteger(std::int64_t value, const QString& forKey)
 
 void UserDefaults::setDouble(double value, const QString& forKey)
 {
-    setObject(std::isfinite(value) ? QJsonValue(value) : QJsonValue(), forKey);
+    setObject(std::isfinite(value) ? QJsonValue(value) : QJsonValue(QJsonValue::Undefined), forKey);
 }
 
 void UserDefaults::setBool(bool value, const QString& forKey)
@@ -157,7 +149,7 @@ bool UserDefaults::synchronize()
     const std::lock_guard lock(m_mutex);
     read();
     for (auto change = m_changes.cbegin(); change != m_changes.cend(); ++change)
-        apply(change.key(), change.value(), m_values);
+        m_values.insert(change.key(), change.value());
     if (m_changes.isEmpty())
         return true;
     if (m_unreadable && !AtomicFile::setAside(m_path))

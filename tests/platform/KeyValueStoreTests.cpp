@@ -48,7 +48,12 @@ TEST_F(KeyValueStoreTest, KeepsTypedValuesAcrossRuns)
     EXPECT_EQ(store.longLongForKey(QStringLiteral("lastAlarmMinutes")), qint64{1} << 60);
     EXPECT_TRUE(store.boolForKey(QStringLiteral("noAlarmsSchedule")));
     EXPECT_EQ(store.stringForKey(QStringLiteral("selectedCalendar")), QStringLiteral("Kućni:Local"));
-    EXPECT_FALSE(store.dataForKey(favorites)); // of another kind
+    // Of another kind:
+    EXPECT_FALSE(store.dataForKey(favorites));
+    EXPECT_FALSE(store.stringForKey(favorites));
+    EXPECT_FALSE(store.dictionaryForKey(favorites));
+    EXPECT_FALSE(store.arrayForKey(QStringLiteral("noAlarmsSchedule.0")));
+    EXPECT_FALSE(store.boolForKey(favorites));
     EXPECT_FALSE(store.objectForKey(QStringLiteral("gone")));
     EXPECT_EQ(store.allKeys().size(), 5);
 }

@@ -335,8 +335,12 @@ TEST(URLCache, LetsTheOldestGoWhenItIsFull)
         cache.storeCachedResponse({QByteArray(10, 'x'), URLResponse{200, {}, false}}, named(number));
     }
     EXPECT_FALSE(cache.cachedResponseForRequest(named(1)));
+    for (const int status : {199, 300})
+        cache.storeCachedResponse({QByteArray(10, 'x'), URLResponse{status, {}, false}}, named(4));
+    cache.storeCachedResponse({QByteArray(10, 'y'), URLResponse{200, {}, false}}, named(3)); // in place of the former
+    cache.setMemoryCapacity(20);
     EXPECT_TRUE(cache.cachedResponseForRequest(named(2)));
-    EXPECT_TRUE(cache.cachedResponseForRequest(named(3)));
+    EXPECT_EQ(cache.cachedResponseForRequest(named(3))->data, QByteArray(10, 'y'));
     clock.advance(Seconds(3601));
     cache.storeCachedResponse({QByteArray(5, 'x'), URLResponse{299, {}, false}}, named(9));
     EXPECT_EQ(cache.currentMemoryUsage(), 5); // the addresses of yesterday do not pile up
