@@ -24,7 +24,7 @@ TEST(URLTest, IsKeptAsGivenButForWhatMayNotStandInIt)
         EXPECT_EQ(URL::fromText(QString::fromUtf8(given))->text(), QString::fromUtf8(kept)) << given;
     EXPECT_FALSE(URL::fromText(u""));
     const char16_t lone[] = {u'a', 0xD83D, u'b', 0}; // half a character
-    EXPECT_EQ(URL::fromText(QStringView(lone))->text(), QStringLiteral("a%EF%BF%BDb"));
+    EXPECT_EQ(URL::fromText(QStringView(lone))->text(), QStringLiteral("a%3Fb"));
 }
 
 // Who gets a password, and what is read from a disk, hangs on these.
@@ -93,7 +93,7 @@ TEST(CachedURLSessionTest, KeepsNothingOfRequestsThatChangeOrProveSomething)
     put.httpMethod = "PUT";
     body.httpBody = "a";
     credentials.credentials = URLCredentials{QStringLiteral("ana"), QStringLiteral("s3cret")};
-    network.answer(plain.url.text(), {.body = "answer"});
+    network.answer(plain.url.text(), {200, "answer"});
     for (const URLRequest& request : {put, body, credentials, plain}) {
         EXPECT_FALSE(session.perform(request).response->fromCache);
         EXPECT_EQ(network.takeRequests().size(), 1);

@@ -109,9 +109,6 @@ TEST(AtomicFile, ReadsRegularFilesUpToTheLimitOnly)
     EXPECT_FALSE(AtomicFile::read(folder.path(), 100));
     EXPECT_FALSE(AtomicFile::read(QStringLiteral("/dev/zero"), 100));
     EXPECT_FALSE(AtomicFile::read(folder.filePath(QStringLiteral("missing")), 100));
-    EXPECT_EQ(AtomicFile::readStart(path, 4), QByteArray("1234"));
-    EXPECT_FALSE(AtomicFile::readStart(folder.path(), 100));
-    EXPECT_FALSE(AtomicFile::readStart(folder.filePath(QStringLiteral("missing")), 100));
 }
 
 TEST(AtomicFile, RemovesOnlyLeftovers)

@@ -142,9 +142,9 @@ public:
     struct Answer
     {
         int status = 200;
-        QByteArray body;
+        QByteArray body = {};
         QByteArray contentType = "text/xml; charset=utf-8";
-        QByteArray location;
+        QByteArray location = {};
     };
     using Reply = std::function<URLResult(const URLRequest&)>;
 
