@@ -212,27 +212,32 @@ QString UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& 
     try {
         const std::uint32_t type = listingsTypeForSourceId(needed.front().sourceId, m_services.endpoints);
         setLoading(needed, true);
-        const auto result = m_services.parser.netList(needed, pages, m_services.clock.now(), type);
+        Delivery delivery;
+        m_services.parser.netList(
+            needed, pages, m_services.clock.now(), type, [&](const ObjectId& channel, const SharedShowList& list) {
+                const auto count = std::min<std::size_t>(list->size(), m_services.showCount());
+                delivery[channel] = {{list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count)}, list->size()};
+            });
         setLoading(needed, false);
-        if (result.empty())
+        if (delivery.empty())
             return whyNothing(pages);
-        publish(pass, result);
+        publish(pass, delivery);
         std::size_t shows = 0;
-        for (const auto& [channel, list] : result)
-            shows += list->size();
-        return QStringLiteral("%1 of %2 channels, %3 shows").arg(result.size()).arg(needed.size()).arg(shows);
+        for (const auto& [channel, delivered] : delivery)
+            shows += delivered.count;
+        return QStringLiteral("%1 of %2 channels, %3 shows").arg(delivery.size()).arg(needed.size()).arg(shows);
     } catch (const std::exception& exception) {
         // The channels stay marked as loading: what made a parse fail would make the next one fail as well.
         return QStringLiteral("listings parsing exception!!! %1").arg(QString::fromUtf8(exception.what()));
     }
 }
 
-void UpdateCycle::publish(Pass& pass, const ListingParser::Result& result)
+void UpdateCycle::publish(Pass& pass, const Delivery& delivery)
 {
     pass.parsedAnything = true;
     m_services.listings.saveAllShows();
-    for (const auto& [channel, list] : result) {
-        pass.shows += list->size();
+    for (const auto& [channel, delivered] : delivery) {
+        pass.shows += delivered.count;
         // The store stamps a channel's load time behind what it has to save; waiting for that here keeps the channel's
         // next source from being fetched as well.
         m_services.listings.isScheduledForSaving(channel);
@@ -240,19 +245,18 @@ void UpdateCycle::publish(Pass& pass, const ListingParser::Result& result)
         if (object && !object->reloadNeeded())
             pass.missing.erase(channel);
     }
-    tellOfDelivery(result);
+    tellOfDelivery(delivery);
 }
 
-void UpdateCycle::tellOfDelivery(const ListingParser::Result& result)
+void UpdateCycle::tellOfDelivery(const Delivery& delivery)
 {
     constexpr std::size_t channelsAtOnce = 16;
     std::unordered_map<ObjectId, ShowList> firstShows;
     const auto tell = [&] {
         m_mainBlocks.async([this, lists = std::exchange(firstShows, {})] { m_observer.delivered(lists); });
     };
-    for (const auto& [channel, list] : result) {
-        const std::size_t count = std::min<std::size_t>(list->size(), m_services.showCount());
-        firstShows[channel].assign(list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count));
+    for (const auto& [channel, delivered] : delivery) {
+        firstShows[channel] = delivered.firstShows;
         if (firstShows.size() == channelsAtOnce)
             tell();
     }

@@ -73,6 +73,14 @@ public:
     void checkAndUpdateAllChannels();
 
 private:
+    /// What a document brought: of each channel's list the shows that screens look at first, and how many it has.
+    struct Delivered
+    {
+        ShowList firstShows;
+        std::size_t count;
+    };
+    using Delivery = std::unordered_map<ObjectId, Delivered>;
+
     struct URLSetHash
     {
         std::size_t operator()(const URLSet& urls) const;
@@ -92,8 +100,8 @@ private:
     Pages fetch(const URLSet& urls, PageOutcome& last);
     /// What came of it, for the log.
     QString parse(Pass& pass, const ChannelItems& needed, const Pages& pages);
-    void publish(Pass& pass, const ListingParser::Result& result);
-    void tellOfDelivery(const ListingParser::Result& result);
+    void publish(Pass& pass, const Delivery& delivery);
+    void tellOfDelivery(const Delivery& delivery);
     void setLoading(const ChannelItems& items, bool loading) const;
 
     const Services m_services;

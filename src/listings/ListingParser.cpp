@@ -136,17 +136,13 @@ std::vector<ObjectId> cleanUp(const ChannelItems& items, Instant now, std::uint3
     return stored;
 }
 
-ListingParser::Result publish(Drafts& drafts)
+std::shared_ptr<const ShowList> publish(DraftList drafts)
 {
-    ListingParser::Result result;
-    for (auto& [channel, list] : drafts) {
-        auto shows = std::make_shared<ShowList>();
-        shows->reserve(list.size());
-        for (ShowDraft& draft : list)
-            shows->push_back(std::move(draft).publish());
-        result.emplace(channel, std::move(shows));
-    }
-    return result;
+    auto shows = std::make_shared<ShowList>();
+    shows->reserve(drafts.size());
+    for (ShowDraft& draft : drafts)
+        shows->push_back(std::move(draft).publish());
+    return shows;
 }
 
 } // namespace
@@ -161,6 +157,17 @@ ListingParser::ListingParser(const Clock& clock, const Endpoints& endpoints, Lis
 ListingParser::Result ListingParser::netList(const ChannelItems& netList, const Pages& xml, Instant now,
                                              std::uint32_t type)
 {
+    Result result;
+    this->netList(netList, xml, now, type,
+                  [&result](const ObjectId& channel, const std::shared_ptr<const ShowList>& list) {
+                      result.emplace(channel, list);
+                  });
+    return result;
+}
+
+void ListingParser::netList(const ChannelItems& netList, const Pages& xml, Instant now, std::uint32_t type,
+                            const Found& found)
+{
     Drafts drafts;
     if (type == 1) {
         scanXMLTV(xml, netList, m_clock.now(), m_endpoints, drafts);
@@ -173,14 +180,20 @@ ListingParser::Result ListingParser::netList(const ChannelItems& netList, const 
     }
 
     const std::vector<ObjectId> stored = cleanUp(netList, now, type, drafts);
-    const Result result = publish(drafts);
     for (const ObjectId& channel : stored) {
-        m_receiver.storeList(channel, result.at(channel));
+        const auto list = drafts.find(channel);
+        if (list == drafts.end())
+            continue; // named twice
+        auto shows = publish(std::move(list->second));
+        drafts.erase(list);
+        found(channel, shows);
+        m_receiver.storeList(channel, std::move(shows));
         m_receiver.addToSaveSchedule(channel);
     }
+    for (auto& [channel, list] : drafts)
+        found(channel, publish(std::move(list)));
     if (!stored.empty())
         m_receiver.listingsStored();
-    return result;
 }
 
 } // namespace vidora

@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 
@@ -40,6 +41,10 @@ public:
     /// A page that turns out faulty ends the pages: those ahead of it are used. Types 0, 1, 2, 3, 9 and 11 let
     /// exceptions out, and then nothing was stored for any channel. Called on `loadQueue`; two calls never overlap.
     Result netList(const ChannelItems& netList, const Pages& xml, Instant now, std::uint32_t type);
+    /// The same, told list by list, just ahead of its storing: lists that the caller does not keep are let go of one by
+    /// one, so that they and what the store makes of them are never in memory all at once.
+    using Found = std::function<void(const ObjectId& channel, const std::shared_ptr<const ShowList>& list)>;
+    void netList(const ChannelItems& netList, const Pages& xml, Instant now, std::uint32_t type, const Found& found);
 
 private:
     const Clock& m_clock;

@@ -128,7 +128,7 @@ private:
     std::vector<std::pair<ListFile::Block, QByteArray>> m_others;
 };
 
-std::shared_ptr<const ShowTable> ShowTable::make(const ShowList& shows)
+std::shared_ptr<const ShowTable> ShowTable::make(const ShowList& shows, bool isShared)
 {
     Maker maker;
     std::vector<const Show*> taken;
@@ -143,8 +143,12 @@ std::shared_ptr<const ShowTable> ShowTable::make(const ShowList& shows)
         taken.push_back(&show);
     }
     auto table = maker.table();
-    for (Row row = 0; row < taken.size(); ++row)
-        table->m_held.remember(row, *taken[row]);
+    // What is remembered weakly keeps its memory, so of a long list that goes none is but what stays.
+    for (Row row = 0; row < taken.size(); ++row) {
+        const Show& show = *taken[row];
+        if (isShared || show.use_count() > 1 || show->entry.use_count() > 1 || show->extra.use_count() > 1)
+            table->m_held.remember(row, show);
+    }
     return table;
 }
 

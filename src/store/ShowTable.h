@@ -22,7 +22,8 @@ public:
     using Changes = std::map<Row, Show>;
 
     /// The table of shows as they came. A show without a title is dropped, and what lies beyond any real list.
-    static std::shared_ptr<const ShowTable> make(const ShowList& shows);
+    /// `isShared`: others may hold any of the shows, and not just those that are counted more than once.
+    static std::shared_ptr<const ShowTable> make(const ShowList& shows, bool isShared = true);
     /// The table of a file, without the shows at its head that have ended by now. Null for what is missing or no list.
     static std::shared_ptr<const ShowTable> openFile(const QString& file, std::optional<Instant> now = std::nullopt);
     /// The same of bytes. Header and columns are checked now, records when they are read.

@@ -93,7 +93,8 @@ void TVListings::saveAllShowsWithUpdatePopular(bool updatePopular)
 
 void TVListings::storeList(const ObjectId& channel, SharedShowList list)
 {
-    m_listingsDictionaryAccessQueue->barrierAsync([this, channel, table = ShowTable::make(*list)] {
+    const bool isShared = list.use_count() > 1; // nobody else can come to a list that is held here alone
+    m_listingsDictionaryAccessQueue->barrierAsync([this, channel, table = ShowTable::make(*list, isShared)] {
         changeDictionary([&](ListingsDictionary& dictionary) { dictionary.set(channel, table); });
     });
 }

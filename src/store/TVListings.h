@@ -65,6 +65,7 @@ public:
 
     // Lists come in.
 
+    /// Puts the list into its form in memory before it returns, and lets go of it.
     void storeList(const ObjectId& channel, SharedShowList list) override;
     /// Marks the channel's list as differing from its file and stamps the channel as loaded now. In the background the
     /// files are committed right away.
