@@ -23,6 +23,8 @@ void now(CommandSession& session)
     home.selectedChannelsChanged();
     DispatchQueue::runMain([&] { return home.hasContent(); });
     const ShowPrinter printer(session.catalogue());
+    if (!session.line().json)
+        return session.answer(printer.screen(home), {});
     QJsonArray array;
     for (const RootViewController::Section& section : home.sections()) {
         const ObjectId& channel = section.channel.channel;
@@ -30,7 +32,7 @@ void now(CommandSession& session)
                                  {QStringLiteral("channelTitle"), titleOf(channel, session.catalogue())},
                                  {QStringLiteral("shows"), printer.json(section.entries)}});
     }
-    session.answer(printer.screen(home), {{QStringLiteral("channels"), array}});
+    session.answer({}, {{QStringLiteral("channels"), array}});
 }
 
 void answerShows(CommandSession& session, const ShowList& shows)

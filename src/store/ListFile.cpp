@@ -46,11 +46,12 @@ std::optional<ListFile> ListFile::open(std::shared_ptr<const ByteSource> bytes, 
 
 bool ListFile::readDirectory()
 {
-    QByteArray scratch;
+    static thread_local QByteArray scratch; // lists are opened by the hundred
     const auto start = m_bytes->read(0, std::min(m_bytes->size(), usualStart), scratch);
     if (!start || start->size() < sizeof(Header))
         return false;
-    m_start = scratch;
+    if (start->data() == scratch.constData())
+        m_start = scratch;
     Header header{};
     std::memcpy(&header, start->data(), sizeof header);
     if (header.magic != magic || header.version != version || header.blocks > maximumBlocks ||

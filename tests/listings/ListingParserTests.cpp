@@ -84,6 +84,20 @@ std::string lines(const ShowList& list)
     return result;
 }
 
+// A feed of all channels is large: what the store has taken over must not be kept until the last list is.
+TEST(ListingParser, KeepsNoListThatTheCallerDoesNotKeep)
+{
+    Parse parse;
+    const ChannelItems items{{parse.channel, QStringLiteral("12"), {}}};
+    std::string told;
+    ListingParser(parse.clock, parse.endpoints, parse.receiver)
+        .netList(items, {portPage({{"a", "07:00", "08:00"}})}, parse.clock.now(), 0,
+                 [&](const ObjectId&, const std::shared_ptr<const ShowList>& list) { told += lines(*list); });
+    EXPECT_EQ(told, "a 07:00-08:00\n");
+    EXPECT_EQ(parse.receiver.events, "LS!");
+    EXPECT_EQ(parse.receiver.lists.at(parse.channel).use_count(), 1);
+}
+
 TEST(ListingParser, CleansUpAndStores)
 {
     const struct
