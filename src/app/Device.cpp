@@ -17,6 +17,7 @@ namespace vidora {
 namespace {
 
 constexpr qint64 maximumEndpoints = 1024 * 1024;
+constexpr qint64 maximumDocument = 512LL * 1024 * 1024;
 constexpr qint64 maximumCalendarAnswer = 64LL * 1024 * 1024;
 /// How long a process that ends waits for a word of the calendar servers.
 constexpr Milliseconds patienceWithServers = Seconds(5);
@@ -82,6 +83,7 @@ bool Device::hasOwnGuide() const
 Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
+    , m_network(maximumDocument, {}, &m_connectivity)
     , m_calendarNetwork(maximumCalendarAnswer)
 {
     m_folders.make();

@@ -39,6 +39,8 @@ public:
     const StandardFolders& folders() const { return m_folders; }
     /// The network as it is; the delegate's own treats the imported guide apart.
     URLSession& network() { return m_network; }
+    /// What its requests wait for. Connected until somebody who knows says otherwise.
+    Connectivity& connectivity() { return m_connectivity; }
     /// The user's accounts on calendar servers; null where there are no calendars.
     CalendarAccounts* calendarAccounts() { return m_calendarAccounts.get(); }
     bool hasOwnGuide() const;
@@ -77,6 +79,7 @@ private:
     std::unique_ptr<Clock> m_clock;
     SystemRandom m_random;
     SystemSleeper m_sleeper;
+    Connectivity m_connectivity;
     NetworkURLSession m_network;
     NetworkURLSession m_calendarNetwork;
     std::unique_ptr<OwnGuideSession> m_guideSession;

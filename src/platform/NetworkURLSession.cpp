@@ -5,9 +5,11 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <arpa/inet.h>
 #include <array>
 #include <chrono>
 #include <curl/curl.h>
+#include <netinet/in.h>
 
 namespace vidora {
 
@@ -54,6 +56,19 @@ struct HeaderList
     ~HeaderList() { curl_slist_free_all(list); }
     curl_slist* list = nullptr;
 };
+
+/// "localhost" and what lies below it (RFC 6761, 6.3), 127.0.0.0/8, ::1.
+bool isThisMachine(const QString& host)
+{
+    if (host == QLatin1String("localhost") || host.endsWith(QLatin1String(".localhost")))
+        return true;
+    in_addr four{};
+    in6_addr six{};
+    const QByteArray text = host.toLatin1();
+    if (::inet_pton(AF_INET, text.constData(), &four) == 1)
+        return ntohl(four.s_addr) >> 24 == IN_LOOPBACKNET;
+    return ::inet_pton(AF_INET6, text.constData(), &six) == 1 && IN6_IS_ADDR_LOOPBACK(&six);
+}
 
 QByteArray contentTypeOfFile(const QByteArray& bytes)
 {
@@ -258,9 +273,10 @@ bool NetworkURLSession::Transfer::takeHeaderLine(const QByteArray& line)
     return true;
 }
 
-NetworkURLSession::NetworkURLSession(qint64 maximumBodySize, const QString& authorities)
+NetworkURLSession::NetworkURLSession(qint64 maximumBodySize, const QString& authorities, Connectivity* connectivity)
     : m_maximumBodySize(maximumBodySize)
     , m_authorities(authorities.toUtf8())
+    , m_connectivity(connectivity)
     , m_shared(std::make_unique<Shared>())
 {
 }
@@ -276,6 +292,25 @@ URLResult NetworkURLSession::perform(const URLRequest& request)
         return readFile(request.url);
     if (scheme != QLatin1String("http") && scheme != QLatin1String("https"))
         return failure(QStringLiteral("unsupported address"));
+    const bool isAway = m_connectivity && !m_connectivity->isConnected() && !isThisMachine(request.url.host());
+    return isAway ? performOnceConnected(request) : run(request);
+}
+
+URLResult NetworkURLSession::performOnceConnected(const URLRequest& request)
+{
+    const auto isCancelled = [&] { return m_cancelled || (request.cancelled && *request.cancelled); };
+    const auto begin = SteadyClock::now();
+    // Monitors err: what is left when the waiting ends is enough for a try.
+    m_connectivity->wait(begin + request.timeoutIntervalForResource - request.timeoutIntervalForRequest, isCancelled);
+    if (isCancelled())
+        return failure(QStringLiteral("cancelled"), URLError::Kind::Cancelled);
+    URLRequest rest = request;
+    rest.timeoutIntervalForResource -= std::chrono::floor<Milliseconds>(SteadyClock::now() - begin);
+    return run(rest);
+}
+
+URLResult NetworkURLSession::run(const URLRequest& request)
+{
     auto transfer = take();
     URLResult result = transfer->run(request, m_maximumBodySize, m_cancelled);
     giveBack(std::move(transfer));
@@ -325,6 +360,8 @@ void NetworkURLSession::invalidateAndCancel()
     m_cancelled = true;
     for (Transfer* transfer : m_running)
         transfer->wakeUp();
+    if (m_connectivity)
+        m_connectivity->wakeUp();
 }
 
 } // namespace vidora

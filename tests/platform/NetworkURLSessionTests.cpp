@@ -322,6 +322,46 @@ TEST_F(NetworkURLSessionTest, IsAskedOnlyForWhatTheCacheDoesNotHold)
     EXPECT_EQ(cache.currentMemoryUsage(), 4);
 }
 
+TEST_F(NetworkURLSessionTest, WaitsForANetworkUnlessItAsksThisMachine)
+{
+    server.Get("/page",
+               [](const httplib::Request&, httplib::Response& answer) { answer.set_content("x", "text/plain"); });
+    Connectivity network;
+    NetworkURLSession waiting(1024, {}, &network);
+    URLRequest elsewhere(*URL::fromText(QStringLiteral("http://0.0.0.0:%1/page").arg(server.port)));
+    network.setConnected(false);
+    EXPECT_EQ(waiting.perform(request("/page")).data, "x");
+    for (const char* local : {"localhost", "a.localhost", "127.1.2.3", "[::1]"}) {
+        URLRequest near(*URL::fromText(QStringLiteral("http://%1:%2/page").arg(QLatin1String(local)).arg(server.port)));
+        near.timeoutIntervalForResource = std::chrono::hours(24); // answered or refused, not waited for
+        waiting.perform(near);
+    }
+    elsewhere.timeoutIntervalForResource = elsewhere.timeoutIntervalForRequest + Milliseconds(60);
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(waiting.perform(elsewhere).data, "x") << "monitors err";
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, Milliseconds(60));
+
+    elsewhere.timeoutIntervalForResource = std::chrono::hours(1);
+    URLResult result;
+    std::thread asking([&] { result = waiting.perform(elsewhere); });
+    network.setConnected(true);
+    asking.join();
+    EXPECT_EQ(result.data, "x");
+
+    network.setConnected(false);
+    const auto cancelled = std::make_shared<std::atomic<bool>>(false);
+    elsewhere.cancelled = cancelled;
+    std::thread given([&] { result = waiting.perform(elsewhere); });
+    *cancelled = true;
+    given.join();
+    EXPECT_EQ(result.error.value_or(URLError{}).kind, URLError::Kind::Cancelled);
+    elsewhere.cancelled = nullptr;
+    std::thread ended([&] { result = waiting.perform(elsewhere); });
+    waiting.invalidateAndCancel();
+    ended.join();
+    EXPECT_EQ(result.error.value_or(URLError{}).kind, URLError::Kind::Cancelled);
+}
+
 TEST(URLCache, LetsTheOldestGoWhenItIsFull)
 {
     FixedClock clock(instantFromUnixMilliseconds(0));
