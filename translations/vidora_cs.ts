@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[PŘÍKAZ] [VOLBA]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Obraz tohoto vysílání nelze na tomto počítači zobrazit.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Právě běží</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repríza</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Populární</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Žádné připojení.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Právě aktualizováno</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Aktualizováno před %1 min</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Aktualizováno před %1 h</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Všechny kanály odebrány</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Odebráno: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Žádný seznam</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>ještě %1 min</translation>
+    </message>
 </context>
 </TS>

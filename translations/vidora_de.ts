@@ -876,5 +876,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[BEFEHL] [OPTION]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Die Bilder dieses Streams können auf diesem Computer nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Läuft gerade</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholung</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Beliebt</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Keine Verbindung.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Gerade aktualisiert</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Vor %1 Min. aktualisiert</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Vor %1 Std. aktualisiert</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Alle Sender entfernt</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 entfernt</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Keine Liste</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>noch %1 Min.</translation>
+    </message>
 </context>
 </TS>

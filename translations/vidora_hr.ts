@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[NAREDBA] [OPCIJA]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Slika ovog prijenosa ne može se prikazati na ovom računalu.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Pokušaj ponovo</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>U tijeku</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repriza</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Popularno</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Poništi</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Nema veze.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Upravo ažurirano</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Ažurirano prije %1 min</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Ažurirano prije %1 h</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotovo</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Svi kanali uklonjeni</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Uklonjeno: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Nema popisa</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>još %1 min</translation>
+    </message>
 </context>
 </TS>

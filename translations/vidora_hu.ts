@@ -865,5 +865,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[PARANCS] [KAPCSOLÓ]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Ennek az adásnak a képe ezen a gépen nem jeleníthető meg.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Újra</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Most megy</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Riasztás</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Kedvenc</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Ismétlés</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Népszerű</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Visszavonás</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Nincs kapcsolat.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Épp most frissítve</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>%1 perce frissítve</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>%1 órája frissítve</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Kész</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Minden csatorna eltávolítva</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 eltávolítva</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Nincs lista</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>még %1 perc</translation>
+    </message>
 </context>
 </TS>

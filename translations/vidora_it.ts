@@ -876,5 +876,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[COMANDO] [OPZIONE]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Le immagini di questo flusso non possono essere mostrate su questo computer.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>In onda</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Sveglia</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Preferito</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Replica</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Popolare</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Nessuna connessione.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Appena aggiornato</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Aggiornato %1 min fa</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Aggiornato %1 h fa</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Tutti i canali rimossi</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 rimosso</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Nessun elenco</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>ancora %1 min</translation>
+    </message>
 </context>
 </TS>

@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[КОМАНДА] [ОПЦИЈА]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Сликата на овој пренос не може да се прикаже на овој компјутер.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Обиди се повторно</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Во тек</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Аларм</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Омилено</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Реприза</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Популарно</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Врати</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Нема врска.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Штотуку ажурирано</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Ажурирано пред %1 мин</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Ажурирано пред %1 ч</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Сите канали се отстранети</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Отстрането: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Нема список</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>уште %1 мин</translation>
+    </message>
 </context>
 </TS>

@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[COMANDĂ] [OPȚIUNE]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Imaginea acestui flux nu poate fi afișată pe acest calculator.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Încearcă din nou</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>În difuzare</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarmă</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Reluare</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Popular</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Anulează</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Nicio conexiune.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Actualizat chiar acum</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Actualizat acum %1 min</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Actualizat acum %1 h</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gata</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Toate canalele au fost eliminate</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 eliminat</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Nicio listă</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>încă %1 min</translation>
+    </message>
 </context>
 </TS>

@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[PRÍKAZ] [VOĽBA]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Obraz tohto vysielania sa na tomto počítači nedá zobraziť.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Skúsiť znova</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Práve beží</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Upozornenie</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repríza</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Populárne</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Vrátiť späť</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Žiadne pripojenie.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Práve aktualizované</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Aktualizované pred %1 min</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Aktualizované pred %1 h</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Všetky kanály odstránené</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Odstránené: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Žiadny zoznam</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>ešte %1 min</translation>
+    </message>
 </context>
 </TS>

@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[КОМАНДА] [ОПЦИЈА]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Слика овог преноса не може да се прикаже на овом рачунару.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Покушај поново</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>У току</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Аларм</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Омиљено</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Реприза</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Популарно</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Опозови</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Нема везе.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Управо ажурирано</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Ажурирано пре %1 мин</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Ажурирано пре %1 х</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Сви канали уклоњени</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Уклоњено: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Нема листе</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>још %1 мин</translation>
+    </message>
 </context>
 </TS>

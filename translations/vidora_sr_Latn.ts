@@ -887,5 +887,73 @@
         <source>[COMMAND] [OPTION]...</source>
         <translation>[KOMANDA] [OPCIJA]...</translation>
     </message>
+    <message>
+        <source>The pictures of this stream can&apos;t be drawn on this computer.</source>
+        <translation>Slika ovog prenosa ne može da se prikaže na ovom računaru.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Pokušaj ponovo</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>U toku</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Omiljeno</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repriza</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Popularno</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Opozovi</translation>
+    </message>
+    <message>
+        <source>No connection.</source>
+        <translation>Nema veze.</translation>
+    </message>
+    <message>
+        <source>Updated just now</source>
+        <translation>Upravo ažurirano</translation>
+    </message>
+    <message>
+        <source>Updated %1 min ago</source>
+        <translation>Ažurirano pre %1 min</translation>
+    </message>
+    <message>
+        <source>Updated %1 h ago</source>
+        <translation>Ažurirano pre %1 h</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotovo</translation>
+    </message>
+    <message>
+        <source>All channels removed</source>
+        <translation>Svi kanali uklonjeni</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>Uklonjeno: %1</translation>
+    </message>
+    <message>
+        <source>No list</source>
+        <translation>Nema liste</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>još %1 min</translation>
+    </message>
 </context>
 </TS>

@@ -38,6 +38,8 @@ public:
     /// To be done when the screen loads: it isn't loaded yet.
     virtual void setModifiedSelectedChannels(bool modified) = 0;
     virtual bool isLoaded() const = 0;
+    /// A pass is over in which no source of the `failed` channels delivered.
+    virtual void passEnded(const std::vector<ObjectId>& failed) = 0;
 };
 
 /// The screen of one channel's week.

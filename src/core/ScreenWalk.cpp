@@ -94,6 +94,8 @@ void ScreenWalk::passEnded(const std::vector<ObjectId>& failed) const
     forEach([&](ViewController& screen) {
         if (auto* channel = as<ChannelScreen>(screen))
             channel->passEnded(failed);
+        else if (auto* root = as<RootScreen>(screen))
+            root->passEnded(failed);
     });
 }
 

@@ -28,6 +28,7 @@ NetworkAlerts::NetworkAlerts(const Clock& clock, Present present)
 
 void NetworkAlerts::noRemoteHostAlert(const URLError& error)
 {
+    ++m_failures;
     const std::int64_t now = unixSeconds(m_clock.now());
     std::int64_t last = m_lastAlert;
     // Of several requests that fail at once only the one whose time is stored may speak.

@@ -1,7 +1,7 @@
 #include "screens/AllChannelsViewController.h"
 
-#include "content/LatinFolding.h"
 #include "platform/DeviceSettings.h"
+#include "screens/ChannelSearch.h"
 #include "screens/Navigation.h"
 #include "screens/ShowRows.h"
 
@@ -21,14 +21,6 @@ QString letterOf(const QString& title)
     return DeviceSettings::locale().toUpper(end > 0 ? title.left(end) : QString());
 }
 
-/// Whether a title in either alphabet, or the language, has the pattern, which is folded already.
-bool isFound(const OfferedChannel& channel, const QString& pattern)
-{
-    const QStringList texts{channel.face.title, channel.face.catalogueTitle, channel.language};
-    return std::any_of(texts.begin(), texts.end(),
-                       [&](const QString& text) { return foldedInLatin(text).contains(pattern); });
-}
-
 } // namespace
 
 AllChannelsViewController::AllChannelsViewController(VidoraAppDelegate& delegate, Groups groups, std::size_t submenu)
@@ -44,9 +36,9 @@ void AllChannelsViewController::filter()
     m_sections.clear();
     if (isMenu())
         return;
-    const QString pattern = foldedInLatin(m_searchText);
+    const ChannelSearch search(m_searchText);
     for (const OfferedChannel& channel : (*m_groups)[m_selectedSubmenu - 1].channels) {
-        if (!m_searchText.isEmpty() && !isFound(channel, pattern))
+        if (!search.finds(channel))
             continue;
         const QString letter = letterOf(channel.face.title);
         const auto isOfLetter = [&](const Letter& section) { return section.title == letter; };
@@ -57,6 +49,12 @@ void AllChannelsViewController::filter()
         }
         section->channels.push_back(&channel);
     }
+}
+
+std::vector<BarButton> AllChannelsViewController::rightBarButtonItems() const
+{
+    auto* self = const_cast<AllChannelsViewController*>(this);
+    return {{BarButton::Kind::Done, localized("Done"), [self] { dismiss(self->m_delegate, *self); }}};
 }
 
 QString AllChannelsViewController::placeholder() const
@@ -91,6 +89,7 @@ ScreenRow AllChannelsViewController::rowAt(RowPath path) const
     }
     const ChannelFace& channel = channelAt(path);
     row = channelRow(m_delegate, channel);
+    row.subtitle = languageNames(m_sections[path.section].channels[path.row]->language);
     row.accessory = isSelected(channel.channel) ? Accessory::Checkmark : Accessory::None;
     return row;
 }

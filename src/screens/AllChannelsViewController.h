@@ -18,6 +18,7 @@ public:
     AllChannelsViewController(VidoraAppDelegate& delegate, Groups groups, std::size_t submenu = 0);
 
     QString title() const override { return localized("All Channels"); }
+    std::vector<BarButton> rightBarButtonItems() const override;
     QString placeholder() const override;
     std::size_t numberOfSections() const override { return isMenu() ? 1 : m_sections.size(); }
     std::size_t numberOfRowsInSection(std::size_t section) const override;

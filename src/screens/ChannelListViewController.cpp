@@ -15,7 +15,9 @@ ChannelListViewController::ChannelListViewController(VidoraAppDelegate& delegate
 
 ScreenRow ChannelListViewController::rowAt(RowPath path) const
 {
-    return channelRow(m_delegate, m_channels[path.row]);
+    ScreenRow row = channelRow(m_delegate, m_channels[path.row]);
+    row.accessory = Accessory::Disclosure;
+    return row;
 }
 
 void ChannelListViewController::selectRow(RowPath path)

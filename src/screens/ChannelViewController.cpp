@@ -47,6 +47,11 @@ std::vector<BarButton> ChannelViewController::rightBarButtonItems() const
     return buttons;
 }
 
+QString ChannelViewController::subtitle() const
+{
+    return updatedText(m_delegate, m_channel.channel);
+}
+
 std::size_t ChannelViewController::numberOfRowsInSection(std::size_t section) const
 {
     return m_groups.at(m_sortedGroupKeys[section]).size();
@@ -69,7 +74,7 @@ ScreenRow ChannelViewController::rowAt(RowPath path) const
     const TVEntry& entry = *(*show)->entry;
     const bool isOnAir =
         entry.dateTime() && *entry.dateTime() <= now && entry.endDateTime() && *entry.endDateTime() > now;
-    return showRow(m_delegate, *show, isOnAir);
+    return showRow(m_delegate, *show, isOnAir ? progressOf(entry, now) : std::nullopt);
 }
 
 void ChannelViewController::selectRow(RowPath path)

@@ -21,6 +21,7 @@ public:
     ChannelViewController(VidoraAppDelegate& delegate, ChannelFace channel, const ShowList& entries);
 
     QString title() const override { return m_channel.title; }
+    QString subtitle() const override;
     std::vector<BarButton> rightBarButtonItems() const override;
     std::size_t numberOfSections() const override { return m_sortedGroupKeys.size(); }
     std::size_t numberOfRowsInSection(std::size_t section) const override;

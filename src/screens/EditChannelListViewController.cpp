@@ -4,6 +4,9 @@
 #include "screens/PlainViewController.h"
 #include "screens/ShowRows.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vidora {
 
 EditChannelListViewController::EditChannelListViewController(VidoraAppDelegate& delegate)
@@ -58,8 +61,10 @@ void EditChannelListViewController::deleteRow(RowPath path)
     if (path.row >= m_selected.size())
         return;
     const auto place = m_selected.begin() + static_cast<std::ptrdiff_t>(path.row);
+    const Removed removed{path.row, *place};
     removeRows(0, path.row, 1, [&] { m_selected.erase(place); });
     store();
+    offerUndo({removed});
 }
 
 void EditChannelListViewController::moveRow(RowPath from, RowPath to)
@@ -78,8 +83,51 @@ void EditChannelListViewController::trash()
 {
     if (m_selected.empty())
         return;
+    std::vector<Removed> removed;
+    for (const ObjectId& channel : m_selected)
+        removed.push_back({removed.size(), channel});
     removeRows(0, 0, m_selected.size(), [&] { m_selected.clear(); });
     store();
+    offerUndo(std::move(removed));
+}
+
+void EditChannelListViewController::offerUndo(std::vector<Removed> removed)
+{
+    constexpr Seconds patience{10};
+    m_removed = std::move(removed);
+    m_mainBlocks.after(patience, [this, deletion = ++m_deletions] {
+        if (deletion != m_deletions)
+            return;
+        m_removed.clear();
+        surroundingsChanged();
+    });
+    surroundingsChanged();
+}
+
+QString EditChannelListViewController::undoText() const
+{
+    if (m_removed.empty())
+        return {};
+    if (m_removed.size() > 1)
+        return localized("All channels removed");
+    return localized("%1 removed").arg(channelFace(m_removed.front().channel, m_delegate.channelData()).title);
+}
+
+/// The lists are gone with their channels, so that they are fetched again.
+void EditChannelListViewController::undo()
+{
+    if (m_removed.empty())
+        return;
+    const auto removed = std::exchange(m_removed, {});
+    reloadData([&] {
+        for (const auto& [place, channel] : removed) {
+            if (std::find(m_selected.begin(), m_selected.end(), channel) == m_selected.end())
+                m_selected.insert(m_selected.begin() + static_cast<std::ptrdiff_t>(std::min(place, m_selected.size())),
+                                  channel);
+        }
+    });
+    store();
+    m_delegate.checkAndUpdateAllChannels();
 }
 
 void EditChannelListViewController::add()

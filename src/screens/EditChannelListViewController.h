@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/VidoraAppDelegate.h"
+#include "platform/BlockOwner.h"
 #include "screens/AllChannelsViewController.h"
 #include "screens/ScreenModel.h"
 
@@ -20,6 +21,9 @@ public:
     ScreenRow rowAt(RowPath path) const override;
     void deleteRow(RowPath path) override;
     void moveRow(RowPath from, RowPath to) override;
+    /// For ten seconds: brings back what the last deletion took.
+    QString undoText() const override;
+    void undo() override;
 
     /// Opens the chooser.
     void add();
@@ -32,10 +36,19 @@ protected:
     void willAppear() override;
 
 private:
+    struct Removed
+    {
+        std::size_t place;
+        ObjectId channel;
+    };
     void store();
+    void offerUndo(std::vector<Removed> removed);
 
     VidoraAppDelegate& m_delegate;
     ChannelIds m_selected;
+    std::vector<Removed> m_removed; ///< by the last deletion, as long as it can be undone; places ascend
+    int m_deletions = 0;
+    BlockOwner m_mainBlocks;
     AllChannelsViewController::Groups m_groups; ///< made when they are first needed
 };
 

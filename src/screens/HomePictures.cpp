@@ -37,6 +37,13 @@ void HomePictures::setShowImage(const ShowImage& image, const ObjectId& forChann
     m_rows.reloadShow(forChannelID, showIdentifier);
 }
 
+void HomePictures::forget(const ObjectId& channel)
+{
+    m_showImages.erase(channel);
+    m_askedPictures.erase(channel);
+    m_channelsWithLoadedShowDetails.erase(channel);
+}
+
 void HomePictures::forgetGoneShows(const ObjectId& channel)
 {
     const auto images = m_showImages.find(channel);
@@ -60,7 +67,7 @@ void HomePictures::displayed(const ObjectId& channel, const Show& show)
 {
     if (imageOf(channel, show))
         return;
-    if (m_delegate.imagesEnabled() && show->count() >= 4)
+    if (m_delegate.imagesEnabled() && show->count() >= 4 && m_askedPictures[channel].insert(identifierOf(show)).second)
         loadImage(channel, show);
     const auto object = m_delegate.channels().channelWithChannelId(channel);
     if (m_channelsWithLoadedShowDetails.contains(channel) || !object || object->reloadNeeded())

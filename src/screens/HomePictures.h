@@ -33,13 +33,14 @@ public:
     std::optional<ShowImage> imageOf(const ObjectId& channel, const Show& show) const;
     /// Keeps a picture that has come.
     void setShowImage(const ShowImage& image, const ObjectId& forChannelID, const QString& showIdentifier);
-    /// Forgets the pictures of a channel, whose list has changed.
-    void forget(const ObjectId& channel) { m_showImages.erase(channel); }
+    /// Forgets the pictures of a channel, whose list has changed: they are asked for anew.
+    void forget(const ObjectId& channel);
     /// Forgets the pictures of shows that have left the channel's rows: what is held here stays in memory.
     void forgetGoneShows(const ObjectId& channel);
     /// The same for all channels, those without a place among them.
     void forgetGoneShows();
-    /// The show has come into sight. Its picture is fetched, and once a channel what the pages of its shows tell.
+    /// The show is in sight. Its picture is fetched once a list, whatever comes of it, and what the pages of the
+    /// channel's shows tell.
     void displayed(const ObjectId& channel, const Show& show);
 
 private:
@@ -50,6 +51,7 @@ private:
     VidoraAppDelegate& m_delegate;
     PicturedRows& m_rows;
     std::unordered_map<ObjectId, std::unordered_map<QString, ShowImage>> m_showImages;
+    std::unordered_map<ObjectId, std::unordered_set<QString>> m_askedPictures; ///< by identifier of the show
     std::unordered_set<ObjectId> m_channelsWithLoadedShowDetails;
     BlockOwner m_mainBlocks;
 };

@@ -1,13 +1,10 @@
 #include "screens/RootViewController.h"
 
-#include "platform/DeviceSettings.h"
 #include "screens/ChannelListViewController.h"
 #include "screens/ChannelViewController.h"
 #include "screens/DetailViewController.h"
 #include "screens/Navigation.h"
 #include "screens/ShowRows.h"
-
-#include <QDateTime>
 
 #include <algorithm>
 
@@ -40,7 +37,7 @@ QString RootViewController::title() const
 
 std::vector<BarButton> RootViewController::rightBarButtonItems() const
 {
-    return {{BarButton::Kind::Text, localized("Currently"), [this] { const_cast<RootViewController*>(this)->list(); },
+    return {{BarButton::Kind::List, localized("Currently"), [this] { const_cast<RootViewController*>(this)->list(); },
              localized("List of the channels")}};
 }
 
@@ -73,7 +70,7 @@ RootViewController::Sections RootViewController::sectionsOf(const std::vector<Ob
     for (const ObjectId& id : channels) {
         ChannelFace face = channelFace(id, m_delegate.channelData());
         QString icon = m_delegate.icons().iconNamed(face.iconName).value_or(QString());
-        sections.push_back({std::move(face), std::move(icon), {}});
+        sections.push_back({std::move(face), std::move(icon), {}, false});
     }
     return sections;
 }
@@ -138,43 +135,22 @@ std::optional<std::size_t> RootViewController::sectionOf(const ObjectId& channel
     return static_cast<std::size_t>(found - m_sections.begin());
 }
 
-AttributedText RootViewController::updatedText(const ObjectId& channel) const
-{
-    const auto object = m_delegate.channels().channelWithChannelId(channel);
-    const auto loaded = object ? object->timeLoaded() : std::nullopt;
-    if (!loaded)
-        return {};
-    const QDateTime local = QDateTime::fromMSecsSinceEpoch(unixMilliseconds(*loaded), DeviceSettings::timeZone());
-    AttributedText text;
-    text.append(localized("Updated ") + DeviceSettings::locale().toString(local, QLocale::ShortFormat),
-                subtitleAttributes());
-    return text;
-}
-
 ScreenRow RootViewController::headerRow(const Section& section) const
 {
-    const bool hasShows = !section.entries.empty();
+    const bool hasShows = !section.entries.empty(), hasFailed = !hasShows && section.hasFailed;
     ScreenRow row;
     row.kind = ScreenRow::Kind::Header;
     row.text.append(section.channel.title, headerAttributes());
-    row.subtitle = updatedText(section.channel.channel);
+    row.subtitle.append(hasFailed ? localized("No list") : updatedText(m_delegate, section.channel.channel),
+                        subtitleAttributes());
     row.backgroundColour = colour::tertiaryFill;
     row.icon = section.icon;
     row.accessory = section.channel.streamURL ? Accessory::Play
                     : hasShows                ? Accessory::Disclosure
+                    : hasFailed               ? Accessory::Retry
                                               : Accessory::Activity;
-    row.selectable = hasShows;
+    row.selectable = hasShows || row.accessory == Accessory::Retry;
     return row;
-}
-
-std::optional<double> RootViewController::progressOf(const TVEntry& entry) const
-{
-    const auto start = entry.dateTime(), end = entry.endDateTime();
-    if (!start || !end || *start == *end)
-        return std::nullopt;
-    const double progress = static_cast<double>((m_delegate.environment().clock.now() - *start).count()) /
-                            static_cast<double>((*end - *start).count());
-    return progress >= 0 && progress <= 1 ? std::optional(progress) : std::nullopt;
 }
 
 ScreenRow RootViewController::rowAt(RowPath path) const
@@ -184,11 +160,12 @@ ScreenRow RootViewController::rowAt(RowPath path) const
     const Show* show = showAt(path);
     if (!show)
         return {};
-    const auto progress = progressOf(*(*show)->entry);
-    ScreenRow row = showRow(m_delegate, *show, progress.has_value());
-    if (m_delegate.imagesEnabled())
-        row.picture = m_pictures.imageOf(m_sections[path.section].channel.channel, *show).value_or(ShowImage());
-    row.progress = progress;
+    ScreenRow row = showRow(m_delegate, *show, progressOf(*(*show)->entry, m_delegate.environment().clock.now()));
+    if (m_delegate.imagesEnabled()) {
+        const auto image = m_pictures.imageOf(m_sections[path.section].channel.channel, *show);
+        row.picture = image.value_or(ShowImage());
+        row.hasPicture = image ? image->width > 0 : (*show)->pictures && !(*show)->pictures->empty();
+    }
     return row;
 }
 
@@ -201,14 +178,37 @@ void RootViewController::selectRow(RowPath path)
         pushFrom(m_delegate, *this, std::make_shared<DetailViewController>(*show, section.channel.iconName));
     else if (path.row == 0 && section.entries.empty() && section.channel.streamURL)
         play(section.channel);
+    else if (path.row == 0 && section.entries.empty() && section.hasFailed)
+        tryAgain(path.section);
     else if (path.row == 0)
         selectedChannelIdentificator(section.channel);
 }
 
 void RootViewController::accessoryTapped(RowPath path)
 {
-    if (path.row == 0 && path.section < m_sections.size())
+    if (path.row != 0 || path.section >= m_sections.size())
+        return;
+    if (m_sections[path.section].channel.streamURL)
         play(m_sections[path.section].channel);
+    else if (m_sections[path.section].hasFailed)
+        tryAgain(path.section);
+}
+
+void RootViewController::tryAgain(std::size_t section)
+{
+    m_sections[section].hasFailed = false;
+    reloadRows(section, 0, 1);
+    m_delegate.checkAndUpdateAllChannels();
+}
+
+void RootViewController::passEnded(const std::vector<ObjectId>& failed)
+{
+    for (std::size_t section = 0; section < m_sections.size(); ++section) {
+        const bool hasFailed =
+            std::find(failed.begin(), failed.end(), m_sections[section].channel.channel) != failed.end();
+        if (std::exchange(m_sections[section].hasFailed, hasFailed) != hasFailed)
+            reloadRows(section, 0, 1);
+    }
 }
 
 void RootViewController::play(const ChannelFace& channel)

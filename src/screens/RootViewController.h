@@ -23,12 +23,14 @@ public:
         ChannelFace channel;
         QString icon; ///< path; empty for none
         ShowList entries;
+        bool hasFailed = false; ///< no source of the channel delivered in the last pass
     };
 
     /// The delegate outlives the screen.
     explicit RootViewController(VidoraAppDelegate& delegate);
 
     QString title() const override;
+    bool showsUpdateState() const override { return true; }
     std::vector<BarButton> rightBarButtonItems() const override;
     QString placeholder() const override;
     std::size_t numberOfSections() const override { return m_sections.size(); }
@@ -47,6 +49,7 @@ public:
     void reloadChannel(const ObjectId& channel, const ShowList& entries) override;
     void selectedChannelsChanged() override;
     void setModifiedSelectedChannels(bool modified) override { m_modifiedSelectedChannels = modified; }
+    void passEnded(const std::vector<ObjectId>& failed) override;
     bool isLoaded() const override { return isViewLoaded(); }
     void notificationsSynched() override { reloadData(); }
     void recolor() override;
@@ -65,8 +68,6 @@ private:
     Sections sectionsOf(const std::vector<ObjectId>& channels) const;
     void show(Sections sections, std::vector<ShowList> entries);
     ScreenRow headerRow(const Section& section) const;
-    AttributedText updatedText(const ObjectId& channel) const;
-    std::optional<double> progressOf(const TVEntry& entry) const;
     const Show* showAt(RowPath path) const;
     std::optional<std::size_t> sectionOf(const ObjectId& channel) const;
     void setEntries(std::size_t section, const ShowList& entries);
@@ -75,6 +76,7 @@ private:
     void selectedChannelIdentificator(const ChannelFace& channel);
     /// Plays the channel's stream, if it has one.
     void play(const ChannelFace& channel);
+    void tryAgain(std::size_t section);
     void chosenInList(const ChannelFace& channel);
 
     const ShowList* entriesOf(const ObjectId& channel) const override;

@@ -21,8 +21,20 @@ const QHash<int, QByteArray>& roles()
                                               {ScreenItemModel::SubtitleColourRole, "subtitleColour"},
                                               {ScreenItemModel::BackgroundColourRole, "backgroundColour"},
                                               {ScreenItemModel::IconRole, "icon"},
-                                              {ScreenItemModel::PictureRole, "picture"},
+                                              {ScreenItemModel::StartRole, "start"},
+                                              {ScreenItemModel::EndRole, "end"},
+                                              {ScreenItemModel::TitleRole, "title"},
+                                              {ScreenItemModel::DetailsRole, "details"},
+                                              {ScreenItemModel::TimeColourRole, "timeColour"},
+                                              {ScreenItemModel::OnAirRole, "onAir"},
+                                              {ScreenItemModel::AlarmRole, "alarm"},
+                                              {ScreenItemModel::FavouriteRole, "favourite"},
+                                              {ScreenItemModel::RepeatRole, "repeat"},
+                                              {ScreenItemModel::PopularRole, "popular"},
                                               {ScreenItemModel::ProgressRole, "progress"},
+                                              {ScreenItemModel::TimeLeftRole, "timeLeft"},
+                                              {ScreenItemModel::PictureRole, "picture"},
+                                              {ScreenItemModel::HasPictureRole, "hasPicture"},
                                               {ScreenItemModel::AccessoryRole, "accessory"},
                                               {ScreenItemModel::SelectableRole, "selectable"},
                                               {ScreenItemModel::SwipeableRole, "swipeable"},
@@ -55,6 +67,8 @@ QString nameOf(Accessory accessory)
         return QStringLiteral("activity");
     case Accessory::Play:
         return QStringLiteral("play");
+    case Accessory::Retry:
+        return QStringLiteral("retry");
     case Accessory::Checkmark:
         return QStringLiteral("checkmark");
     case Accessory::None:
@@ -177,8 +191,8 @@ QVariant ScreenItemModel::value(const ScreenRow& row, int flat, int role) const
         return row.icon.isEmpty() ? QUrl() : QUrl::fromLocalFile(row.icon);
     case PictureRole:
         return row.picture.width > 0 ? row.picture.source : QString();
-    case ProgressRole:
-        return row.progress.value_or(-1);
+    case HasPictureRole:
+        return row.hasPicture;
     case AccessoryRole:
         return nameOf(row.accessory);
     case SelectableRole:
@@ -189,6 +203,38 @@ QVariant ScreenItemModel::value(const ScreenRow& row, int flat, int role) const
         return row.deletable;
     case MovableRole:
         return row.movable;
+    default:
+        return broadcastValue(row.columns.value_or(BroadcastColumns()), role);
+    }
+}
+
+QVariant ScreenItemModel::broadcastValue(const BroadcastColumns& columns, int role)
+{
+    switch (role) {
+    case StartRole:
+        return columns.start;
+    case EndRole:
+        return columns.end;
+    case TitleRole:
+        return plainText(columns.title).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    case DetailsRole:
+        return plainText(columns.details).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    case TimeColourRole:
+        return columns.timeColour;
+    case OnAirRole:
+        return columns.progress.has_value();
+    case AlarmRole:
+        return columns.hasAlarm;
+    case FavouriteRole:
+        return columns.isFavourite;
+    case RepeatRole:
+        return columns.isRepeat;
+    case PopularRole:
+        return columns.isPopular;
+    case ProgressRole:
+        return columns.progress.value_or(-1);
+    case TimeLeftRole:
+        return columns.progress ? localized("%1 min left").arg(std::max(columns.minutesLeft, 0)) : QString();
     default:
         return {};
     }

@@ -23,9 +23,15 @@ namespace vidora {
 ///     `RichTextStyle` subtitle          plain text; empty for none subtitleColour    name of a colour role
 ///     backgroundColour  name of a colour role
 ///     icon              address of a picture file; empty for none
-///     picture           address of the show's picture; empty for none
+///     start, end        times of day of a show; empty where they are not known
+///     title, details    of a show: plain text without control characters, each one line
+///     timeColour        name of a colour role, for the start
+///     onAir, alarm, favourite, repeat, popular
 ///     progress          0 to 1 for a show on air, else -1
-///     accessory         "none", "disclosure", "activity", "play" or "checkmark"
+///     timeLeft          of a show on air, in words; else empty
+///     picture           address of the show's picture; empty for none, or while it comes
+///     hasPicture        a place is kept for one
+///     accessory         "none", "disclosure", "activity", "play", "retry" or "checkmark"
 ///     selectable, swipeable, deletable, movable
 class ScreenItemModel final : public QAbstractListModel, private ScreenView
 {
@@ -42,8 +48,20 @@ public:
         SubtitleColourRole,
         BackgroundColourRole,
         IconRole,
-        PictureRole,
+        StartRole,
+        EndRole,
+        TitleRole,
+        DetailsRole,
+        TimeColourRole,
+        OnAirRole,
+        AlarmRole,
+        FavouriteRole,
+        RepeatRole,
+        PopularRole,
         ProgressRole,
+        TimeLeftRole,
+        PictureRole,
+        HasPictureRole,
         AccessoryRole,
         SelectableRole,
         SwipeableRole,
@@ -92,6 +110,7 @@ private:
     int flatRow(std::size_t section, std::size_t row) const;
     const ScreenRow& rowAt(int row) const;
     QVariant value(const ScreenRow& row, int flat, int role) const;
+    static QVariant broadcastValue(const BroadcastColumns& columns, int role);
 
     const std::shared_ptr<ScreenModel> m_screen;
     RichTextStyle m_style;

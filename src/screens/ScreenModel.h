@@ -22,7 +22,20 @@ enum class Accessory
     Disclosure, ///< selecting the row leads on
     Activity,   ///< something is still being loaded
     Play,       ///< a button of its own: `accessoryTapped`
+    Retry,      ///< the same, where nothing could be loaded
     Checkmark
+};
+
+/// A broadcast as a list shows it in columns. Texts are text, never markup.
+struct BroadcastColumns
+{
+    QString start, end; ///< times of day as the reader writes them; empty where they are not known
+    QString title;
+    QString details; ///< one line below the title; may be empty
+    QString timeColour = colour::secondaryLabel;
+    std::optional<double> progress; ///< of a show on air, 0 to 1
+    int minutesLeft = 0;            ///< of a show on air
+    bool hasAlarm = false, isFavourite = false, isRepeat = false, isPopular = false;
 };
 
 /// A row as it is to be drawn. Texts that came from outside are text, never markup.
@@ -40,9 +53,10 @@ struct ScreenRow
     AttributedText text;     ///< may hold line ends; as many lines as it needs
     AttributedText subtitle; ///< one line below the text, shrunk to fit; may be empty
     QString backgroundColour = colour::secondaryGroupedBackground;
-    QString icon;                   ///< path of a picture file; empty for none
-    ShowImage picture;              ///< beside a show; of width 0 for none
-    std::optional<double> progress; ///< of a show on air, 0 to 1: drawn over the picture
+    QString icon;                            ///< path of a picture file; empty for none
+    std::optional<BroadcastColumns> columns; ///< of a show
+    ShowImage picture;                       ///< beside a show; of width 0 for none
+    bool hasPicture = false;                 ///< there is one, be it that it has not come yet
     Accessory accessory = Accessory::None;
     bool selectable = true; ///< highlights when it is touched; `select` may be called in any case
     bool swipeable = false; ///< `swipeActions` may be asked for
@@ -65,11 +79,13 @@ struct BarButton
     {
         Text,     ///< shows its title
         Activity, ///< turns; can't be pressed
+        List,     ///< of the channels
         Play,
         Refresh,
         Add,
         Trash,
-        Settings
+        Settings,
+        Done ///< leaves the screen
     };
 
     Kind kind = Kind::Text;
@@ -109,6 +125,10 @@ class ScreenModel : public ViewController
 public:
     /// Already in the user's language.
     virtual QString title() const = 0;
+    /// A line below the title; may be empty.
+    virtual QString subtitle() const { return {}; }
+    /// Whether it is the place to say how old the lists are.
+    virtual bool showsUpdateState() const { return false; }
     /// From the right edge inwards.
     virtual std::vector<BarButton> rightBarButtonItems() const { return {}; }
     /// A sentence to show where there are no rows.
@@ -129,6 +149,10 @@ public:
     virtual void deleteRow(RowPath path);
     /// `to` is the row's place once it is taken out of `from`.
     virtual void moveRow(RowPath from, RowPath to);
+
+    /// What has just been done and can be undone for a while, in words; empty for nothing.
+    virtual QString undoText() const { return {}; }
+    virtual void undo() {}
 
     /// Whether the screen can be pulled to refresh it, and whether that is under way.
     virtual bool canRefresh() const { return false; }

@@ -16,6 +16,14 @@ Popup {
     function show(message) {
         alert = message
         open()
+        Qt.callLater(focusUsual) // also where it was open already: then nothing else tells of the new buttons
+    }
+    function focusUsual() {
+        const button = buttons.itemAt(usual)
+        if (!button)
+            return
+        button.forceActiveFocus(Qt.TabFocusReason)
+        button.focusReason = Qt.TabFocusReason // it may have had the focus of the panel already, which shows no ring
     }
     function answer(index) {
         if (index < 0 || !opened)
@@ -31,7 +39,7 @@ Popup {
     modal: true
     focus: true
     closePolicy: Popup.NoAutoClose
-    onOpened: buttons.itemAt(usual)?.forceActiveFocus(Qt.TabFocusReason)
+    onOpened: focusUsual()
 
     Overlay.modal: Rectangle { color: Theme.scrim }
     background: Rectangle {

@@ -36,6 +36,7 @@ ApplicationWindow {
     onClosing: app.keepWindowSize(width, height)
     Component.onCompleted: {
         Theme.scale = app.fontScale
+        Theme.timeSample = app.timeSample
         app.setPad(pad)
         app.setColours(Theme.colours)
     }
@@ -44,6 +45,11 @@ ApplicationWindow {
         property: "dark"
         value: window.app.dark
     }
+    Binding {
+        target: Theme
+        property: "updateState"
+        value: window.app.progress.state
+    }
     Connections {
         target: Theme
         function onColoursChanged() { window.app.setColours(Theme.colours) }
@@ -51,6 +57,10 @@ ApplicationWindow {
     Connections {
         target: window.app
         function onAlertPresented(alert) { alertPanel.show(alert) }
+        function onPlayerChanged() {
+            if (!window.app.player)
+                window.visibleTable()?.forceActiveFocus(Qt.TabFocusReason)
+        }
     }
 
     Item {

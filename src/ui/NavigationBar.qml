@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
 
-// Title of a screen, the way back, and the screen's buttons.
+// Title of a screen, the way back, how old the lists are, and the screen's buttons.
 Rectangle {
     id: bar
 
@@ -18,8 +18,8 @@ Rectangle {
     RowLayout {
         anchors.fill: parent
         anchors.leftMargin: 4
-        anchors.rightMargin: 8
-        spacing: 2
+        anchors.rightMargin: 10
+        spacing: 4
         SymbolButton {
             visible: bar.canGoBack
             symbol: "back"
@@ -27,18 +27,45 @@ Rectangle {
             text: qsTranslate("vidora", "Back")
             onClicked: bar.back()
         }
-        Text {
+        ColumnLayout {
             Layout.fillWidth: true
             Layout.leftMargin: bar.canGoBack ? 0 : Theme.margin - 4
-            text: bar.screen.title
+            spacing: 0
+            Text {
+                Layout.fillWidth: true
+                text: bar.screen.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignLeft
+                maximumLineCount: 1
+                font.pixelSize: Theme.points(19)
+                font.weight: Font.Bold
+                color: Theme.label
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            Text {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: bar.screen.subtitle
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignLeft
+                font.pixelSize: Theme.tiny
+                color: Theme.lightGrey
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+        }
+        Text {
+            Layout.maximumWidth: bar.width * 0.45
+            visible: bar.screen.showsUpdateState && text !== ""
+            text: Theme.updateState
             textFormat: Text.PlainText
             elide: Text.ElideRight
-            horizontalAlignment: Text.AlignLeft
-            maximumLineCount: 1
-            font.pixelSize: Theme.points(20)
-            font.weight: Font.Bold
-            color: Theme.label
-            Accessible.role: Accessible.Heading
+            font.pixelSize: Theme.tiny
+            color: Theme.lightGrey
+            Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
         Repeater {
@@ -60,7 +87,7 @@ Rectangle {
                     id: drawn
                     SymbolButton {
                         symbol: place.modelData.symbol
-                        text: place.modelData.title
+                        text: place.modelData.description || place.modelData.title
                         onClicked: bar.screen.pressBarButton(place.index)
                     }
                 }
@@ -69,7 +96,7 @@ Rectangle {
                     TextButton {
                         text: place.modelData.title
                         description: place.modelData.description ?? ""
-                        symbol: "channels"
+                        prominent: place.modelData.prominent ?? false
                         onClicked: bar.screen.pressBarButton(place.index)
                     }
                 }

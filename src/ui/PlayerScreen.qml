@@ -13,6 +13,8 @@ FocusScope {
 
     readonly property bool playing: player !== null && player.playing
     readonly property bool ready: player !== null && player.ready
+    /// Drawing without a graphics card knows no video.
+    readonly property bool canDraw: GraphicsInfo.api !== GraphicsInfo.Software && GraphicsInfo.api !== GraphicsInfo.Unknown
     property bool awake: true
     readonly property bool controlsShown: awake || !playing || !ready
 
@@ -61,6 +63,17 @@ FocusScope {
         cursorShape: screen.controlsShown ? Qt.ArrowCursor : Qt.BlankCursor
         onPositionChanged: screen.wake()
         onClicked: screen.wake()
+    }
+    Text {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.readableWidth)
+        visible: screen.ready && !screen.canDraw
+        text: qsTranslate("vidora", "The pictures of this stream can't be drawn on this computer.")
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        color: "#ffffff"
+        font.pixelSize: Theme.body
     }
     Column {
         anchors.centerIn: parent

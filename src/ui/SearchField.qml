@@ -44,6 +44,7 @@ Rectangle {
             background: null
             Accessible.role: Accessible.EditableText
             Accessible.name: placeholderText
+            Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape // else it leads back
             Keys.onEscapePressed: event => {
                 if (text === "")
                     search.finished()

@@ -10,6 +10,7 @@ AbstractButton {
     property int symbolSize: 24
     /// Whether the drawing points in the direction of reading.
     property bool mirrors: false
+    property bool round: false
 
     implicitWidth: Theme.touchTarget
     implicitHeight: Theme.touchTarget
@@ -26,8 +27,11 @@ AbstractButton {
     ToolTip.text: text
 
     background: Rectangle {
-        radius: Theme.radius
-        color: button.pressed || button.hovered ? Theme.pressed : "transparent"
+        anchors.fill: parent
+        anchors.margins: button.round ? 4 : 0
+        radius: button.round ? width / 2 : Theme.radius
+        color: button.round ? (button.pressed || button.hovered ? Qt.darker(Theme.accentSoft, 1.06) : Theme.accentSoft)
+             : button.pressed || button.hovered ? Theme.pressed : "transparent"
         border.width: button.visualFocus ? 2 : 0
         border.color: Theme.focus
     }

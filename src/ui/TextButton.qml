@@ -7,10 +7,12 @@ AbstractButton {
 
     property bool prominent: false
     property bool destructive: false
+    /// Whether it stands on a background of the text's colour.
+    property bool inverse: false
     property string symbol
     property string description
 
-    readonly property color tint: prominent ? Theme.accentText : destructive ? Theme.destructive : Theme.accent
+    readonly property color tint: prominent ? Theme.accentText : inverse ? Theme.inverseAccent : destructive ? Theme.destructive : Theme.accent
 
     readonly property int symbolWidth: symbol === "" ? 0 : 26
 
@@ -29,10 +31,10 @@ AbstractButton {
         anchors.bottomMargin: 4
         radius: Theme.radius
         color: button.prominent ? (button.pressed ? Qt.darker(Theme.accent, 1.15) : Theme.accent)
-             : button.pressed || button.hovered ? Theme.pressed
+             : button.pressed || button.hovered ? (button.inverse ? Qt.tint(Theme.label, "#30808080") : Theme.pressed)
              : button.symbol !== "" ? Theme.tertiaryFill : "transparent"
         border.width: button.visualFocus ? 2 : 0
-        border.color: button.prominent ? Theme.label : Theme.focus
+        border.color: button.prominent ? Theme.label : button.inverse ? Theme.inverseAccent : Theme.focus
     }
     contentItem: Item {
         Row {

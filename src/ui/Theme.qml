@@ -7,9 +7,9 @@ import QtQuick
 QtObject {
     property bool dark: false
 
-    readonly property color groupedBackground: dark ? "#101014" : "#f2f2f7"
+    readonly property color groupedBackground: dark ? "#101014" : "#f4f4f8"
     readonly property color secondaryGroupedBackground: dark ? "#1c1c20" : "#ffffff"
-    readonly property color tertiaryFill: dark ? "#292930" : "#e6e6ef"
+    readonly property color tertiaryFill: dark ? "#292930" : "#ececf4"
     readonly property color barBackground: dark ? "#18181c" : "#fafafc"
     readonly property color separator: dark ? "#35353c" : "#d9d9e0"
     readonly property color label: dark ? "#f4f4f7" : "#17171c"
@@ -21,6 +21,7 @@ QtObject {
     readonly property color favouriteOrange: dark ? "#ffa64d" : "#b85c00"
     readonly property color sectionHeader: dark ? "#dfc15a" : "#776006"
     readonly property color accent: indigo
+    readonly property color inverseAccent: dark ? "#4340b8" : "#b9b7ff"
     readonly property color accentText: dark ? "#17171c" : "#ffffff"
     readonly property color destructive: alarmRed
     readonly property color destructiveText: accentText
@@ -32,15 +33,31 @@ QtObject {
     property real scale: 1
     readonly property int body: Math.round(15 * scale)
     readonly property int title: Math.round(18 * scale)
-    readonly property int channel: Math.round(18 * scale)
+    readonly property int rowTitle: Math.round(15.5 * scale)
+    readonly property int leadingTitle: Math.round(16.5 * scale)
     readonly property int small: Math.round(13 * scale)
-    readonly property int tiny: Math.round(11 * scale)
+    readonly property int tiny: Math.round(12 * scale)
 
     readonly property int touchTarget: 44
     readonly property int barHeight: Math.max(52, Math.round(20 * scale) + 26)
     readonly property int margin: 16
     readonly property int spacing: 12
     readonly property int radius: 10
+    readonly property int cardRadius: 14
+    readonly property int pictureRadius: 7
+    readonly property int pictureWidth: 96
+    readonly property int pictureHeight: 54
+    readonly property color accentSoft: dark ? "#2a2946" : "#ecebfb"
+    /// How old the lists are, in words.
+    property string updateState
+    /// As wide as any time of day; `timeSample` is one of them, as the reader writes it.
+    property string timeSample: "20:00"
+    readonly property real timeWidth: Math.ceil(timeMetrics.advanceWidth) + 2
+    readonly property TextMetrics timeMetrics: TextMetrics {
+        font.pixelSize: body
+        font.weight: Font.Bold
+        text: timeSample
+    }
     readonly property int readableWidth: 860
 
     // By the names under which the screens know them.
@@ -64,6 +81,10 @@ QtObject {
         const luminance = 0.2126 * part(background.r) + 0.7152 * part(background.g) + 0.0722 * part(background.b)
         return luminance > 0.179 ? "#17171c" : "#ffffff"
     }
+    /// Milliseconds of a movement; none where the desktop asks for that.
+    property bool reducedMotion: false
+    readonly property int movement: 130
+    function duration(milliseconds) { return reducedMotion ? 0 : milliseconds }
     function points(size) { return Math.round(size * scale) }
     function symbol(name, color) { return "image://symbols/" + name + "/" + String(color).replace("#", "") }
 }

@@ -122,6 +122,7 @@ struct Screen : ViewController, RootScreen, RecolorDelegate
     void selectedChannelsChanged() override { told << QStringLiteral("selectedChannelsChanged"); }
     void setModifiedSelectedChannels(bool) override { told << QStringLiteral("modified"); }
     bool isLoaded() const override { return loaded; }
+    void passEnded(const std::vector<ObjectId>&) override {}
     void recolor() override { told << QStringLiteral("recolor"); }
     QStringList told;
     bool loaded = true;

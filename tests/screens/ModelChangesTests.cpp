@@ -1,6 +1,8 @@
 #include "ScreensFixture.h"
+#include "platform/Timer.h"
 #include "screens/AllChannelsViewController.h"
 #include "screens/ChannelListViewController.h"
+#include "screens/ChannelSearch.h"
 #include "screens/ChannelViewController.h"
 #include "screens/EditChannelListViewController.h"
 
@@ -84,6 +86,22 @@ TEST_F(ModelChangesTest, HomeKeepsItsPlaceWhenTheSameRowsComeAgain)
     home().selectedChannelsChanged();
     DispatchQueue::runMain([&] { return resets > 0; });
     EXPECT_EQ(watched.texts(), words("One|09:30 b|10:30 c|Two"));
+}
+
+TEST_F(ModelChangesTest, HomeSaysThatNoListCameAndTriesAgain)
+{
+    start({channel(1, QStringLiteral("One")), channel(2, QStringLiteral("Two"), QStringLiteral("http://t.example/"))});
+    const auto accessoryOf = [&](std::size_t section) { return home().rowAt({section, 0}).accessory; };
+    EXPECT_EQ(accessoryOf(0), Accessory::Activity);
+    device.update();
+    EXPECT_EQ(accessoryOf(0), Accessory::Retry);
+    EXPECT_EQ(home().rowAt({0, 0}).subtitle.string(), QStringLiteral("No list"));
+    EXPECT_EQ(accessoryOf(1), Accessory::Play) << "what can be played stays so";
+    broadcast(1, words("a"));
+    home().accessoryTapped({0, 0});
+    EXPECT_EQ(accessoryOf(0), Accessory::Activity);
+    DispatchQueue::runMain([&] { return home().numberOfRowsInSection(0) == 2; });
+    EXPECT_EQ(accessoryOf(0), Accessory::Disclosure);
 }
 
 TEST_F(ModelChangesTest, ChannelIsReadAgainWhenItsPassIsOver)
@@ -308,6 +326,59 @@ TEST_F(ModelChangesTest, ChooserFindsTitlesInEitherAlphabet)
         EXPECT_EQ(watched.texts(), QStringList{njiva}) << typed;
     }
     TVEntry::setCyrillicDevice(false);
+}
+
+TEST_F(ModelChangesTest, EditorTakesADeletionBackForTenSeconds)
+{
+    const std::vector<test::TestChannel> all{channel(1, QStringLiteral("One")), channel(2, QStringLiteral("Two")),
+                                             channel(3, QStringLiteral("Three"))};
+    start(all);
+    tabs->selectTab(4);
+    const auto editor = visible<EditChannelListViewController>();
+    WatchedModel watched(editor);
+    ManualTimer timer;
+    EXPECT_EQ(editor->undoText(), QString());
+    editor->deleteRow({0, 1});
+    EXPECT_EQ(editor->undoText(), QStringLiteral("Two removed"));
+    timer.advance(Seconds(9));
+    editor->trash();
+    timer.advance(Seconds(9)); // the first deletion's time is over, not the second's
+    test::settle();
+    EXPECT_EQ(editor->undoText(), QStringLiteral("All channels removed"));
+    editor->undo();
+    EXPECT_EQ(watched.texts(), words("One|Three"));
+    EXPECT_EQ(device.delegate->channels().selected(), (ChannelIds{idOf(all[0]), idOf(all[2])}));
+    EXPECT_EQ(enabledTabs(), std::vector<bool>(5, true));
+    editor->undo();
+    EXPECT_EQ(watched.texts(), words("One|Three")) << "once";
+
+    editor->deleteRow({0, 0});
+    timer.advance(Seconds(10));
+    test::settle();
+    EXPECT_EQ(editor->undoText(), QString());
+    editor->undo();
+    EXPECT_EQ(watched.texts(), words("Three"));
+}
+
+TEST(ChannelSearch, KnowsTheNamesOfLanguages)
+{
+    const auto offered = [](const char* title, const char* language) {
+        OfferedChannel channel;
+        channel.face.catalogueTitle = QString::fromUtf8(title);
+        channel.language = QString::fromUtf8(language);
+        return channel;
+    };
+    const auto finds = [](const char* pattern, const OfferedChannel& channel) {
+        return ChannelSearch(QString::fromUtf8(pattern)).finds(channel);
+    };
+    const OfferedChannel serbian = offered("Шљива Џез", "sr"), english = offered("Plum Channel", "en/fr");
+    for (const char* pattern : {"", "шљива", "ŠLJIVA", "dzez", "sr", "serb", "srpski", "српски"})
+        EXPECT_TRUE(finds(pattern, serbian)) << pattern;
+    for (const char* pattern : {"plum", "пЛум", "french", "français", "engl"})
+        EXPECT_TRUE(finds(pattern, english)) << pattern;
+    EXPECT_FALSE(finds("serb", english));
+    EXPECT_FALSE(finds("french", serbian));
+    EXPECT_FALSE(finds("zzz", offered("", ""))) << "neither title nor language";
 }
 
 TEST_F(ModelChangesTest, ChooserTogglesAndSearches)

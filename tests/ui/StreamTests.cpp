@@ -6,6 +6,7 @@
 #include "support/SampleRegion.h"
 
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QVideoFrame>
@@ -72,8 +73,18 @@ TEST_F(StreamTest, PlaysAStreamAndClosesIt)
     const qint64 paused = player()->position();
     press(Qt::Key_Space);
     await([&] { return player()->isPlaying() && player()->position() > paused; });
+    const auto* window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0));
+    const auto isBelow = [](const QQuickItem* item, const char* type) {
+        for (; item; item = item->parentItem()) {
+            if (QByteArray(item->metaObject()->className()).startsWith(type))
+                return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(isBelow(window->activeFocusItem(), "PlayerScreen"));
     press(Qt::Key_Escape);
     EXPECT_FALSE(m_model.player());
+    EXPECT_TRUE(isBelow(window->activeFocusItem(), "TableScreen")) << "the keys are the list's again";
 }
 
 TEST_F(StreamTest, GivesUpOnAStreamThatNeverStarts)

@@ -98,6 +98,11 @@ TEST_F(WindowTest, IsUsedByKeysAlone)
     }
     const ChannelIds chosen = m_device.delegate().channels().selected();
     ASSERT_EQ(chosen.size(), 3U);
+    type(Qt::Key_F, Qt::ControlModifier);
+    type(Qt::Key_Escape);
+    EXPECT_EQ(screen().searchText(), QString()) << "Escape clears the field before it leads back";
+    ASSERT_FALSE(screen().isRoot());
+    type(Qt::Key_Escape); // out of the field
     type(Qt::Key_Escape);
     ASSERT_TRUE(screen().isRoot());
     type(Qt::Key_Down);
@@ -234,6 +239,23 @@ TEST(MinuteTicks, ComeAtTheStartOfEachMinute)
         EXPECT_EQ(pass(1), 2);
     }
     EXPECT_EQ(pass(60), 2);
+}
+
+TEST(Program, NeedsNoDisplayToHelp)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(utf8(name));
+    for (const auto& [arguments, status] :
+         {std::pair{QStringList{utf8("--help")}, 0}, {{utf8("--nonsense")}, 2}, {QStringList{}, 1}}) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(utf8(VIDORA_PROGRAM) + utf8("-window"), arguments);
+        ASSERT_TRUE(process.waitForFinished(60'000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), status);
+        EXPECT_EQ(process.readAllStandardOutput().isEmpty(), status != 0);
+    }
 }
 
 TEST(Program, LoadsEveryPartOfTheWindowInItsSelfTest)

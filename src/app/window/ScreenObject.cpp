@@ -1,5 +1,8 @@
 #include "app/window/ScreenObject.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vidora {
 
 namespace {
@@ -17,7 +20,10 @@ QString symbolOf(BarButton::Kind kind)
         return QStringLiteral("settings");
     case BarButton::Kind::Trash:
         return QStringLiteral("trash");
+    case BarButton::Kind::List:
+        return QStringLiteral("channels");
     case BarButton::Kind::Text:
+    case BarButton::Kind::Done:
     case BarButton::Kind::Activity:
         break;
     }
@@ -32,6 +38,10 @@ ScreenObject::ScreenObject(std::shared_ptr<ScreenModel> screen, bool isRoot)
 {
     m_rows.onSurroundingsChanged = [this] { Q_EMIT surroundingsChanged(); };
     connect(&m_rows, &QAbstractItemModel::modelReset, this, &ScreenObject::rowsChanged);
+    connect(&m_rows, &QAbstractItemModel::modelReset, this, &ScreenObject::rowsAreOthers);
+    connect(&m_rows, &QAbstractItemModel::dataChanged, this, &ScreenObject::rowsAreOthers);
+    connect(&m_rows, &QAbstractItemModel::rowsInserted, this, &ScreenObject::rowsAreOthers);
+    connect(&m_rows, &QAbstractItemModel::rowsRemoved, this, &ScreenObject::rowsAreOthers);
 }
 
 QVariantList ScreenObject::barButtons() const
@@ -41,7 +51,8 @@ QVariantList ScreenObject::barButtons() const
         buttons.prepend(QVariantMap{{QStringLiteral("title"), button.title},
                                     {QStringLiteral("description"), button.description},
                                     {QStringLiteral("symbol"), symbolOf(button.kind)},
-                                    {QStringLiteral("busy"), button.kind == BarButton::Kind::Activity}});
+                                    {QStringLiteral("busy"), button.kind == BarButton::Kind::Activity},
+                                    {QStringLiteral("prominent"), button.kind == BarButton::Kind::Done}});
     }
     return buttons;
 }
@@ -71,6 +82,8 @@ void ScreenObject::setVisible(bool visible)
     if (visible == m_isVisible)
         return;
     m_isVisible = visible;
+    if (!visible)
+        m_lastInSight = -1;
     Q_EMIT visibleChanged();
 }
 
@@ -113,10 +126,31 @@ void ScreenObject::refresh()
         screen().refresh();
 }
 
-void ScreenObject::rowDisplayed(int row)
+void ScreenObject::rowsInSight(int first, int last)
 {
-    if (isRow(row))
+    const int firstBefore = std::exchange(m_firstInSight, first), lastBefore = std::exchange(m_lastInSight, last);
+    displayed(first, std::min(last, firstBefore - 1));
+    displayed(std::max(first, lastBefore + 1), last);
+}
+
+void ScreenObject::displayed(int first, int last)
+{
+    for (int row = std::max(first, 0); row <= last && isRow(row); ++row)
         screen().rowDisplayed(m_rows.pathOf(row));
+}
+
+/// Not within the change itself, which may be one of many.
+void ScreenObject::rowsAreOthers()
+{
+    if (std::exchange(m_tellsAgain, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_tellsAgain = false;
+            displayed(m_firstInSight, m_lastInSight);
+        },
+        Qt::QueuedConnection);
 }
 
 QVariantList ScreenObject::swipeActions(int row)

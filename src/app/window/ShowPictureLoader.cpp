@@ -4,6 +4,7 @@
 #include "platform/WorkerPool.h"
 
 #include <QCryptographicHash>
+#include <QPainter>
 
 namespace vidora {
 
@@ -37,9 +38,34 @@ ShowPictureImages::ShowPictureImages(std::shared_ptr<const ShowPictureShelf> she
 {
 }
 
-QImage ShowPictureImages::requestImage(const QString& id, QSize* size, const QSize&)
+namespace {
+
+/// Fills the size, with round corners: drawing without a graphics card can't clip to them.
+QImage roundedTo(const QImage& image, QSize size)
+{
+    constexpr double radius = 7.0 / 96; // of the width
+    QImage rounded(size, QImage::Format_ARGB32_Premultiplied);
+    rounded.fill(Qt::transparent);
+    const QSize filling = image.size().scaled(size, Qt::KeepAspectRatioByExpanding);
+    const QPoint corner((size.width() - filling.width()) / 2, (size.height() - filling.height()) / 2);
+    QPainter painter(&rounded);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    QBrush brush(image);
+    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y())
+                           .scale(double(filling.width()) / image.width(), double(filling.height()) / image.height()));
+    painter.setBrush(brush);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(rounded.rect(), radius * size.width(), radius * size.width());
+    return rounded;
+}
+
+} // namespace
+
+QImage ShowPictureImages::requestImage(const QString& id, QSize* size, const QSize& requestedSize)
 {
     QImage image = m_shelf->get(id);
+    if (!image.isNull() && !requestedSize.isEmpty())
+        image = roundedTo(image, requestedSize.boundedTo(QSize(1024, 1024)));
     if (size)
         *size = image.size();
     return image;

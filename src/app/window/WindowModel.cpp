@@ -1,5 +1,7 @@
 #include "app/window/WindowModel.h"
 
+#include "content/BroadcastTime.h"
+
 #include <QFontInfo>
 #include <QGuiApplication>
 
@@ -17,6 +19,7 @@ const QString heightKey = QStringLiteral("window.height");
 WindowModel::WindowModel(VidoraAppDelegate& delegate)
     : m_delegate(delegate)
     , m_tabs(delegate)
+    , m_progress(delegate)
     , m_minutes(delegate.environment().clock, [this] { timePassed(); })
 {
     m_tabs.tabsChanged = [this] { followTabs(); };
@@ -42,6 +45,11 @@ qreal WindowModel::fontScale() const
 {
     constexpr qreal usualPixels = 13; // ten points at 96 dots an inch
     return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / usualPixels, 0.85, 2.5);
+}
+
+QString WindowModel::timeSample() const
+{
+    return broadcastTimeText(m_delegate.environment().clock.now());
 }
 
 QSize WindowModel::windowSize() const
@@ -131,6 +139,7 @@ void WindowModel::timePassed()
 {
     if (const auto screen = m_tabs.visibleScreen())
         screen->timePassed();
+    m_progress.timePassed();
 }
 
 void WindowModel::followPlayer()

@@ -32,6 +32,8 @@ class WindowModel final : public QObject
     Q_PROPERTY(QString playerTitle READ playerTitle NOTIFY playerChanged)
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
     Q_PROPERTY(qreal fontScale READ fontScale CONSTANT)
+    /// A time of day as the reader writes it.
+    Q_PROPERTY(QString timeSample READ timeSample CONSTANT)
     Q_PROPERTY(QSize windowSize READ windowSize CONSTANT)
 
 public:
@@ -49,6 +51,7 @@ public:
     QString playerTitle() { return m_tabs.stream().title(); }
     bool isDark() const { return m_isDark; }
     qreal fontScale() const;
+    QString timeSample() const;
     /// The size that the window had when it was last closed.
     QSize windowSize() const;
 

@@ -33,7 +33,12 @@ QtObject {
         }
         return -1
     }
-    function rowDisplayed(row) {}
+    property int lastInSight: -1
+    function rowsInSight(first, last) { lastInSight = last }
+    property string undoText
+    property string subtitle
+    property bool showsUpdateState: false
+    function undo() { note("undo") }
     function swipeActions(row) { return actions }
     function performSwipe(row, action) { note("swipe", row, action) }
 
@@ -42,8 +47,10 @@ QtObject {
         for (const text of texts)
             rows.append(Object.assign({
                 kind: "show", section: section, row: 0, sectionTitle: "", text: text, richText: text, subtitle: "",
-                subtitleColour: "secondaryLabel", backgroundColour: "secondaryGroupedBackground", icon: "", picture: "",
-                progress: -1, accessory: "none", selectable: true, swipeable: false, deletable: false, movable: false
+                subtitleColour: "secondaryLabel", backgroundColour: "secondaryGroupedBackground", icon: "", start: "20:00",
+                end: "21:00", title: text, details: "", timeColour: "secondaryLabel", onAir: false, alarm: false,
+                favourite: false, repeat: false, popular: false, progress: -1, timeLeft: "", picture: "", hasPicture: false,
+                accessory: "none", selectable: true, swipeable: false, deletable: false, movable: false
             }, properties))
     }
 }

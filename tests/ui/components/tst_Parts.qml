@@ -15,7 +15,7 @@ TestCase {
     Component { id: fields; SearchField { width: 300 } }
     Component { id: alerts; AlertPanel {} }
     Component { id: bars; UpdateBar { width: 300 } }
-    Component { id: pass; QtObject { property bool running; property int done; property int wanted } }
+    Component { id: pass; QtObject { property bool running; property int done; property int wanted; property bool offline: false; property string state } }
     Component { id: spies; SignalSpy {} }
 
     function spyOn(target, signalName) { return createTemporaryObject(spies, test, {target: target, signalName: signalName}) }
@@ -78,6 +78,16 @@ TestCase {
         compare(panel.visible && data.answer.length > 0, false)
     }
 
+    function test_secondAlertHasItsFocusToo() {
+        const panel = createTemporaryObject(alerts, test)
+        panel.answered.connect(() => { if (panel.alert.message === "first") panel.show({title: "T", message: "second", actions: [ok]}) })
+        panel.show({title: "T", message: "first", actions: [ok]})
+        tryCompare(panel, "opened", true)
+        keyClick(Qt.Key_Return)
+        tryVerify(() => panel.opened && panel.alert.message === "second")
+        tryVerify(() => test.Window.window.activeFocusItem?.visualFocus === true)
+    }
+
     function test_alertStacksLongButtons() {
         const panel = createTemporaryObject(alerts, test)
         panel.show({title: "T", message: "m", actions: [{title: "Wiederkehrenden Alarm entfernen", destructive: true}, cancel]})
@@ -96,6 +106,13 @@ TestCase {
         tryVerify(() => bar.implicitHeight > 15)
         compare(bar.Accessible.name, "12 of 40 channels")
         progress.running = false
+        tryCompare(bar, "implicitHeight", 0)
+        progress.state = "Updated 5 min ago"
+        compare(bar.implicitHeight, 0, "that is said elsewhere")
+        progress.offline = true
+        tryVerify(() => bar.implicitHeight > 15)
+        compare(bar.Accessible.name, "No connection. Updated 5 min ago")
+        progress.offline = false
         tryCompare(bar, "implicitHeight", 0)
     }
 }

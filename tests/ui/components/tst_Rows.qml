@@ -104,7 +104,7 @@ TestCase {
     }
 
     function test_editorByMouseAndKeys() {
-        screen.add(0, ["one", "two", "three"], {deletable: true, movable: true, selectable: false})
+        screen.add(0, ["one", "two", "three"], {kind: "channel", deletable: true, movable: true, selectable: false})
         open()
         list().currentIndex = 0
         keyClick(Qt.Key_Down, Qt.AltModifier)
@@ -127,10 +127,10 @@ TestCase {
     }
 
     function test_rowsAreMirrored() {
-        screen.add(0, ["one"], {deletable: true, movable: true, icon: "/none.png"})
+        screen.add(0, ["one"], {kind: "channel", deletable: true, movable: true, icon: "/none.png"})
         open()
         const parts = () => [all(rowNamed("one"), item => item.symbol === "delete")[0],
-                             all(rowNamed("one"), item => item instanceof RowPicture)[0],
+                             all(rowNamed("one"), item => item instanceof ChannelIcon)[0],
                              all(rowNamed("one"), item => item instanceof ReorderHandle)[0]].map(item => item.mapToItem(table, 0, 0).x)
         const [remove, picture, handle] = parts()
         verify(remove < picture && picture < handle)
@@ -138,6 +138,61 @@ TestCase {
         table.LayoutMirroring.childrenInherit = true
         const mirrored = parts()
         verify(mirrored[0] > mirrored[1] && mirrored[1] > mirrored[2])
+    }
+
+    function test_rowsInTheMarginAreNotInSight() {
+        screen.add(0, Array.from({length: 60}, (_, i) => "row " + i))
+        open()
+        tryVerify(() => screen.lastInSight > 0)
+        compare(screen.lastInSight, list().indexAt(100, list().contentY + list().height - 1))
+        verify(list().itemAtIndex(screen.lastInSight + 2), "the list holds more of them ready")
+    }
+
+    function test_whatWasDoneCanBeUndone() {
+        screen.add(0, ["one"])
+        open()
+        verify(!buttonNamed("Undo").parent.visible)
+        screen.undoText = "two removed"
+        tryVerify(() => buttonNamed("Undo").parent.opacity === 1)
+        mouseClick(buttonNamed("Undo"))
+        compare(screen.calls, ["undo"])
+    }
+
+    function test_menuHasWhatTheButtonOfTheRowDoes() {
+        screen.add(0, ["one"], {kind: "header", accessory: "play"})
+        open()
+        list().currentIndex = 0
+        keyClick(Qt.Key_Menu)
+        tryCompare(table.menu, "opened", true)
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Return)
+        compare(screen.calls, ["accessory 0"])
+    }
+
+    function test_aDragBeyondTheEdgeScrolls() {
+        screen.add(0, Array.from({length: 40}, (_, i) => "row " + i), {kind: "channel", deletable: true, movable: true, selectable: false})
+        open()
+        const handle = all(rowNamed("row 2"), item => item instanceof ReorderHandle)[0]
+        const x = handle.mapToItem(table, 22, 0).x
+        mousePress(handle)
+        mouseMove(table, x, test.height - 4)
+        tryVerify(() => list().contentY > 300, 5000)
+        mouseRelease(table, x, test.height - 4)
+        verify(screen.calls.length > 0)
+    }
+
+    function test_tabReachesTheListThenTheBar() {
+        screen.add(0, ["one", "two"], {kind: "channel", deletable: true, movable: true, selectable: false, accessory: "play"})
+        screen.barButtons = [{title: "Add", symbol: "add", busy: false}]
+        screen.searchable = true
+        open()
+        verify(list().activeFocus)
+        keyClick(Qt.Key_Tab)
+        verify(all(table, item => item.placeholderText !== undefined && item.activeFocus)[0])
+        keyClick(Qt.Key_Tab)
+        verify(all(table, item => item.text === "Add" && item.activeFocus === true)[0])
+        keyClick(Qt.Key_Tab)
+        verify(list().activeFocus, "round again, and no row between")
     }
 
     function test_keysLeadThroughTheTable() {
@@ -180,7 +235,7 @@ TestCase {
     }
 
     function test_targetsAreLargeEnough() {
-        screen.add(0, ["one"], {deletable: true, movable: true, accessory: "play"})
+        screen.add(0, ["one"], {kind: "channel", deletable: true, movable: true, accessory: "play"})
         screen.barButtons = [{title: "Add", symbol: "add", busy: false}, {title: "Text", symbol: "", busy: false}]
         screen.root = false
         screen.searchable = true
