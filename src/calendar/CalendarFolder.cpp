@@ -130,8 +130,9 @@ Calendar CalendarFolder::describe(const QString& identifier, const QString& sour
     const QString title = attribute(QStringLiteral("displayname"));
     const bool writable =
         ::access(QFile::encodeName(m_path), W_OK | X_OK) == 0 && !QFile::exists(pathOf(QStringLiteral(".readonly")));
-    return {identifier, title.isEmpty() ? identifier : title, source,
-            CalendarColor::fromText(attribute(QStringLiteral("color"))), writable};
+    return {identifier, title.isEmpty() ? identifier : title,
+            source,     CalendarColor::fromText(attribute(QStringLiteral("color"))),
+            writable,   attribute(QStringLiteral(".address"))};
 }
 
 } // namespace vidora

@@ -24,7 +24,8 @@ public:
     bool hasFile(const QString& name) const { return m_stamps.contains(name); }
     QString pathOf(const QString& name) const;
 
-    /// Title, colour and whether it can be written, as of now. A hidden file ".readonly" says that it can't.
+    /// Title, colour and whether it can be written, as of now. A hidden file ".readonly" says that it can't, ".address"
+    /// where it lies on a server.
     Calendar describe(const QString& identifier, const QString& source) const;
 
 private:

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -33,6 +34,9 @@ struct Calendar
     QString source;                     ///< title of the account or place that the calendar belongs to
     std::optional<CalendarColor> color; ///< nothing when the calendar names none
     bool allowsContentModifications = false;
+    /// Where it lies on its server: the same on all devices, and for as long as the calendar lies there, whatever it is
+    /// called. Empty for one that is on no server.
+    QString address = {};
 
     friend bool operator==(const Calendar& a, const Calendar& b)
     {
@@ -57,6 +61,8 @@ struct EventAlarm
 struct Event
 {
     QString eventIdentifier; ///< empty until it is first saved; then for good
+    /// Mark of the device that made the event; empty for what others made, and for events of before there were marks.
+    QString device;
     QString title;
     QString location;
     std::optional<URL> url;
@@ -65,8 +71,20 @@ struct Event
     bool allDay = false;
     Calendar calendar;
     std::vector<EventAlarm> alarms; ///< in the order of the event
+    /// The event as it was when it came out of a store that others write to as well: tells what was changed since from
+    /// what was only read. The store's; shared by copies.
+    std::shared_ptr<const Event> asRead;
 
     bool hasAlarms() const { return !alarms.empty(); }
+    /// The alarm that tells how the event rings: the first ahead of the start, else the last. The event has alarms.
+    EventAlarm tellingAlarm() const
+    {
+        for (const EventAlarm& alarm : alarms) {
+            if (alarm.relativeOffset < Seconds{0})
+                return alarm;
+        }
+        return alarms.back();
+    }
 };
 
 } // namespace vidora

@@ -1,5 +1,7 @@
 #include "calendar/FolderEventStore.h"
 
+#include "calendar/EventMerge.h"
+#include "calendar/ICalendarProperty.h"
 #include "platform/Log.h"
 
 #include <QCryptographicHash>
@@ -46,6 +48,16 @@ QString freshIdentity(Random& random)
     while (bytes.size() < 16)
         bytes.append(static_cast<char>(random.uniform(256)));
     return QString::fromLatin1(bytes.toHex());
+}
+
+/// An event as it is read back once it was written.
+Event asWritten(Event event)
+{
+    event.title = ICalendarProperty::cleaned(event.title);
+    event.location = ICalendarProperty::cleaned(event.location);
+    event.startDate = std::chrono::floor<Seconds>(event.startDate);
+    event.endDate = std::chrono::floor<Seconds>(event.endDate);
+    return event;
 }
 
 EventStoreError failure(const QString& path, const FileResult& result)
@@ -148,6 +160,8 @@ Event FolderEventStore::complete(const Place& place, Event event, const Calendar
 {
     event.eventIdentifier = identifierOf(place);
     event.calendar = calendar;
+    event.asRead = nullptr;
+    event.asRead = std::make_shared<const Event>(event);
     return event;
 }
 
@@ -227,19 +241,29 @@ void FolderEventStore::add(Event& event)
     QString uid = event.url ? identityOf(*event.url) : freshIdentity(m_random);
     Place place{event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")};
     const auto present = find(place);
-    if (present && present->single && event.url && present->event.url == event.url) { // be it moved by hand since
-        event.eventIdentifier = identifierOf(place);
-        const auto earlier = m_waiting.find(place);
-        m_waiting.insert_or_assign(place,
-                                   Waiting{event, uid, false, earlier != m_waiting.end() && earlier->second.added});
+    if (present && present->single && event.url && present->event.url == event.url && // be it moved by hand since
+        (present->event.device.isEmpty() || present->event.device == event.device)) {
+        event = laidOver(event, present->event);
+        change(place, event);
         return;
     }
     if (folder(place.first).hasFile(place.second) || m_waiting.contains(place)) {
         uid = freshIdentity(m_random);
         place.second = uid + QStringLiteral(".ics");
     }
-    event.eventIdentifier = identifierOf(place);
+    event = complete(place, event, event.calendar);
     m_waiting.insert_or_assign(place, Waiting{event, uid, false, true});
+}
+
+void FolderEventStore::change(const Place& place, const Event& event)
+{
+    if (const auto earlier = m_waiting.find(place); earlier != m_waiting.end()) {
+        earlier->second.event = event;
+        return;
+    }
+    const auto base = event.asRead ? event.asRead : find(place)->event.asRead;
+    if (!sameContent(*base, asWritten(event)))
+        m_waiting.insert_or_assign(place, Waiting{event, {}, false, false, base});
 }
 
 std::optional<EventStoreError> FolderEventStore::saveEvent(Event& event, EventSpan, bool commit)
@@ -249,13 +273,16 @@ std::optional<EventStoreError> FolderEventStore::saveEvent(Event& event, EventSp
         return error;
     if (event.endDate < event.startDate)
         return EventStoreError{QStringLiteral("the event ends before it starts")};
-    if (event.eventIdentifier.isEmpty()) {
+    if (event.eventIdentifier.isEmpty())
         add(event);
-    } else {
-        Waiting& change = m_waiting[placeOf(event.eventIdentifier)];
-        change.event = event;
-    }
-    return commit ? writeAll() : std::nullopt;
+    else
+        change(placeOf(event.eventIdentifier), event);
+    if (!commit)
+        return std::nullopt;
+    auto error = writeAll();
+    if (!error) // what is changed from here on is changed against this
+        event = complete(placeOf(event.eventIdentifier), event, event.calendar);
+    return error;
 }
 
 std::optional<EventStoreError> FolderEventStore::removeEvent(const Event& event, EventSpan, bool commit)
@@ -302,30 +329,42 @@ std::optional<EventStoreError> FolderEventStore::write(const Place& place, const
     const QString path = m_folder + QLatin1Char('/') + identifierOf(place);
     if (change.removed)
         return removeFile(place, path);
-    if (!QFile::exists(path)) {
-        if (change.added)
-            return writeFile(path, ICalendarEvent::write(change.uid, change.event, m_clock.now()));
+    if (QFile::exists(path))
+        return changeFile(path, change);
+    if (!change.added) {
         Log::line(QStringLiteral("calendar event %1 was removed elsewhere and stays so").arg(path));
         return std::nullopt;
     }
-    const auto bytes = AtomicFile::read(path, ICalendarEvent::maximumSize);
-    const auto present = bytes ? ICalendarEvent::read(*bytes) : std::nullopt;
-    if (!present || !present->single) {
-        Log::line(QStringLiteral("calendar event %1 was changed elsewhere and is left alone").arg(path));
-        return std::nullopt;
-    }
-    const auto changed = ICalendarEvent::change(*bytes, change.event, m_clock.now());
-    return changed ? writeFile(path, *changed) : std::nullopt;
+    const FileResult written =
+        AtomicFile::write(path, ICalendarEvent::write(change.uid, change.event, m_clock.now()),
+                          AtomicFile::Access::OwnerOnly, AtomicFile::Durability::Synced, m_layer);
+    return written.failed() ? std::optional(failure(path, written)) : std::nullopt;
 }
 
-std::optional<EventStoreError> FolderEventStore::writeFile(const QString& path, const QByteArray& bytes)
+std::optional<EventStoreError> FolderEventStore::changeFile(const QString& path, const Waiting& change)
 {
-    // A calendar that its owner shares with others stays shared.
-    const bool shared = QFileInfo(path).permission(QFile::ReadOther);
-    const FileResult written =
-        AtomicFile::write(path, bytes, shared ? AtomicFile::Access::Everyone : AtomicFile::Access::OwnerOnly,
-                          AtomicFile::Durability::Synced, m_layer);
-    return written.failed() ? std::optional(failure(path, written)) : std::nullopt;
+    constexpr int patience = 5; // with a program that writes the same file over and over
+    for (int attempt = 1;; ++attempt) {
+        const auto bytes = AtomicFile::read(path, ICalendarEvent::maximumSize);
+        const auto present = bytes ? ICalendarEvent::read(*bytes) : std::nullopt;
+        if (!present || !present->single) {
+            Log::line(QStringLiteral("calendar event %1 was changed elsewhere and is left alone").arg(path));
+            return std::nullopt;
+        }
+        const Event wanted =
+            change.base ? merged(*change.base, change.event, present->event) : laidOver(change.event, present->event);
+        const auto changed = ICalendarEvent::change(*bytes, wanted, m_clock.now());
+        if (!changed)
+            return std::nullopt;
+        // A calendar that its owner shares with others stays shared.
+        const bool shared = QFileInfo(path).permission(QFile::ReadOther);
+        const FileResult replaced = AtomicFile::replace(
+            path, *bytes, *changed, shared ? AtomicFile::Access::Everyone : AtomicFile::Access::OwnerOnly, m_layer);
+        if (!replaced.failed())
+            return std::nullopt;
+        if (replaced.code != ESTALE || attempt == patience)
+            return failure(path, replaced);
+    }
 }
 
 std::optional<EventStoreError> FolderEventStore::removeFile(const Place& place, const QString& path)

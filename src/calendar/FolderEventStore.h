@@ -12,11 +12,12 @@ namespace vidora {
 
 /// Calendars in folders: every folder below one of the user's is a calendar in the vdir layout, which other calendar
 /// programs and synchronisers read and write as well. Files are written whole and renamed into place. A change of an
-/// event is applied to the bytes that lie there at that moment, and to nothing but the properties that this program
-/// knows; whatever else the folder holds is never touched.
+/// event is applied to the bytes that lie there at that moment, and to nothing but the properties that were changed;
+/// whatever else the folder holds is never touched.
 ///
 /// A new event with an address gets its identity from that address, so that the same event made twice, here or by
-/// another device that shares the folder, is one event, wherever the user has moved it.
+/// another device that shares the folder, is one event, wherever the user has moved it. An event that another device
+/// has marked as its own is not taken for the same one.
 class FolderEventStore final : public EventStore
 {
 public:
@@ -58,6 +59,7 @@ private:
         QString uid;
         bool removed = false;
         bool added = false;
+        std::shared_ptr<const Event> base = nullptr; ///< what was changed; null for what was added or removed
     };
     /// Where an event lies: the folder's and the file's name.
     using Place = std::pair<QString, QString>;
@@ -73,9 +75,10 @@ private:
     std::optional<Found> find(const Place& place);
     std::optional<EventStoreError> refusal(const Event& event);
     void add(Event& event);
+    void change(const Place& place, const Event& event);
     std::optional<EventStoreError> writeAll();
     std::optional<EventStoreError> write(const Place& place, const Waiting& change);
-    std::optional<EventStoreError> writeFile(const QString& path, const QByteArray& bytes);
+    std::optional<EventStoreError> changeFile(const QString& path, const Waiting& change);
     std::optional<EventStoreError> removeFile(const Place& place, const QString& path);
 
     const QString m_folder;

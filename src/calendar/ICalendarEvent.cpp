@@ -5,6 +5,7 @@
 #include "platform/DeviceSettings.h"
 
 #include <QDateTime>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -13,6 +14,8 @@ namespace vidora {
 namespace {
 
 constexpr std::size_t maximalAlarms = 64;
+/// Which device made an event (RFC 5545, 3.8.8.2): of several that write to one calendar each looks after its own.
+const QByteArray deviceProperty("X-VIDORA-DEVICE");
 
 /// A day isn't 24 hours long when the clocks change.
 Instant startOfNextDay(Instant start)
@@ -20,6 +23,18 @@ Instant startOfNextDay(Instant start)
     const QTimeZone zone = DeviceSettings::timeZone();
     const QDate date = QDateTime::fromMSecsSinceEpoch(unixMilliseconds(start), zone).date();
     return instantFromUnixMilliseconds(date.addDays(1).startOfDay(zone).toMSecsSinceEpoch());
+}
+
+QByteArray deviceLine(const QString& device)
+{
+    return device.isEmpty() ? QByteArray() : deviceProperty + QByteArray(":") + device.toLatin1() + "\r\n";
+}
+
+QString deviceOf(const QByteArray& line)
+{
+    static const QRegularExpression mark(QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-f]{1,64}")));
+    const QString text = QString::fromLatin1(line.mid(line.indexOf(':') + 1).trimmed());
+    return mark.match(text).hasMatch() ? text : QString();
 }
 
 /// Reads the properties of one document that has been taken apart.
@@ -51,13 +66,18 @@ public:
     }
     std::optional<EventAlarm> readAlarm(const ICalendarLines::Range& range) const
     {
+        const auto index = triggerOf(range);
+        const auto offset = index ? ICalendarProperty(m_parts.lines[*index].unfolded(m_document))
+                                        .triggerOffset(m_result.event.startDate, m_result.event.endDate)
+                                  : std::nullopt;
+        return offset ? std::optional(EventAlarm{*offset}) : std::nullopt;
+    }
+    /// The line of an alarm that says when it rings.
+    std::optional<std::size_t> triggerOf(const ICalendarLines::Range& range) const
+    {
         for (std::size_t index = range.begin; index < range.end; ++index) {
-            const ICalendarLine& line = m_parts.lines[index];
-            if (line.name != "TRIGGER")
-                continue;
-            const auto offset = ICalendarProperty(line.unfolded(m_document))
-                                    .triggerOffset(m_result.event.startDate, m_result.event.endDate);
-            return offset ? std::optional(EventAlarm{*offset}) : std::nullopt;
+            if (m_parts.lines[index].name == "TRIGGER")
+                return index;
         }
         return std::nullopt;
     }
@@ -74,6 +94,8 @@ private:
         static const std::vector<QByteArray> ofSeries{"RRULE", "RDATE", "RECURRENCE-ID", "EXRULE"};
         if (std::find(ofSeries.begin(), ofSeries.end(), line.name) != ofSeries.end())
             m_result.single = false;
+        if (line.name == deviceProperty)
+            m_result.event.device = deviceOf(line.unfolded(m_document));
         static const std::vector<QByteArray> wanted{"UID",     "SUMMARY", "LOCATION", "URL",
                                                     "DTSTART", "DTEND",   "DURATION"};
         if (std::find(wanted.begin(), wanted.end(), line.name) == wanted.end())
@@ -165,6 +187,8 @@ PropertyLines changedLines(const Event& before, const Event& after, Instant now)
         lines.emplace_back("LOCATION", textLineOrNothing("LOCATION", after.location));
     if (before.url != after.url)
         lines.emplace_back("URL", after.url ? ICalendarProperty::urlLine(*after.url) : QByteArray());
+    if (before.device != after.device)
+        lines.emplace_back(deviceProperty, deviceLine(after.device));
     if (!lines.empty() || before.alarms != after.alarms)
         lines.emplace_back("DTSTAMP", ICalendarProperty::momentLine("DTSTAMP", now, false));
     return lines;
@@ -194,6 +218,7 @@ public:
         if (!placed)
             m_added += line;
     }
+    void replace(std::size_t line, const QByteArray& text) { m_replacements[line] = text; }
     void remove(const ICalendarLines::Range& range)
     {
         for (std::size_t index = range.begin; index < range.end; ++index)
@@ -229,6 +254,33 @@ private:
     QByteArray m_addedComponents;
 };
 
+/// Alarms that stay keep every line, but for a moment that would not follow the event by itself.
+void changeAlarms(const QByteArray& document, const ICalendarLines& parts, const Event& before, const Event& after,
+                  Rewriter& rewriter)
+{
+    EventReader reader(document, parts), moved(document, parts);
+    reader.setMoments(before.startDate, before.endDate);
+    moved.setMoments(after.startDate, after.endDate);
+    std::vector<EventAlarm> missing = after.alarms;
+    for (const ICalendarLines::Range& range : parts.alarms) {
+        const auto alarm = reader.readAlarm(range);
+        const auto kept = alarm ? std::find(missing.begin(), missing.end(), *alarm) : missing.end();
+        if (kept == missing.end()) {
+            if (alarm)
+                rewriter.remove(range);
+            continue;
+        }
+        missing.erase(kept);
+        if (moved.readAlarm(range) == alarm)
+            continue;
+        const std::size_t line = *reader.triggerOf(range);
+        rewriter.replace(line, ICalendarProperty(parts.lines[line].unfolded(document))
+                                   .movedTriggerLine(alarm->relativeOffset, after.startDate, after.endDate));
+    }
+    for (const EventAlarm& alarm : missing)
+        rewriter.add(alarmText(alarm, after.title));
+}
+
 } // namespace
 
 std::optional<ICalendarEvent> ICalendarEvent::read(const QByteArray& document)
@@ -248,6 +300,7 @@ QByteArray ICalendarEvent::write(const QString& uid, const Event& event, Instant
     text += textLineOrNothing("SUMMARY", event.title) + textLineOrNothing("LOCATION", event.location);
     if (event.url)
         text += ICalendarProperty::urlLine(*event.url);
+    text += deviceLine(event.device);
     for (const EventAlarm& alarm : event.alarms)
         text += alarmText(alarm, event.title);
     return text + "END:VEVENT\r\nEND:VCALENDAR\r\n";
@@ -266,19 +319,7 @@ std::optional<QByteArray> ICalendarEvent::change(const QByteArray& document, con
     for (const auto& [name, line] : lines)
         rewriter.replace(name, line);
 
-    EventReader reader(document, *parts);
-    reader.setMoments(present->event.startDate, present->event.endDate);
-    std::vector<EventAlarm> missing = event.alarms;
-    for (const ICalendarLines::Range& range : parts->alarms) {
-        const auto alarm = reader.readAlarm(range);
-        const auto kept = alarm ? std::find(missing.begin(), missing.end(), *alarm) : missing.end();
-        if (kept != missing.end())
-            missing.erase(kept);
-        else if (alarm)
-            rewriter.remove(range);
-    }
-    for (const EventAlarm& alarm : missing)
-        rewriter.add(alarmText(alarm, event.title));
+    changeAlarms(document, *parts, present->event, event, rewriter);
     return rewriter.result();
 }
 

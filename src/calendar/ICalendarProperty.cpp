@@ -36,14 +36,18 @@ std::optional<Seconds> seconds(const icaldurationtype& duration)
 
 QTimeZone zoneNamed(const QByteArray& name, const std::map<QByteArray, QByteArray>& locations)
 {
+    constexpr qsizetype longestName = 256;
     const auto location = locations.find(name);
-    QByteArray id = location == locations.end() ? name : location->second;
+    const QByteArray id = location == locations.end() ? name : location->second;
+    if (id.size() > longestName || name.size() > longestName)
+        return {};
     // Some programs put the origin of their zone data ahead of the name: "/example.org/20070227_1/Europe/Berlin".
-    while (!id.isEmpty()) {
-        if (QTimeZone::isTimeZoneIdAvailable(id))
-            return QTimeZone(id);
-        const qsizetype slash = id.indexOf('/');
-        id = slash < 0 ? QByteArray() : id.mid(slash + 1);
+    for (qsizetype from = 0; from < id.size();) {
+        const QByteArray part = id.mid(from);
+        if (QTimeZone::isTimeZoneIdAvailable(part))
+            return QTimeZone(part);
+        const qsizetype slash = id.indexOf('/', from);
+        from = slash < 0 ? id.size() : slash + 1;
     }
     const QByteArray known = QTimeZone::windowsIdToDefaultIanaId(name);
     return known.isEmpty() ? QTimeZone() : QTimeZone(known);
@@ -74,6 +78,12 @@ std::optional<Instant> instantOf(const icaltimetype& time, const QTimeZone& zone
     if (!clock.isValid())
         return std::nullopt;
     return firstShowing(QDateTime(date, clock, Qt::UTC).toMSecsSinceEpoch(), zone);
+}
+
+icaldurationtype boundedDuration(Seconds offset)
+{
+    const auto bounded = std::min<std::int64_t>(std::abs(offset.count()), std::numeric_limits<int>::max());
+    return icaldurationtype_from_int(static_cast<int>(offset.count() < 0 ? -bounded : bounded));
 }
 
 QByteArray lineOf(icalproperty* property)
@@ -162,10 +172,29 @@ std::optional<Seconds> ICalendarProperty::triggerOffset(Instant eventStart, Inst
         return instant ? std::optional(std::chrono::floor<Seconds>(*instant - eventStart)) : std::nullopt;
     }
     const auto offset = icaldurationtype_is_bad_duration(trigger.duration) ? std::nullopt : seconds(trigger.duration);
-    icalparameter* related = icalproperty_get_first_parameter(m_property.get(), ICAL_RELATED_PARAMETER);
-    if (offset && related && icalparameter_get_related(related) == ICAL_RELATED_END)
+    if (offset && isRelatedToEnd())
         return *offset + std::chrono::floor<Seconds>(eventEnd - eventStart);
     return offset;
+}
+
+bool ICalendarProperty::isRelatedToEnd() const
+{
+    icalparameter* related = icalproperty_get_first_parameter(m_property.get(), ICAL_RELATED_PARAMETER);
+    return related && icalparameter_get_related(related) == ICAL_RELATED_END;
+}
+
+QByteArray ICalendarProperty::movedTriggerLine(Seconds offset, Instant eventStart, Instant eventEnd) const
+{
+    icaltriggertype trigger = icalproperty_get_trigger(m_property.get());
+    if (!icaltime_is_null_time(trigger.time))
+        trigger.time = icalTime(eventStart + offset, false);
+    else if (isRelatedToEnd())
+        trigger.duration = boundedDuration(offset - std::chrono::floor<Seconds>(eventEnd - eventStart));
+    else
+        trigger.duration = boundedDuration(offset);
+    icalproperty* moved = icalproperty_new_clone(m_property.get());
+    icalproperty_set_trigger(moved, trigger);
+    return lineOf(moved);
 }
 
 QString ICalendarProperty::cleaned(const QString& text)
@@ -205,10 +234,9 @@ QByteArray ICalendarProperty::momentLine(const char* name, Instant instant, bool
 QByteArray ICalendarProperty::triggerLine(Seconds offset)
 {
     prepareLibrary();
-    const auto bounded = std::min<std::int64_t>(std::abs(offset.count()), std::numeric_limits<int>::max());
     icaltriggertype trigger = {};
     trigger.time = icaltime_null_time();
-    trigger.duration = icaldurationtype_from_int(static_cast<int>(offset.count() < 0 ? -bounded : bounded));
+    trigger.duration = boundedDuration(offset);
     return lineOf(icalproperty_new_trigger(trigger));
 }
 

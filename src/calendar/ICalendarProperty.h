@@ -37,6 +37,10 @@ public:
     /// When an alarm rings, seen from the event's start.
     std::optional<Seconds> triggerOffset(Instant eventStart, Instant eventEnd) const;
 
+    /// The line of this trigger, in the form in which it stands (after the start, after the end, or a fixed moment),
+    /// for an event that was moved: it rings `offset` after the new start.
+    QByteArray movedTriggerLine(Seconds offset, Instant eventStart, Instant eventEnd) const;
+
     /// Content lines, folded, with their end marks.
     static QByteArray textLine(const char* name, const QString& text);
     static QByteArray urlLine(const URL& url);
@@ -46,6 +50,8 @@ public:
     static QString cleaned(const QString& text);
 
 private:
+    bool isRelatedToEnd() const;
+
     struct Release
     {
         void operator()(icalproperty_impl* property) const;

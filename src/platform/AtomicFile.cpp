@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <functional>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -106,16 +107,18 @@ FileLayer& FileLayer::system()
     return layer;
 }
 
-FileResult AtomicFile::write(const QString& path, QByteArrayView bytes, Access access, Durability durability,
-                             FileLayer& layer)
+namespace {
+
+/// `isExpected`: asked about the place when the new file is ready to go there.
+FileResult writeInPlace(const QString& path, QByteArrayView bytes, AtomicFile::Access access, bool synced,
+                        FileLayer& layer, const std::function<bool()>& isExpected)
 {
     const QString folder = QFileInfo(path).absolutePath();
     makeFolder(folder);
     const QString partial = path + partialMark + QString::number(QRandomGenerator::global()->generate64(), 16);
-    const bool synced = durability == Durability::Synced;
-    int error = writeNewFile(partial, bytes, access == Access::OwnerOnly ? 0600 : 0644, synced, layer);
+    int error = writeNewFile(partial, bytes, access == AtomicFile::Access::OwnerOnly ? 0600 : 0644, synced, layer);
     if (error == 0)
-        error = layer.rename(partial, path);
+        error = isExpected() ? layer.rename(partial, path) : ESTALE;
     if (error != 0)
         layer.remove(partial);
     else if (synced)
@@ -125,6 +128,20 @@ FileResult AtomicFile::write(const QString& path, QByteArrayView bytes, Access a
     FileResult result{error, QString::fromStdString(std::generic_category().message(error))};
     Log::line(QStringLiteral("file %1 not written: %2").arg(path, result.text));
     return result;
+}
+
+} // namespace
+
+FileResult AtomicFile::write(const QString& path, QByteArrayView bytes, Access access, Durability durability,
+                             FileLayer& layer)
+{
+    return writeInPlace(path, bytes, access, durability == Durability::Synced, layer, [] { return true; });
+}
+
+FileResult AtomicFile::replace(const QString& path, QByteArrayView expected, QByteArrayView bytes, Access access,
+                               FileLayer& layer)
+{
+    return writeInPlace(path, bytes, access, true, layer, [&] { return read(path, expected.size()) == expected; });
 }
 
 std::optional<QByteArray> AtomicFile::read(const QString& path, qint64 maximumSize)

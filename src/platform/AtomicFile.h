@@ -55,6 +55,10 @@ public:
     /// last step (the folder's sync) leaves the new one. Any thread; of two writers of one path one wins as a whole.
     static FileResult write(const QString& path, QByteArrayView bytes, Access access,
                             Durability durability = Durability::Synced, FileLayer& layer = FileLayer::system());
+    /// The same in place of a file that holds `expected`. With another content by the time that the new file is ready,
+    /// or without a file, it stays, and the error is ESTALE: for files that other programs write to as well.
+    static FileResult replace(const QString& path, QByteArrayView expected, QByteArrayView bytes, Access access,
+                              FileLayer& layer = FileLayer::system());
 
     /// The whole of a regular file. Nothing when it is missing, can't be read, is longer than `maximumSize` bytes or is
     /// a folder, pipe or device. Any thread.
