@@ -6,14 +6,14 @@ namespace vidora {
 
 CalDAVEventStore::CalDAVEventStore(QString folder, QString source, CalDAVAccount account, URLSession& session,
                                    const Clock& clock, Random& random, Sleeper& sleeper, FileLayer& layer,
-                                   Exchange exchange)
+                                   Exchange exchange, ServiceLookup* services)
     : m_folder(folder)
     , m_accountAddress(account.address)
     , m_clock(clock)
     , m_exchange(exchange)
     , m_layer(layer)
     , m_files(std::move(folder), std::move(source), clock, random, layer)
-    , m_client(session, sleeper, std::move(account))
+    , m_client(session, sleeper, std::move(account), services)
 {
     if (exchange == Exchange::InBackground)
         m_queue = DispatchQueue::serial(QStringLiteral("calendar server"), QualityOfService::Utility);
@@ -31,6 +31,8 @@ void CalDAVEventStore::exchange(std::function<void()> work)
     auto locked = [this, work = std::move(work)] {
         const std::lock_guard lock(m_exchangeMutex);
         work();
+        if (m_hasChanged.exchange(false))
+            notifyChanged();
     };
     if (m_queue)
         m_exchanges.async(*m_queue, std::move(locked));
@@ -43,11 +45,6 @@ QString CalDAVEventStore::folderOf(const QString& calendar) const
     return m_folder + QLatin1Char('/') + calendar;
 }
 
-QString CalDAVEventStore::fileOf(const QString& calendar, const QString& name) const
-{
-    return folderOf(calendar) + QLatin1Char('/') + name;
-}
-
 QStringList CalDAVEventStore::mirrored() const
 {
     return QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
@@ -55,9 +52,7 @@ QStringList CalDAVEventStore::mirrored() const
 
 CalDAVMirror& CalDAVEventStore::mirror(const QString& calendar)
 {
-    const auto known = m_mirrors.find(calendar);
-    return known != m_mirrors.end() ? known->second
-                                    : m_mirrors.emplace(calendar, CalDAVMirror::read(folderOf(calendar))).first->second;
+    return m_mirrors.try_emplace(calendar, folderOf(calendar), m_layer).first->second;
 }
 
 AuthorizationStatus CalDAVEventStore::authorizationStatusForEntityType(EntityType type) const
@@ -108,7 +103,12 @@ std::optional<Event> CalDAVEventStore::eventWithIdentifier(const QString& identi
 std::optional<EventStoreError> CalDAVEventStore::saveEvent(Event& event, EventSpan span, bool commit)
 {
     auto error = m_files.saveEvent(event, span, false);
-    return error || !commit ? error : this->commit();
+    if (error || !commit)
+        return error;
+    error = this->commit();
+    if (auto present = error ? std::nullopt : m_files.eventWithIdentifier(event.eventIdentifier))
+        event.asRead = present->asRead;
+    return error;
 }
 
 std::optional<EventStoreError> CalDAVEventStore::removeEvent(const Event& event, EventSpan span, bool commit)
@@ -136,20 +136,16 @@ std::optional<EventStoreError> CalDAVEventStore::write()
     const std::lock_guard lock(m_mutex);
     std::set<QString> touched;
     for (const FolderEventStore::Change& change : m_files.waitingChanges()) {
-        mirror(change.calendarIdentifier).outbox[change.fileName] = {
-            change.removed ? CalDAVMirror::Change::Remove : CalDAVMirror::Change::Put, ++m_lastOrder};
+        mirror(change.calendarIdentifier)
+            .order(change.fileName, change.removed ? CalDAVMirror::Change::Remove : CalDAVMirror::Change::Put,
+                   ++m_lastOrder);
         touched.insert(change.calendarIdentifier);
     }
     for (const QString& calendar : touched) {
-        if (!write(mirror(calendar), calendar))
+        if (!mirror(calendar).write())
             return EventStoreError{QStringLiteral("the changes can't be kept in %1").arg(folderOf(calendar))};
     }
     return m_files.commit();
-}
-
-bool CalDAVEventStore::write(const CalDAVMirror& mirror, const QString& calendar) const
-{
-    return mirror.write(folderOf(calendar), m_layer);
 }
 
 int CalDAVEventStore::unsentChanges()
@@ -157,25 +153,43 @@ int CalDAVEventStore::unsentChanges()
     const std::lock_guard lock(m_mutex);
     std::size_t count = 0;
     for (const QString& calendar : mirrored())
-        count += mirror(calendar).outbox.size();
+        count += mirror(calendar).outbox().size();
     return static_cast<int>(count);
+}
+
+std::vector<CalDAVEventStore::Refusal> CalDAVEventStore::refusals()
+{
+    const std::lock_guard lock(m_mutex);
+    std::vector<Refusal> result;
+    for (const Calendar& calendar : m_files.calendarsForEntityType(EntityType::Event)) {
+        for (const auto& [name, refusal] : mirror(calendar.calendarIdentifier).refusals())
+            result.push_back({calendar.title, refusal.title, refusal.reason});
+    }
+    return result;
 }
 
 void CalDAVEventStore::refreshSourcesIfNecessary()
 {
     exchange([this] {
         if (!isWithin(m_refreshed, refreshInterval) && mayAsk())
-            refreshAll();
+            static_cast<void>(refreshAll()); // the log has what failed
     });
 }
 
 std::optional<EventStoreError> CalDAVEventStore::refresh()
 {
     const std::lock_guard lock(m_exchangeMutex);
+    m_isPauseRead = true;
     m_failed.reset();
-    if (refreshAll())
-        return std::nullopt;
-    return EventStoreError{m_client.lastAnswer()};
+    {
+        const std::lock_guard mirrors(m_mutex);
+        for (const QString& calendar : mirrored())
+            mirror(calendar).retryRefused();
+    }
+    const DAVResult result = refreshAll();
+    if (m_hasChanged.exchange(false))
+        notifyChanged();
+    return result.isDone() ? std::nullopt : std::optional(EventStoreError{result.answer});
 }
 
 } // namespace vidora

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t eventsPerRequest = 50;
 constexpr QLatin1String readOnlyMark("/.readonly");
+constexpr QLatin1String pauseFile("/.pause");
 
 QString identifierOf(const QUrl& calendar)
 {
@@ -34,27 +35,48 @@ void writeAttribute(const QString& path, const QString& text)
     }
 }
 
-bool sameEvent(const QByteArray& a, const QByteArray& b)
+DAVResult done()
 {
-    const auto first = ICalendarEvent::read(a);
-    const auto second = ICalendarEvent::read(b);
-    return a == b || (first && second && first->uid == second->uid && first->single && second->single &&
-                      first->event.title == second->event.title && first->event.location == second->event.location &&
-                      first->event.url == second->event.url && first->event.startDate == second->event.startDate &&
-                      first->event.endDate == second->event.endDate && first->event.alarms == second->event.alarms);
+    DAVResult result;
+    result.outcome = DAVResult::Outcome::Done;
+    result.trouble = DAVResult::Trouble::None;
+    result.hasAnswered = true;
+    return result;
+}
+
+DAVResult notKept(const QString& folder)
+{
+    DAVResult result;
+    result.answer = QStringLiteral("%1 can't be written").arg(folder);
+    result.hasAnswered = true;
+    return result;
 }
 
 } // namespace
 
 /// True when nothing failed. Otherwise the server is left alone for a while.
-bool CalDAVEventStore::noteFailure(Outcome outcome)
+bool CalDAVEventStore::noteFailure(const DAVResult& result)
 {
-    if (outcome == Outcome::Done)
+    if (result.isDone())
         return true;
-    Log::line(QStringLiteral("calendar server: %1").arg(m_client.lastAnswer()));
+    Log::line(QStringLiteral("calendar server: %1").arg(result.answer));
     m_failed = m_clock.now();
-    m_pause = outcome == Outcome::Refused ? pauseAfterRefusal : pauseAfterFailure;
+    m_pause = result.outcome == Outcome::Refused ? pauseAfterRefusal : result.retryAfter.value_or(pauseAfterFailure);
+    if (result.retryAfter) // the next process has to honour it as well
+        writeAttribute(m_folder + pauseFile,
+                       QStringLiteral("%1 %2").arg(unixMilliseconds(*m_failed)).arg(m_pause.count()));
     return false;
+}
+
+void CalDAVEventStore::readPause()
+{
+    if (std::exchange(m_isPauseRead, true))
+        return;
+    const QByteArrayList parts = AtomicFile::read(m_folder + pauseFile, 1024).value_or(QByteArray()).split(' ');
+    if (parts.size() == 2) {
+        m_failed = instantFromUnixMilliseconds(parts[0].toLongLong());
+        m_pause = std::clamp(Seconds(parts[1].toLongLong()), Seconds(0), Seconds(24 * 60 * 60));
+    }
 }
 
 /// Whether less than a period has gone by since a moment. A clock that was set back doesn't lengthen it.
@@ -64,94 +86,154 @@ bool CalDAVEventStore::isWithin(const std::optional<Instant>& moment, Seconds pe
     return moment && now >= *moment && now < *moment + period;
 }
 
-bool CalDAVEventStore::mayAsk() const
+bool CalDAVEventStore::mayAsk()
 {
+    readPause();
     return !isWithin(m_failed, m_pause);
 }
 
+void CalDAVEventStore::noteChange(bool hasChanged)
+{
+    if (hasChanged)
+        m_hasChanged = true;
+}
+
 /// Where the calendars lie is asked once for an account, and again when they lie there no more.
-bool CalDAVEventStore::findHome()
+DAVResult CalDAVEventStore::findHomes()
 {
     const QString file = m_folder + QStringLiteral("/.home");
     const QStringList known =
         QString::fromUtf8(AtomicFile::read(file, 64 * 1024).value_or(QByteArray())).split(QLatin1Char('\n'));
-    if (known.size() == 2 && known[0] == m_accountAddress && !known[1].isEmpty())
-        m_home = QUrl(known[1]);
-    else if (noteFailure(m_client.discover(m_home)))
-        writeAttribute(file, m_accountAddress + QLatin1Char('\n') + m_home.toString(QUrl::FullyEncoded));
-    return !m_home.isEmpty();
+    if (known.size() >= 2 && known.front() == m_accountAddress) {
+        for (const QString& home : known.mid(1))
+            m_homes.emplace_back(home);
+        return done();
+    }
+    const DAVResult result = m_client.discover(m_homes);
+    if (!result.isDone())
+        return result;
+    QStringList lines{m_accountAddress};
+    for (const QUrl& home : m_homes)
+        lines << home.toString(QUrl::FullyEncoded);
+    writeAttribute(file, lines.join(QLatin1Char('\n')));
+    return result;
 }
 
-bool CalDAVEventStore::refreshAll()
+DAVResult CalDAVEventStore::listCalendars(std::vector<CalDAVClient::RemoteCalendar>& calendars)
 {
-    if (m_home.isEmpty() && !findHome())
-        return false;
-    std::vector<CalDAVClient::RemoteCalendar> calendars;
-    const Outcome outcome = m_client.calendars(m_home, calendars);
-    if (!noteFailure(outcome)) {
-        m_home.clear();
-        if (outcome != Outcome::Failed)
+    DAVResult result = m_homes.empty() ? findHomes() : done();
+    if (!result.isDone())
+        return result;
+    for (const QUrl& home : m_homes) {
+        result = m_client.calendars(home, calendars);
+        if (result.isDone())
+            continue;
+        m_homes.clear();
+        if (result.hasAnswered && result.outcome != Outcome::Failed && result.outcome != Outcome::Busy)
             QFile::remove(m_folder + QStringLiteral("/.home")); // it may have moved
-        return false;
+        break;
     }
+    return result;
+}
+
+/// What others did comes in ahead of what goes out, so that what goes out is made on top of it.
+DAVResult CalDAVEventStore::refreshAll()
+{
+    std::vector<CalDAVClient::RemoteCalendar> calendars;
+    const DAVResult listed = listCalendars(calendars);
+    if (!noteFailure(listed))
+        return listed;
     if (!takeCalendars(calendars))
-        return false;
-    bool complete = true;
+        return notKept(m_folder);
+    DAVResult last = done();
     for (const auto& remote : calendars) {
         const QString calendar = identifierOf(remote.address);
-        if (push(calendar) && pull(calendar, remote))
+        DAVResult result = pull(calendar, remote);
+        if (result.isDone())
+            result = push(calendar);
+        if (noteFailure(result))
             continue;
-        if (!m_client.hasAnswered() || m_pause == pauseAfterRefusal)
-            return false;
-        complete = false; // the trouble of one calendar is not that of the others
-        m_failed.reset();
+        last = result;
+        if (!result.hasAnswered || result.outcome == Outcome::Refused || result.outcome == Outcome::Busy)
+            return result;
+        m_failed.reset(); // the trouble of one calendar is not that of the others
     }
     m_refreshed = m_clock.now();
-    return complete;
+    QFile::remove(m_folder + pauseFile);
+    return last;
 }
 
 /// Makes the folders agree with the calendars that the server has.
 bool CalDAVEventStore::takeCalendars(const std::vector<CalDAVClient::RemoteCalendar>& calendars)
 {
-    const std::lock_guard lock(m_mutex);
     std::set<QString> present;
-    for (const auto& remote : calendars) {
-        const QString calendar = identifierOf(remote.address);
-        present.insert(calendar);
-        writeAttribute(fileOf(calendar, QStringLiteral("displayname")),
-                       remote.title.isEmpty() ? remote.address.path().section(QLatin1Char('/'), -2, -2) : remote.title);
-        writeAttribute(fileOf(calendar, QStringLiteral("color")), remote.color);
-        writeAttribute(folderOf(calendar) + readOnlyMark, remote.writable ? QString() : QStringLiteral("1"));
-        mirror(calendar).address = remote.address.toString(QUrl::FullyEncoded);
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const auto& remote : calendars) {
+            const QString calendar = identifierOf(remote.address),
+                          address = remote.address.toString(QUrl::FullyEncoded);
+            const auto attribute = [&](const char* name) -> QString {
+                return folderOf(calendar) + QLatin1String(name);
+            };
+            present.insert(calendar);
+            const QString path = remote.address.path().section(QLatin1Char('/'), -2, -2);
+            writeAttribute(attribute("/displayname"), remote.title.isEmpty() ? path : remote.title);
+            writeAttribute(attribute("/color"), remote.color);
+            writeAttribute(attribute("/.address"), address);
+            writeAttribute(folderOf(calendar) + readOnlyMark, remote.writable ? QString() : QStringLiteral("1"));
+            mirror(calendar).address = address;
+            mirror(calendar).missingSince.reset();
+        }
     }
     for (const QString& calendar : mirrored()) {
-        if (present.contains(calendar))
-            continue;
-        Log::line(QStringLiteral("calendar %1 is gone from the server").arg(mirror(calendar).address));
-        m_mirrors.erase(calendar);
-        if (!QDir(folderOf(calendar)).removeRecursively())
+        if (!present.contains(calendar) && !loseCalendar(calendar))
             return false;
     }
     return true;
 }
 
-bool CalDAVEventStore::pull(const QString& calendar, const CalDAVClient::RemoteCalendar& remote)
+/// A calendar that is not in the list. One answer is not believed: lists have gaps when a server is being worked on.
+bool CalDAVEventStore::loseCalendar(const QString& calendar)
 {
     std::unique_lock lock(m_mutex);
     CalDAVMirror& known = mirror(calendar);
+    const QUrl address(known.address);
     lock.unlock();
-    if (!remote.state.isEmpty() && remote.state == known.token)
+    if (!address.isEmpty() && m_client.look(address).outcome != Outcome::Missing)
         return true;
+    lock.lock();
+    const Instant now = m_clock.now();
+    if (!known.address.isEmpty() && (!known.missingSince || now < *known.missingSince + refreshInterval)) {
+        if (!known.missingSince || now < *known.missingSince)
+            known.missingSince = now;
+        Log::line(QStringLiteral("calendar %1 is missing from the server").arg(known.address));
+        return known.write();
+    }
+    Log::line(QStringLiteral("calendar %1 is gone from the server").arg(known.address));
+    m_mirrors.erase(calendar);
+    m_hasChanged = true;
+    return QDir(folderOf(calendar)).removeRecursively();
+}
+
+DAVResult CalDAVEventStore::pull(const QString& calendar, const CalDAVClient::RemoteCalendar& remote)
+{
+    std::unique_lock lock(m_mutex);
+    CalDAVMirror& known = mirror(calendar);
+    const QString token = known.token;
+    lock.unlock();
+    if (!remote.state.isEmpty() && remote.state == token)
+        return done();
     CalDAVClient::Changes changes;
-    if (!noteFailure(m_client.changes(remote, known.token, changes)))
-        return false;
+    DAVResult result = m_client.changes(remote, token, changes);
+    if (!result.isDone())
+        return result;
     lock.lock();
     std::set<QString> present;
     std::vector<CalDAVClient::RemoteEvent> wanted;
     for (const auto& event : changes.present) {
         if (const auto name = known.nameOf(event.address))
             present.insert(*name);
-        if (isWanted(known, calendar, event))
+        if (known.isWanted(event))
             wanted.push_back(event);
     }
     std::vector<QString> gone;
@@ -160,37 +242,24 @@ bool CalDAVEventStore::pull(const QString& calendar, const CalDAVClient::RemoteC
             gone.push_back(*name);
     }
     if (changes.whole) {
-        for (const auto& [name, item] : known.items) {
+        for (const QString& name : known.names()) {
             if (!present.contains(name))
                 gone.push_back(name);
         }
     }
     for (const QString& name : gone) {
-        if (!known.outbox.contains(name)) // what becomes of those shows when the change is sent
-            forget(known, calendar, name);
+        if (!known.outbox().contains(name)) // what becomes of those shows when the change is sent
+            noteChange(known.forget(name));
     }
     lock.unlock();
-    const bool whole = bring(known, calendar, wanted);
+    result = bring(known, wanted);
     lock.lock();
-    if (whole)
+    if (result.isDone())
         known.token = changes.token;
-    return write(known, calendar) && whole;
+    return known.write() ? result : notKept(known.folder());
 }
 
-bool CalDAVEventStore::isWanted(const CalDAVMirror& mirror, const QString& calendar,
-                                const CalDAVClient::RemoteEvent& event) const
-{
-    const auto name = mirror.nameOf(event.address);
-    if (mirror.outbox.contains(name.value_or(event.address.fileName(QUrl::FullyDecoded))) ||
-        event.size > ICalendarEvent::maximumSize)
-        return false;
-    // A copy that was lost here is no reason to lose the event there.
-    const bool held = name && QFile::exists(fileOf(calendar, *name));
-    return !held || event.tag.isEmpty() || mirror.items.at(*name).tag != event.tag;
-}
-
-bool CalDAVEventStore::bring(CalDAVMirror& mirror, const QString& calendar,
-                             const std::vector<CalDAVClient::RemoteEvent>& wanted)
+DAVResult CalDAVEventStore::bring(CalDAVMirror& mirror, const std::vector<CalDAVClient::RemoteEvent>& wanted)
 {
     using Part = std::pair<std::size_t, std::size_t>; // first and behind the last
     std::vector<Part> parts;
@@ -203,159 +272,176 @@ bool CalDAVEventStore::bring(CalDAVMirror& mirror, const QString& calendar,
         for (std::size_t i = first; i < last; ++i)
             addresses.push_back(wanted[i].address);
         std::vector<CalDAVClient::RemoteEvent> events;
-        const Outcome outcome = m_client.fetch(QUrl(mirror.address), addresses, events);
-        if (outcome == Outcome::TooLarge && addresses.size() > 1) {
+        const DAVResult result = m_client.fetch(QUrl(mirror.address), addresses, events);
+        if (result.outcome == Outcome::TooLarge && addresses.size() > 1) {
             const std::size_t middle = first + addresses.size() / 2;
             parts.insert(parts.end(), {Part(first, middle), Part(middle, last)});
-        } else if (outcome == Outcome::TooLarge) {
+        } else if (result.outcome == Outcome::TooLarge) {
             Log::line(QStringLiteral("calendar event %1 is too large and is left out").arg(addresses[0].path()));
-        } else if (!noteFailure(outcome)) {
-            return false;
+        } else if (!result.isDone()) {
+            return result;
         }
         const std::lock_guard lock(m_mutex);
         for (const auto& event : events)
-            keep(mirror, calendar, event);
+            noteChange(mirror.take(event, m_clock.now()));
     }
-    return true;
-}
-
-void CalDAVEventStore::keep(CalDAVMirror& mirror, const QString& calendar, const CalDAVClient::RemoteEvent& event)
-{
-    const QString name = mirror.nameOf(event.address).value_or(mirror.nameFor(event.address));
-    if (mirror.outbox.contains(name) || event.document.size() > ICalendarEvent::maximumSize)
-        return;
-    if (AtomicFile::write(fileOf(calendar, name), event.document, AtomicFile::Access::OwnerOnly,
-                          AtomicFile::Durability::Unsynced, m_layer)
-            .failed())
-        return;
-    mirror.keep(name, event.address, event.tag);
-}
-
-void CalDAVEventStore::forget(CalDAVMirror& mirror, const QString& calendar, const QString& name)
-{
-    m_layer.remove(fileOf(calendar, name));
-    mirror.forget(name);
-    mirror.outbox.erase(name);
+    return done();
 }
 
 void CalDAVEventStore::pushAll()
 {
     for (const QString& calendar : mirrored()) {
-        if (!push(calendar))
+        if (!noteFailure(push(calendar)))
             return;
     }
 }
 
-/// False when the server is not to be asked any more for now.
-bool CalDAVEventStore::push(const QString& calendar)
+/// The first alone, which shows whether and how the server lets us in; then several at once.
+DAVResult CalDAVEventStore::push(const QString& calendar)
 {
     std::unique_lock lock(m_mutex);
     CalDAVMirror& known = mirror(calendar);
-    const auto outbox = known.outbox;
+    std::vector<QString> names;
+    for (const auto& [name, order] : known.outbox())
+        names.push_back(name);
+    const bool hasAddress = !known.address.isEmpty();
     lock.unlock();
-    if (outbox.empty())
-        return true;
-    if (!mayAsk() || known.address.isEmpty())
-        return false;
-    bool answered = true;
-    for (const auto& [name, order] : outbox) {
-        const Outcome outcome = send(known, calendar, name, order);
-        if (outcome == Outcome::Done) {
-            const std::lock_guard done(m_mutex);
-            if (known.isLatest(name, order))
-                known.outbox.erase(name);
-        } else if (outcome == Outcome::Rejected) {
-            // This one event may be the matter; it waits for a better day, the others go on.
-            Log::line(QStringLiteral("calendar server takes no change: %1").arg(m_client.lastAnswer()));
-        } else {
-            answered = noteFailure(outcome);
-            break;
+    if (names.empty() || !hasAddress || !mayAsk())
+        return done();
+    std::mutex failureMutex;
+    DAVResult failure = send(known, names.front());
+    std::atomic<bool> hasFailed = !failure.isDone();
+    std::atomic<std::size_t> next = 1;
+    const auto work = [&] {
+        for (std::size_t index = next++; index < names.size() && !hasFailed; index = next++) {
+            const DAVResult result = send(known, names[index]);
+            if (result.isDone())
+                continue;
+            const std::lock_guard failing(failureMutex);
+            failure = result;
+            hasFailed = true;
         }
-    }
+    };
+    DispatchGroup others;
+    for (int i = 1; i < requestsAtOnce && static_cast<std::size_t>(i) < names.size(); ++i)
+        others.async(DispatchQueue::global(QualityOfService::Utility), work);
+    work();
+    others.wait();
     lock.lock();
-    return write(known, calendar) && answered;
+    return known.write() ? failure : notKept(known.folder());
 }
 
-CalDAVEventStore::Outcome CalDAVEventStore::send(CalDAVMirror& mirror, const QString& calendar, const QString& name,
-                                                 const CalDAVMirror::Order& order)
+/// Done also when this one change can't be sent for now: the others go on.
+DAVResult CalDAVEventStore::send(CalDAVMirror& mirror, const QString& name)
 {
-    if (order.change == CalDAVMirror::Change::Put)
-        return sendDocument(mirror, calendar, name, order);
-    const auto item = mirror.items.find(name);
-    const Outcome outcome =
-        m_client.remove(mirror.addressOf(name), item == mirror.items.end() ? QString() : item->second.tag);
-    if (outcome == Outcome::Conflict)
-        return settle(mirror, calendar, name, order, std::nullopt);
-    if (outcome != Outcome::Done && outcome != Outcome::Missing)
-        return outcome;
+    constexpr int patience = 4; // with an event that somebody else changes at the same time
+    DAVResult result = done();
+    CalDAVMirror::Order order;
+    for (int attempt = 0; attempt < patience; ++attempt) {
+        {
+            const std::lock_guard lock(m_mutex);
+            const auto waiting = mirror.outbox().find(name);
+            if (waiting == mirror.outbox().end())
+                return done();
+            order = waiting->second;
+        }
+        bool isSettled = true;
+        result = sendOnce(mirror, name, order, isSettled);
+        if (isSettled)
+            break;
+    }
+    if (result.outcome != Outcome::Rejected && result.outcome != Outcome::Conflict)
+        return result;
+    Log::line(QStringLiteral("calendar server takes no change: %1").arg(result.answer));
     const std::lock_guard lock(m_mutex);
-    if (mirror.isLatest(name, order))
-        forget(mirror, calendar, name);
-    else
-        mirror.forget(name); // made anew meanwhile
-    if (outcome == Outcome::Missing)
-        mirror.token.clear();
-    return Outcome::Done;
+    mirror.noteRefused(name, order, result.answer);
+    return done();
 }
 
-CalDAVEventStore::Outcome CalDAVEventStore::sendDocument(CalDAVMirror& mirror, const QString& calendar,
-                                                         const QString& name, const CalDAVMirror::Order& order)
+/// `isSettled` is false afterwards where the order, on top of what the server has instead, is to be sent again.
+DAVResult CalDAVEventStore::sendOnce(CalDAVMirror& mirror, const QString& name, const CalDAVMirror::Order& order,
+                                     bool& isSettled)
 {
-    const auto document = AtomicFile::read(fileOf(calendar, name), ICalendarEvent::maximumSize);
-    if (!document)
-        return Outcome::Done; // the order was kept, the change itself never came to be
-    const auto item = mirror.items.find(name);
-    const bool known = item != mirror.items.end();
-    QString tag = known ? item->second.tag : QString();
-    if (known && tag.isEmpty())
-        return settle(mirror, calendar, name, order, document);
+    const bool isRemoval = order.change == CalDAVMirror::Change::Remove;
+    std::unique_lock lock(m_mutex);
+    const auto known = mirror.tagOf(name);
     const QUrl address = mirror.addressOf(name);
-    const Outcome outcome = m_client.put(address, *document, tag);
-    if (outcome == Outcome::Conflict || (known && outcome == Outcome::Missing))
-        return settle(mirror, calendar, name, order, document);
-    if (outcome != Outcome::Done)
-        return outcome;
-    if (tag.isEmpty()) // what the server made of it shows only when it is read
-        return settle(mirror, calendar, name, order, document);
-    const std::lock_guard lock(m_mutex);
-    mirror.keep(name, address, tag);
-    return Outcome::Done;
+    const auto document = isRemoval ? std::nullopt : mirror.copyOf(name);
+    if (!isRemoval && !document) {
+        mirror.cancel(name, order);
+        return done();
+    }
+    lock.unlock();
+    QString tag = known.value_or(QString());
+    if (!isRemoval && known && tag.isEmpty())
+        return settle(mirror, name, order, done(), isSettled);
+    const DAVResult result = isRemoval ? m_client.remove(address, tag) : m_client.put(address, *document, tag);
+    if (result.outcome == Outcome::Conflict || (!isRemoval && known && result.outcome == Outcome::Missing))
+        return settle(mirror, name, order, result, isSettled);
+    if (!result.isDone() && !(isRemoval && result.outcome == Outcome::Missing))
+        return result;
+    lock.lock();
+    if (isRemoval)
+        mirror.noteRemoved(name, order);
+    else
+        mirror.noteSent(name, order, *document, tag);
+    if (!result.isDone())
+        mirror.token.clear(); // the next refresh looks at everything, should that answer have been a mistake
+    lock.unlock();
+    if (isRemoval || !tag.isEmpty())
+        return done();
+    // What the server made of it shows only when it is read.
+    CalDAVClient::RemoteEvent remote;
+    const DAVResult read = readVersion(QUrl(mirror.address), address, {}, remote);
+    lock.lock();
+    if (read.isDone())
+        noteChange(mirror.take(remote, m_clock.now()));
+    return read.outcome == Outcome::Missing ? done() : read;
 }
 
-/// Takes over what the server has instead of the version that a change was made to.
-CalDAVEventStore::Outcome CalDAVEventStore::settle(CalDAVMirror& mirror, const QString& calendar, const QString& name,
-                                                   const CalDAVMirror::Order& order,
-                                                   const std::optional<QByteArray>& sent)
+/// The server has something else than the version that a change was made to.
+DAVResult CalDAVEventStore::settle(CalDAVMirror& mirror, const QString& name, const CalDAVMirror::Order& order,
+                                   DAVResult sent, bool& isSettled)
 {
+    std::unique_lock lock(m_mutex);
+    const auto known = mirror.tagOf(name);
+    const QUrl address = mirror.addressOf(name), calendar(mirror.address);
+    lock.unlock();
     CalDAVClient::RemoteEvent remote;
-    const Outcome outcome = m_client.get(mirror.addressOf(name), remote);
-    const std::lock_guard lock(m_mutex);
-    const auto item = mirror.items.find(name);
-    const bool known = item != mirror.items.end();
-    const bool latest = mirror.isLatest(name, order);
-    if (outcome == Outcome::Missing && known) {
-        if (latest)
-            forget(mirror, calendar, name);
-        else
-            mirror.forget(name);
-        mirror.token.clear(); // the next refresh looks at everything, should that answer have been a mistake
-        return Outcome::Done;
+    DAVResult result = readVersion(calendar, address, known.value_or(QString()), remote);
+    lock.lock();
+    if (result.outcome == Outcome::Missing && known) {
+        mirror.noteRemoved(name, order);
+        mirror.token.clear(); // as above
+        m_hasChanged = true;
+        return done();
     }
-    // Neither there nor changed: what kept the server from taking our change is something else.
-    if (outcome == Outcome::Missing || (known && !remote.tag.isEmpty() && remote.tag == item->second.tag))
-        return Outcome::Rejected;
-    if (outcome != Outcome::Done)
-        return outcome;
-    const bool ours = sent && sameEvent(*sent, remote.document);
-    if (ours && !latest) { // a later change goes on top of it
-        mirror.keep(name, remote.address, remote.tag);
-        return Outcome::Done;
+    // Neither there nor changed: what keeps the server from taking our change is something else.
+    if (result.outcome == Outcome::Missing || (result.isDone() && known && !known->isEmpty() && remote.tag == *known)) {
+        sent.outcome = Outcome::Rejected;
+        return sent;
     }
-    if (sent && !ours)
-        Log::line(QStringLiteral("calendar event %1 was changed elsewhere; that stays").arg(name));
-    mirror.outbox.erase(name);
-    keep(mirror, calendar, remote);
-    return Outcome::Done;
+    if (!result.isDone())
+        return result;
+    noteChange(mirror.take(remote, m_clock.now()));
+    isSettled = false;
+    sent.outcome = Outcome::Conflict; // should it never come to an end
+    return sent;
+}
+
+/// An event as it is on the server. Where its tag is `unless`, the other way of reading it is tried, whose answer no
+/// gateway gives another tag.
+DAVResult CalDAVEventStore::readVersion(const QUrl& calendar, const QUrl& address, const QString& unless,
+                                        CalDAVClient::RemoteEvent& remote)
+{
+    const DAVResult result = m_client.get(address, remote);
+    if (!result.isDone() || (!remote.tag.isEmpty() && remote.tag != unless))
+        return result;
+    std::vector<CalDAVClient::RemoteEvent> events;
+    const DAVResult fetched = m_client.fetch(calendar, {address}, events);
+    if (fetched.isDone() && events.size() == 1)
+        remote = std::move(events.front());
+    return fetched.isDone() ? result : fetched;
 }
 
 } // namespace vidora

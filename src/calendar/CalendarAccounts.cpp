@@ -34,9 +34,16 @@ QString freshIdentifier(Random& random)
 
 QString hostOf(const QString& address)
 {
-    const QString whole = address.contains(QLatin1String("://")) ? address : QStringLiteral("https://") + address;
-    const QString host = QUrl(whole).host();
+    const QString host = DAVConnection::addressOf(address).host();
     return host.isEmpty() ? address : host;
+}
+
+/// What an address stands for, in one spelling.
+QString placeOf(const QString& address)
+{
+    const QUrl url = DAVConnection::addressOf(address);
+    const QString path = url.adjusted(QUrl::StripTrailingSlash | QUrl::NormalizePathSegments).path();
+    return url.isValid() ? DAVConnection::originOf(url) + path : address;
 }
 
 /// Under which the password is kept: what a keyring shows to the user.
@@ -69,6 +76,8 @@ void CalendarAccounts::read()
         CalendarAccount account{
             object.value(QLatin1String("id")).toString(), object.value(QLatin1String("name")).toString(),
             object.value(QLatin1String("address")).toString(), object.value(QLatin1String("user")).toString()};
+        for (const QJsonValue& origin : object.value(QLatin1String("origins")).toArray())
+            account.origins << origin.toString();
         const bool isKnown = std::any_of(m_accounts.begin(), m_accounts.end(), [&](const CalendarAccount& other) {
             return other.identifier == account.identifier || other.name == account.name;
         });
@@ -85,7 +94,8 @@ bool CalendarAccounts::write() const
         array.append(QJsonObject{{QStringLiteral("id"), account.identifier},
                                  {QStringLiteral("name"), account.name},
                                  {QStringLiteral("address"), account.address},
-                                 {QStringLiteral("user"), account.user}});
+                                 {QStringLiteral("user"), account.user},
+                                 {QStringLiteral("origins"), QJsonArray::fromStringList(account.origins)}});
     return !AtomicFile::write(m_surroundings.file, QJsonDocument(array).toJson(), AtomicFile::Access::OwnerOnly)
                 .failed();
 }
@@ -93,7 +103,8 @@ bool CalendarAccounts::write() const
 CalDAVAccount CalendarAccounts::login(const CalendarAccount& account, const QString& password) const
 {
     return {account.address, account.user, password,
-            [&secrets = m_surroundings.secrets, secret = secretOf(account)] { return secrets.secret(secret); }};
+            [&secrets = m_surroundings.secrets, secret = secretOf(account)] { return secrets.secret(secret); },
+            account.origins};
 }
 
 void CalendarAccounts::open(const CalendarAccount& account)
@@ -104,7 +115,8 @@ void CalendarAccounts::open(const CalendarAccount& account)
         m_surroundings.mirrors + QLatin1Char('/') + account.identifier, account.name, login(account, {}),
         m_surroundings.session, m_surroundings.clock, m_surroundings.random, m_surroundings.sleeper,
         FileLayer::system(),
-        m_surroundings.isOffline ? CalDAVEventStore::Exchange::Never : CalDAVEventStore::Exchange::InBackground);
+        m_surroundings.isOffline ? CalDAVEventStore::Exchange::Never : CalDAVEventStore::Exchange::InBackground,
+        m_surroundings.services);
     m_stores.emplace(account.identifier, store);
     m_store.addSource(account.identifier, store);
 }
@@ -119,7 +131,7 @@ const CalendarAccount* CalendarAccounts::accountNamed(const QString& name) const
 CalendarAccount CalendarAccounts::accountFor(const QString& address, const QString& user) const
 {
     for (const CalendarAccount& account : m_accounts) {
-        if (account.address == address && account.user == user)
+        if (placeOf(account.address) == placeOf(address) && account.user == user)
             return account;
     }
     const QString name = user + QLatin1Char('@') + hostOf(address);
@@ -131,7 +143,9 @@ CalendarAccount CalendarAccounts::accountFor(const QString& address, const QStri
 
 CalDAVClient::Findings CalendarAccounts::examine(const CalendarAccount& account, const QString& password) const
 {
-    return CalDAVClient(m_surroundings.session, m_surroundings.sleeper, login(account, password)).examine();
+    return CalDAVClient(m_surroundings.session, m_surroundings.sleeper, login(account, password),
+                        m_surroundings.services)
+        .examine();
 }
 
 bool CalendarAccounts::keepPassword(const CalendarAccount& account, const QString& password) const
@@ -146,12 +160,16 @@ bool CalendarAccounts::forgetPassword(const CalendarAccount& account) const
 
 bool CalendarAccounts::add(const CalendarAccount& account)
 {
-    if (!accountNamed(account.name)) {
+    const std::vector<CalendarAccount> before = m_accounts;
+    const auto present = std::find_if(m_accounts.begin(), m_accounts.end(),
+                                      [&](const CalendarAccount& other) { return other.name == account.name; });
+    if (present == m_accounts.end())
         m_accounts.push_back(account);
-        if (m_accounts.size() > maximalAccounts || !write()) {
-            m_accounts.pop_back();
-            return false;
-        }
+    else
+        *present = account;
+    if (m_accounts.size() > maximalAccounts || !write()) {
+        m_accounts = before;
+        return false;
     }
     open(account);
     return true;

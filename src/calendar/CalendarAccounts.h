@@ -13,6 +13,7 @@ struct CalendarAccount
     QString name;
     QString address; ///< a host or an address: see CalDAVAccount
     QString user;
+    QStringList origins = {}; ///< to which the user lets the password go as well: see CalDAVAccount
 };
 
 /// What accounts need of the machine; everything outlives them.
@@ -25,7 +26,8 @@ struct CalendarAccountSurroundings
     const Clock& clock;
     Random& random;
     Sleeper& sleeper;
-    bool isOffline = false; ///< no server is asked: what changes waits in the mirrors
+    ServiceLookup* services = nullptr; ///< null: servers are found by their address alone
+    bool isOffline = false;            ///< no server is asked: what changes waits in the mirrors
 };
 
 /// The user's accounts on calendar servers, each a source of a combined store that exchanges in the background. Main
@@ -38,8 +40,8 @@ public:
 
     const std::vector<CalendarAccount>& accounts() const { return m_accounts; }
     const CalendarAccount* accountNamed(const QString& name) const;
-    /// The account for this address and user: the one there is, else one that is not added yet, with a name that no
-    /// other has.
+    /// The account for this address and user: the one there is, however the address is spelt, else one that is not
+    /// added yet, with a name that no other has.
     CalendarAccount accountFor(const QString& address, const QString& user) const;
 
     /// What the server says to the account, added or not. `password` null: the one that is kept. Asks, and waits for

@@ -32,14 +32,25 @@ QString CombinedEventStore::identifierOf(const QString& key, const QString& iden
     return key + QLatin1Char('/') + identifierInSource;
 }
 
+CombinedEventStore::~CombinedEventStore()
+{
+    for (const Source& source : sources())
+        source.store->setChangeObserver({});
+}
+
 void CombinedEventStore::addSource(const QString& key, std::shared_ptr<EventStore> source)
 {
+    source->setChangeObserver([this] { notifyChanged(); });
     const std::lock_guard lock(m_mutex);
     m_sources.push_back({key, std::move(source)});
 }
 
 void CombinedEventStore::removeSource(const QString& key)
 {
+    for (const Source& source : sources()) {
+        if (source.key == key)
+            source.store->setChangeObserver({});
+    }
     const std::lock_guard lock(m_mutex);
     std::erase_if(m_sources, [&](const Source& source) { return source.key == key; });
 }
@@ -175,8 +186,15 @@ std::optional<EventStoreError> CombinedEventStore::saveEvent(Event& event, Event
         return noCalendar();
     if (auto error = place->source.store->saveEvent(inSource, span, false))
         return error;
-    event.eventIdentifier = identifierOf(place->source.key, inSource.eventIdentifier);
-    return commit ? this->commit() : std::nullopt;
+    const Calendar calendar = event.calendar;
+    event = outward(place->source.key, std::move(inSource));
+    event.calendar = calendar;
+    if (!commit)
+        return std::nullopt;
+    auto error = this->commit();
+    if (auto present = error ? std::nullopt : eventWithIdentifier(event.eventIdentifier))
+        event.asRead = present->asRead;
+    return error;
 }
 
 std::optional<EventStoreError> CombinedEventStore::removeEvent(const Event& event, EventSpan span, bool commit)

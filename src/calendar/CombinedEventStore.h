@@ -13,6 +13,7 @@ namespace vidora {
 class CombinedEventStore final : public EventStore
 {
 public:
+    ~CombinedEventStore() override;
     /// `key`: not empty, without a slash, and no other source's. Sources that come first are the first to be asked for
     /// a calendar for new events.
     void addSource(const QString& key, std::shared_ptr<EventStore> source);

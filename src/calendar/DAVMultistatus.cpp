@@ -60,6 +60,8 @@ public:
             finishPart(element);
         else if (depth() == 4 && m_path[2] == "propstat" && element == "status")
             m_properties.status = statusOf(m_text.trimmed());
+        else if (inKnownProperty() && element == "href")
+            takeLink();
         m_path.pop_back();
     }
     std::optional<DAVMultistatus> result()
@@ -91,6 +93,12 @@ private:
                 elements.insert(attributes[1]);
         }
     }
+    void takeLink()
+    {
+        auto& links = m_properties.links[m_path[4]];
+        if (links.size() < maximalElements)
+            links.push_back(QString::fromUtf8(m_text.trimmed()));
+    }
     void finishPart(const QByteArray& element)
     {
         if (element == "href" && m_response.href.isEmpty())
@@ -100,6 +108,7 @@ private:
         else if (element == "propstat" && m_properties.status / 100 == 2 && m_response.texts.size() < maximalElements) {
             m_response.texts.merge(m_properties.texts);
             m_response.elements.merge(m_properties.elements);
+            m_response.links.merge(m_properties.links);
         }
     }
     void finishResponse()
@@ -124,10 +133,24 @@ QByteArray DAVResponse::text(const QByteArray& property) const
     return found == texts.end() ? QByteArray() : found->second;
 }
 
+std::vector<QString> DAVResponse::linksOf(const QByteArray& property) const
+{
+    const auto found = links.find(property);
+    return found == links.end() ? std::vector<QString>() : found->second;
+}
+
 bool DAVResponse::has(const QByteArray& property, const QByteArray& element) const
 {
     const auto found = elements.find(property);
     return found != elements.end() && found->second.contains(element);
+}
+
+QByteArray DAVMultistatus::propfind(const QByteArray& properties)
+{
+    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<d:propfind xmlns:d=\"DAV:\" "
+           "xmlns:c=\"urn:ietf:params:xml:ns:caldav\" xmlns:a=\"http://apple.com/ns/ical/\" "
+           "xmlns:s=\"http://calendarserver.org/ns/\"><d:prop>" +
+           properties + "</d:prop></d:propfind>";
 }
 
 std::optional<DAVMultistatus> DAVMultistatus::read(const QByteArray& body)

@@ -21,7 +21,11 @@ struct DAVResponse
     /// For each property the elements in it, and the names that these give in an attribute "name".
     std::map<QByteArray, std::set<QByteArray>> elements;
 
+    /// For each property the links in it.
+    std::map<QByteArray, std::vector<QString>> links;
+
     QByteArray text(const QByteArray& property) const;
+    std::vector<QString> linksOf(const QByteArray& property) const;
     bool has(const QByteArray& property, const QByteArray& element) const;
 };
 
@@ -30,6 +34,8 @@ struct DAVMultistatus
     std::vector<DAVResponse> responses;
     QString syncToken; ///< RFC 6578; empty without one
 
+    /// The document that asks for properties, whose names begin with "d:" for WebDAV, "c:" for calendars.
+    static QByteArray propfind(const QByteArray& properties);
     /// Nothing for what is no whole multistatus document, or one of more resources than any calendar has.
     static std::optional<DAVMultistatus> read(const QByteArray& body);
 };

@@ -19,6 +19,19 @@ std::optional<CalendarColor> CalendarColor::fromText(QStringView text)
     return CalendarColor{parts[0], parts[1], parts[2], parts[3]};
 }
 
+void EventStore::setChangeObserver(std::function<void()> observer)
+{
+    const std::lock_guard lock(m_observerMutex);
+    m_observer = std::move(observer);
+}
+
+void EventStore::notifyChanged()
+{
+    const std::lock_guard lock(m_observerMutex);
+    if (m_observer)
+        m_observer();
+}
+
 EventPredicate EventStore::predicateForEventsWithStartDate(Instant startDate, Instant endDate,
                                                            std::vector<Calendar> calendars) const
 {

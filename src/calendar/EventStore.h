@@ -3,6 +3,7 @@
 #include "calendar/Event.h"
 
 #include <functional>
+#include <mutex>
 #include <stdexcept>
 
 namespace vidora {
@@ -83,6 +84,11 @@ public:
 
     virtual ~EventStore() = default;
 
+    /// Who is told after events came in from elsewhere, or a change that was committed had to be given up: what was
+    /// read before may no longer hold. Told on any thread, once for many events; returns soon and asks the store
+    /// nothing. Null: nobody, and nobody is being told any more when this returns.
+    void setChangeObserver(std::function<void()> observer);
+
     virtual AuthorizationStatus authorizationStatusForEntityType(EntityType type) const = 0;
     /// Tries to have a calendar that can be written, making one where the form of the store can. The completion is
     /// called before this returns.
@@ -121,6 +127,13 @@ public:
     virtual std::optional<EventStoreError> removeEvent(const Event& event, EventSpan span, bool commit) = 0;
     /// Writes all changes. Nothing on success, and when there was nothing to write.
     virtual std::optional<EventStoreError> commit() = 0;
+
+protected:
+    void notifyChanged();
+
+private:
+    std::mutex m_observerMutex;
+    std::function<void()> m_observer;
 };
 
 } // namespace vidora

@@ -62,6 +62,12 @@ void DispatchGroup::leave()
     m_state->leave();
 }
 
+bool DispatchGroup::isEmpty() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->count == 0;
+}
+
 void DispatchGroup::wait()
 {
     const BlockingScope blocking;

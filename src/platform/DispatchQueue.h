@@ -89,6 +89,8 @@ public:
     /// By hand: work that is not one block. As many `leave` as `enter`.
     void enter();
     void leave();
+    /// Whether no block of the group waits or runs at this moment.
+    bool isEmpty() const;
     /// Blocks until every block of the group has run. Not on a queue that one of them needs.
     void wait();
     /// Queues the block when the group is, or becomes, empty.

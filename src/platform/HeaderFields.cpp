@@ -2,8 +2,19 @@
 
 namespace vidora {
 
+namespace {
+
+bool isWhole(const QByteArray& text)
+{
+    return !text.contains('\r') && !text.contains('\n') && !text.contains('\0');
+}
+
+} // namespace
+
 void HeaderFields::set(const QByteArray& name, const QByteArray& value)
 {
+    if (!isWhole(name) || !isWhole(value))
+        return;
     for (auto& [key, present] : m_fields) {
         if (key.compare(name, Qt::CaseInsensitive) == 0) {
             present = value;

@@ -12,7 +12,8 @@ namespace vidora {
 class HeaderFields
 {
 public:
-    /// Replaces the field's value, or adds the field.
+    /// Replaces the field's value, or adds the field. A value or a name with a line end or a zero in it, which would
+    /// become a field of its own, is refused: nothing happens then (RFC 9110, 5.5).
     void set(const QByteArray& name, const QByteArray& value);
     /// Adds to a field that is there already, behind a comma (RFC 9110, 5.3).
     void add(const QByteArray& name, const QByteArray& value);

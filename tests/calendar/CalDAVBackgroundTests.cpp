@@ -89,15 +89,20 @@ TEST_F(CalDAVEventStoreTest, WaitsForNoServerAndLosesNoChangeMadeWhileItAnswers)
     held.hold("REPORT"); // an answer that was overtaken by a change made here
     event = all(store).at(0);
     const QString path = server.calendar("tv") + event.eventIdentifier.mid(event.eventIdentifier.indexOf(u'/'));
-    writeRaw(path, readRaw(path).replace("SUMMARY:First", "SUMMARY:Theirs"));
+    writeRaw(path, readRaw(path).replace("LOCATION:Lipa 1", "LOCATION:Theirs\r\nCOMMENT:popcorn"));
     clock.advance(Seconds(3600));
     store.refreshSourcesIfNecessary();
     held.waitUntilHeld();
     event.title = QStringLiteral("Ours");
     EXPECT_FALSE(store.saveEvent(event, EventSpan::ThisEvent));
+    std::atomic<int> told = 0;
+    store.setChangeObserver([&] { ++told; });
     settle();
-    EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Theirs"), 1}})) << "the user is right";
-    EXPECT_EQ(all(store).at(0).title, QStringLiteral("Theirs"));
+    EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Ours"), 1}}));
+    EXPECT_TRUE(readRaw(path).contains("COMMENT:popcorn"));
+    EXPECT_EQ(all(store).at(0).title, QStringLiteral("Ours"));
+    EXPECT_EQ(all(store).at(0).location, QStringLiteral("Theirs"));
+    EXPECT_EQ(told, 1) << "who reads looks again";
 }
 
 } // namespace

@@ -110,7 +110,7 @@ TEST_F(CalDAVEventStoreTest, KeepsChangesUntilThereIsANetwork)
     EXPECT_EQ(titles(), (std::map<QString, int>{{QStringLiteral("Second"), 1}, {QStringLiteral("New"), 1}}));
 }
 
-TEST_F(CalDAVEventStoreTest, LeavesTheUsersOwnChangesInPlace)
+TEST_F(CalDAVEventStoreTest, PutsItsChangesOnTopOfThoseThatOthersMade)
 {
     const auto store = open();
     ASSERT_FALSE(store->refresh());
@@ -119,16 +119,35 @@ TEST_F(CalDAVEventStoreTest, LeavesTheUsersOwnChangesInPlace)
     const auto pathOf = [&](const Event& event) -> QString {
         return server.calendar("tv") + event.eventIdentifier.mid(event.eventIdentifier.indexOf(QLatin1Char('/')));
     };
-    const QByteArray byHand = readRaw(pathOf(moved)).replace("T190000Z", "T170000Z");
-    writeRaw(pathOf(moved), byHand);
+    const QByteArray byHand = readRaw(pathOf(moved)).replace("T190000Z", "T170000Z").replace("T194500Z", "T174500Z");
+    writeRaw(pathOf(moved), QByteArray(byHand).replace("END:VEVENT", "COMMENT:popcorn\r\nEND:VEVENT"));
     QFile::remove(pathOf(gone));
     moved.title = gone.title = QStringLiteral("Ours");
     EXPECT_FALSE(store->saveEvent(moved, EventSpan::ThisEvent, false));
     EXPECT_FALSE(store->saveEvent(gone, EventSpan::ThisEvent));
     EXPECT_EQ(store->unsentChanges(), 0);
-    EXPECT_EQ(readRaw(pathOf(moved)), byHand);
-    ASSERT_EQ(all(*store).size(), 1U);
+    EXPECT_TRUE(readRaw(pathOf(moved)).contains("SUMMARY:Ours\r\n"));
+    EXPECT_TRUE(readRaw(pathOf(moved)).contains("COMMENT:popcorn\r\n"));
+    ASSERT_EQ(all(*store).size(), 1U) << "what is gone stays gone";
     EXPECT_EQ(all(*store)[0].startDate, moment("2026-11-22T17:00:00Z"));
+
+    Event back = all(*store)[0]; // changed there and changed here: what was done last to a property stands
+    writeRaw(pathOf(moved), readRaw(pathOf(moved)).replace("-PT10M", "-PT5M").replace("popcorn", "crisps"));
+    back.startDate = start;
+    back.endDate = start + std::chrono::minutes(45);
+    EXPECT_FALSE(store->saveEvent(back, EventSpan::ThisEvent));
+    EXPECT_EQ(all(*store)[0].startDate, start);
+    EXPECT_EQ(all(*store)[0].alarms, std::vector{EventAlarm{Seconds(-300)}});
+    EXPECT_TRUE(readRaw(pathOf(moved)).contains("COMMENT:crisps\r\n"));
+
+    writeRaw(pathOf(moved), readRaw(pathOf(moved)).replace("crisps", "nuts"));
+    EXPECT_FALSE(store->removeEvent(back, EventSpan::ThisEvent, true));
+    EXPECT_TRUE(titles().empty()) << "a removal is not given up for a comment";
+    Event series = save(*store, QStringLiteral("Series"));
+    writeRaw(pathOf(series), readRaw(pathOf(series)).replace("END:VEVENT", "RRULE:FREQ=DAILY\r\nEND:VEVENT"));
+    EXPECT_FALSE(store->removeEvent(series, EventSpan::ThisEvent, true));
+    EXPECT_EQ(titles().size(), 1U) << "one that repeats is the user's";
+    EXPECT_EQ(store->unsentChanges(), 0);
 }
 
 TEST_F(CalDAVEventStoreTest, DoesNotInsistOnAWrongPassword)
@@ -175,19 +194,19 @@ TEST(CalDAVClient, GivesAPasswordToNobodyElse)
     ScriptedSleeper sleeper;
     for (const auto& [address, given] : hosts) {
         GreedySession session;
-        QUrl home;
+        std::vector<QUrl> homes;
         CalDAVClient client(session, sleeper,
                             {QString::fromLatin1(address), QStringLiteral("ana"), QStringLiteral("p")});
-        EXPECT_EQ(client.discover(home), CalDAVClient::Outcome::Refused);
+        EXPECT_EQ(client.discover(homes).outcome, CalDAVClient::Outcome::Refused);
         EXPECT_EQ(session.credentials, given) << address;
     }
     for (const char* target : {"https://evil.example/", "http://calendar.example/", "https://xcalendar.example/",
                                "file:///etc/passwd", "//evil.example"}) {
         GreedySession session;
         session.elsewhere = target;
-        QUrl home;
+        std::vector<QUrl> homes;
         CalDAVClient client(session, sleeper, {QStringLiteral("calendar.example"), QStringLiteral("ana"), {}});
-        EXPECT_NE(client.discover(home), CalDAVClient::Outcome::Done);
+        EXPECT_NE(client.discover(homes).outcome, CalDAVClient::Outcome::Done);
         for (const QString& address : session.addresses)
             EXPECT_TRUE(address.startsWith(QStringLiteral("https://calendar.example/"))) << address.toStdString();
     }

@@ -59,12 +59,12 @@ protected:
     Outcome put(const QUrl& address, const QString& password, const QString& authorities = {})
     {
         NetworkURLSession session(1024 * 1024, authorities);
-        CalDAVClient client(session, sleeper, {address.host(), QStringLiteral("ana"), password});
+        CalDAVClient client(session, sleeper, {DAVConnection::originOf(address), QStringLiteral("ana"), password});
         QString tag;
-        const Outcome outcome = client.put(address, document, tag);
-        EXPECT_FALSE(client.lastAnswer().contains(password));
-        trouble = client.lastTrouble();
-        return outcome;
+        const DAVResult result = client.put(address, document, tag);
+        EXPECT_FALSE(result.answer.contains(password));
+        trouble = result.trouble;
+        return result.outcome;
     }
 
     ScriptedSleeper sleeper;
