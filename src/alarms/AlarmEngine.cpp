@@ -1,6 +1,7 @@
 #include "alarms/AlarmEngine.h"
 
 #include "alarms/AlarmMinutes.h"
+#include "calendar/EventMerge.h"
 #include "platform/Log.h"
 
 #include <algorithm>
@@ -28,11 +29,23 @@ AlarmEngine::AlarmEngine(AlarmSurroundings surroundings)
     , m_selectedCalendar(m_surroundings.eventStore, m_surroundings.defaults)
     , m_alarmSyncQueue(DispatchQueue::serial(QStringLiteral("ostrel.tv.alarm.sync")))
 {
+    if (!m_surroundings.readOnly)
+        m_surroundings.eventStore.setChangeObserver([this] { noteCalendarChange(); });
 }
 
 AlarmEngine::~AlarmEngine()
 {
+    m_surroundings.eventStore.setChangeObserver({});
     m_alarmSyncQueue->sync([] {});
+}
+
+/// The last synchronisation worked on what the calendar is no longer.
+void AlarmEngine::noteCalendarChange()
+{
+    m_mainBlocks.async([this, activity = begin()] {
+        setSynchronized(false);
+        syncAlarms();
+    });
 }
 
 AlarmEngine::Activity AlarmEngine::begin() const
@@ -104,6 +117,17 @@ bool AlarmEngine::replaceFavorite(const QString& title, int minutes, std::option
     return true;
 }
 
+/// An alarm on all broadcasts of a title, on its way to the calendar.
+struct AlarmEngine::TitleAlarm
+{
+    QString title;
+    int minutes;
+    std::optional<bool> previouslyShown;
+    bool replacesAnother; ///< the favourite had an alarm before
+    std::uint64_t changes;
+    Activity activity;
+};
+
 void AlarmEngine::setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown, bool manual)
 {
     if (manual)
@@ -111,39 +135,64 @@ void AlarmEngine::setAlarmForTitle(const QString& title, int minutes, std::optio
     if (!mayWrite() || !m_surroundings.shows.favorites())
         return;
     setSynchronized(false);
-    const std::uint64_t changes = m_surroundings.alarms.changes();
+    const bool replacesAnother = alarmedIdentificatorType(title).has_value();
+    const TitleAlarm alarm{title, minutes, previouslyShown, replacesAnother, m_surroundings.alarms.changes(), begin()};
     replaceFavorite(title, minutes, previouslyShown);
-    m_listings->favoritesScheduleWithBlock(
-        [this, title, minutes, previouslyShown, changes, activity = begin()](const SharedShowList& shows) {
-            m_mainBlocks.async([=, this] { setAlarms(*shows, title, minutes, previouslyShown, changes, activity); });
-        });
+    m_listings->favoritesScheduleWithBlock([this, alarm](const SharedShowList& shows) {
+        m_mainBlocks.async([this, shows, alarm] { setAlarms(*shows, alarm); });
+    });
 }
 
-void AlarmEngine::setAlarms(const ShowList& shows, const QString& title, int minutes,
-                            std::optional<bool> previouslyShown, std::uint64_t changes, const Activity& activity)
+void AlarmEngine::setAlarms(const ShowList& shows, const TitleAlarm& alarm)
 {
     const Instant now = m_surroundings.clock.now();
-    bool anyWasMade = false;
+    const SilentPeriod silentPeriod = m_surroundings.silentHours.period();
+    std::vector<Wanted> wanted;
+    QSet<QString> known;
     for (const Show& show : shows) {
         const TVEntry& entry = *show->entry;
-        if ((previouslyShown && entry.previouslyShown() != previouslyShown) ||
-            entry.lowercasedIdentificator() != title.toLower() || !entry.dateTime() ||
-            *entry.dateTime() + offsetOf(minutes) <= now)
+        if (entry.lowercasedIdentificator() != alarm.title.toLower() || !entry.dateTime())
             continue;
-        setAlarmForTitle(title, entry.channel(), *entry.dateTime(), entry.endDateTime(), minutes, false, false);
-        anyWasMade = true;
+        const auto url =
+            TVEntry::urlDigestFromChannel(entry.channel(), *entry.dateTime(), alarm.title, m_surroundings.scheme);
+        if (url)
+            known.insert(url->text());
+        const Instant alarmTime = *entry.dateTime() + offsetOf(alarm.minutes);
+        const auto channelTitle = m_surroundings.channels.titleOfChannel(entry.channel());
+        if ((!alarm.previouslyShown || entry.previouslyShown() == alarm.previouslyShown) && alarmTime > now &&
+            silentPeriod.mayBeAlarmedAt(alarmTime) && channelTitle)
+            wanted.push_back({alarm.title, *channelTitle, url, *entry.dateTime(), entry.endDateTime()});
     }
-    m_alarmSyncQueue->async([this, anyWasMade, changes, activity] {
-        if (anyWasMade)
-            commitOnQueue();
-        m_mainBlocks.async([this, anyWasMade, changes, activity] {
+    m_alarmSyncQueue->async([this, wanted, known, alarm] {
+        if (m_selectedCalendar.calendar())
+            guarded([&] { setAlarmsOnQueue(wanted, known, alarm); });
+        commitOnQueue();
+        m_mainBlocks.async([this, anyWasMade = !wanted.empty(), alarm] {
             if (anyWasMade)
                 syncAlarms();
-            m_surroundings.alarms.setSynchronizedUnlessChanged(changes);
+            m_surroundings.alarms.setSynchronizedUnlessChanged(alarm.changes);
             if (m_surroundings.application.isInBackground())
                 m_surroundings.application.synchronizeSettings();
         });
     });
+}
+
+/// Of an alarm that was set before, what the new one doesn't ask for goes.
+void AlarmEngine::setAlarmsOnQueue(const std::vector<Wanted>& wanted, const QSet<QString>& known,
+                                   const TitleAlarm& alarm)
+{
+    const EventsByURL present = comingEvents();
+    QSet<QString> set;
+    for (const Wanted& broadcast : wanted) {
+        saveAlarm(broadcast, present, alarm.minutes, false, false);
+        if (broadcast.url)
+            set.insert(broadcast.url->text());
+    }
+    for (const auto& [url, event] : present) {
+        if (alarm.replacesAnother && known.contains(url.text()) && !set.contains(url.text()) &&
+            isOwn(event, m_surroundings))
+            m_surroundings.eventStore.removeEvent(event, EventSpan::ThisEvent, false);
+    }
 }
 
 void AlarmEngine::setAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at,
@@ -159,28 +208,60 @@ void AlarmEngine::setAlarmForTitle(const QString& title, const ObjectId& onChann
     const auto channelTitle = m_surroundings.channels.titleOfChannel(onChannel);
     if (!channelTitle)
         return;
-    m_alarmSyncQueue->async([=, this, activity = begin()] {
+    const Wanted wanted{title, *channelTitle,
+                        TVEntry::urlDigestFromChannel(onChannel, at, title, m_surroundings.scheme), at, until};
+    m_alarmSyncQueue->async([this, wanted, alarmTime, minutes, sync, manual, activity = begin()] {
         if (!m_selectedCalendar.calendar())
             return;
-        Event event = eventForBroadcast(*m_selectedCalendar.calendar(), title, *channelTitle,
-                                        TVEntry::urlDigestFromChannel(onChannel, at, title, m_surroundings.scheme), at,
-                                        until, minutes);
         guarded([&] {
+            Event event = eventForBroadcast(*m_selectedCalendar.calendar(), {}, wanted.title, wanted.channelTitle,
+                                            wanted.url, wanted.start, wanted.end, minutes);
             if (alarmTime > m_surroundings.clock.now())
-                saveAlarm(event, minutes, sync);
+                event = saveAlarm(wanted, comingEvents(), minutes, manual, sync);
             if (sync)
                 enterEvent(event, activity);
         });
     });
 }
 
-void AlarmEngine::saveAlarm(Event& event, int minutes, bool commit)
+AlarmEngine::EventsByURL AlarmEngine::comingEvents()
 {
-    if (const auto error = m_surroundings.eventStore.saveEvent(event, EventSpan::ThisEvent, commit))
+    EventStore& store = m_surroundings.eventStore;
+    const Instant now = m_surroundings.clock.now();
+    EventsByURL result;
+    for (Event& event : store.eventsMatchingPredicate(
+             store.predicateForEventsWithStartDate(now, now + calendarWindow, {*m_selectedCalendar.calendar()}))) {
+        if (isOurs(event, m_surroundings.scheme))
+            result.emplace(*event.url, std::move(event));
+    }
+    return result;
+}
+
+Event AlarmEngine::saveAlarm(const Wanted& wanted, const EventsByURL& present, int minutes, bool manual, bool commit)
+{
+    Event event = eventForBroadcast(*m_selectedCalendar.calendar(), m_surroundings.deviceMark, wanted.title,
+                                    wanted.channelTitle, wanted.url, wanted.start, wanted.end, minutes);
+    const auto [first, last] = wanted.url ? present.equal_range(*wanted.url) : std::pair(present.end(), present.end());
+    bool isOthersEnough = false;
+    for (auto there = first; there != last; ++there) {
+        if (isOwn(there->second, m_surroundings)) {
+            event = laidOver(event, there->second);
+            isOthersEnough = false;
+            break;
+        }
+        // Another device's event rings as well. Who sets an alarm by hand may want another time than that.
+        const bool ringsAlike = there->second.hasAlarms() && there->second.startDate == event.startDate &&
+                                there->second.tellingAlarm() == event.tellingAlarm();
+        isOthersEnough = isOthersEnough || !manual || ringsAlike;
+    }
+    const auto error =
+        isOthersEnough ? std::nullopt : m_surroundings.eventStore.saveEvent(event, EventSpan::ThisEvent, commit);
+    if (error)
         Log::line(QStringLiteral("Error saving event: %1").arg(error->localizedDescription));
     // Many events in a row have the same lead time, and each write goes to the disk.
     if (m_surroundings.keyValueStore.objectForKey(lastAlarmMinutesKey) != QCborValue(minutes))
         m_surroundings.keyValueStore.setObject(minutes, lastAlarmMinutesKey);
+    return event;
 }
 
 void AlarmEngine::enterEvent(const Event& saved, const Activity& activity)
@@ -247,7 +328,7 @@ void AlarmEngine::removeComingEvents(const std::function<bool(const Event&)>& fi
         const bool isWhole = guarded([&] {
             identifiers = removeEvents(
                 now, now + calendarWindow,
-                [&](const Event& event) { return isOurs(event, m_surroundings.scheme) && fits(event); }, removed);
+                [&](const Event& event) { return isOwn(event, m_surroundings) && fits(event); }, removed);
         });
         if (!isWhole)
             return;
@@ -282,7 +363,8 @@ void AlarmEngine::removeAlarmForTitle(const QString& title, const ObjectId& onCh
             identifiers = removeEvents(
                 at, at + dayStep,
                 [&](const Event& event) {
-                    return event.startDate == at && event.title == title && url && event.url == url;
+                    return event.startDate == at && event.title == title && url && event.url == url &&
+                           isOwn(event, m_surroundings);
                 },
                 removed);
         });
@@ -300,15 +382,30 @@ void AlarmEngine::removeAlarmForTitle(const QString& title, const ObjectId& onCh
     });
 }
 
-int AlarmEngine::alarmedEntry(const TVEntry& entry)
+std::optional<Event> AlarmEngine::alarmedEvent(const TVEntry& entry)
 {
     const auto identifier = m_calendarEvents.identifier(entry, m_surroundings.scheme);
     if (!identifier || identifier->isEmpty())
-        return -1;
+        return std::nullopt;
     std::optional<Event> event;
     m_alarmSyncQueue->sync(
         [&] { guarded([&] { event = m_surroundings.eventStore.eventWithIdentifier(*identifier); }); });
-    return event && event->hasAlarms() ? minutesOf(tellingAlarm(*event)) : -1;
+    return event && event->hasAlarms() ? event : std::nullopt;
+}
+
+int AlarmEngine::alarmedEntry(const TVEntry& entry)
+{
+    const auto event = alarmedEvent(entry);
+    return event ? minutesOf(event->tellingAlarm()) : -1;
+}
+
+std::optional<AlarmEngine::Ring> AlarmEngine::ringOf(const TVEntry& entry)
+{
+    const auto event = alarmedEvent(entry);
+    if (!event)
+        return std::nullopt;
+    const Seconds offset = event->tellingAlarm().relativeOffset;
+    return Ring{event->startDate + offset, -offset};
 }
 
 std::optional<AlarmEngine::Recurrence> AlarmEngine::alarmedIdentificatorType(const QString& title)
@@ -332,18 +429,21 @@ ShowList AlarmEngine::alertedShows(const ShowList& shows, const ShowsByURL& byUR
     const Instant end =
         (shows.empty() ? std::nullopt : shows.back()->entry->endDateTime()).value_or(now + calendarWindow);
     const SilentPeriod silentPeriod = m_surroundings.silentHours.period();
+    std::unordered_set<URL> alerted;
     guarded([&] {
         EventStore& store = m_surroundings.eventStore;
         const EventPredicate period = store.predicateForEventsWithStartDate(now, end, {*m_selectedCalendar.calendar()});
         store.enumerateEventsMatchingPredicate(period, [&](const Event& event, bool& stop) {
             if (!event.hasAlarms() || !event.url)
                 return;
-            const EventAlarm alarm = tellingAlarm(event);
+            const EventAlarm alarm = event.tellingAlarm();
             const auto show = byURL.find(*event.url);
             if (minutesOf(alarm) < 0 || show == byURL.end() ||
                 !silentPeriod.mayBeAlarmedAt(event.startDate + alarm.relativeOffset))
                 return;
-            result.push_back(show->second);
+            // An event that was made to repeat, or one of another device's beside our own, is no second show.
+            if (alerted.insert(*event.url).second)
+                result.push_back(show->second);
             stop = result.size() == maximumShows;
         });
     });

@@ -50,9 +50,10 @@ public:
     // Alarms.
 
     /// Sets an alarm on all broadcasts of a favourite, so many minutes ahead. Makes events only where the alarm is
-    /// still to come; a title that is no favourite gets none.
+    /// still to come; a title that is no favourite gets none. Alarms that were set on them before become these.
     void setAlarmForTitle(const QString& title, int minutes, std::optional<bool> previouslyShown, bool manual);
-    /// Sets an alarm on one broadcast, unless it would have had to sound already.
+    /// Sets an alarm on one broadcast, unless it would have had to sound already. One that it has is changed in place:
+    /// what others put on the event stays.
     void setAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at, std::optional<Instant> until,
                           int minutes, bool sync, bool manual);
     /// Removes the alarms on all coming broadcasts of a title, in whatever case. A favourite stays one.
@@ -61,8 +62,16 @@ public:
     void removeAlarmForTitle(const QString& title, const ObjectId& onChannel, Instant at, bool sync, bool manual);
     /// Removes all coming events of ours, be there favourites that ask for them or not.
     void removeAllEvents();
-    /// Lead time of the broadcast's alarm in minutes, -1 without one. Waits for the work on the calendar.
+    /// Lead time of the broadcast's alarm in minutes, as near as the offered ones come to it; -1 without one. Waits for
+    /// the work on the calendar.
     int alarmedEntry(const TVEntry& entry);
+    /// When the broadcast's alarm rings, and how long ahead of its event; nothing without one. Waits as the above.
+    struct Ring
+    {
+        Instant moment;
+        Seconds lead;
+    };
+    std::optional<Ring> ringOf(const TVEntry& entry);
     /// What is set on the broadcasts of a favourite; nothing when it has no alarm, or there is none.
     std::optional<Recurrence> alarmedIdentificatorType(const QString& title);
     /// The shows for which an alarm will sound. As the store's compound queries.
@@ -78,10 +87,18 @@ public:
     int eventCount() const { return m_calendarEvents.eventCount(); }
     /// The calendar in which alarms are made, chosen if it was not yet. Waits for the work on the calendar.
     std::optional<Calendar> selectedCalendar();
+    /// The title of the calendar that held the alarms and is gone, until the user chooses one: alarms are made in the
+    /// default calendar meanwhile. Any thread.
+    std::optional<QString> lostCalendar() const
+    {
+        return m_surroundings.defaults.stringForKey(SelectedCalendar::lostKey);
+    }
     /// Takes the calendar that the user has chosen. Events stay where they are: only while there are none.
     void saveCalendar(const Calendar& calendar);
     /// Queues a commit of the calendar, for the end of the process and the way into the background.
     void commit();
+    /// Whether nothing that was begun is going on.
+    bool isIdle() const { return m_activity->isEmpty(); }
     /// Queues the block on the main queue once nothing that was begun is going on.
     void whenIdle(DispatchQueue::Block block) { m_activity->notify(DispatchQueue::main(), std::move(block)); }
 
@@ -98,10 +115,25 @@ private:
     bool guarded(const std::function<void()>& work) const;
     /// Replaces the first favourite of a title; false when there is none.
     bool replaceFavorite(const QString& title, int minutes, std::optional<bool> previouslyShown);
-    void setAlarms(const ShowList& shows, const QString& title, int minutes, std::optional<bool> previouslyShown,
-                   std::uint64_t changes, const Activity& activity);
-    /// Saves an event and remembers its lead time, which is the next one offered.
-    void saveAlarm(Event& event, int minutes, bool commit);
+    /// A broadcast that gets an alarm.
+    struct Wanted
+    {
+        QString title, channelTitle;
+        std::optional<URL> url;
+        Instant start;
+        std::optional<Instant> end;
+    };
+    using EventsByURL = std::unordered_multimap<URL, Event>;
+    struct TitleAlarm;
+    void setAlarms(const ShowList& shows, const TitleAlarm& alarm);
+    void setAlarmsOnQueue(const std::vector<Wanted>& wanted, const QSet<QString>& known, const TitleAlarm& alarm);
+    /// Our coming events.
+    EventsByURL comingEvents();
+    /// Saves the event of a broadcast, or changes the one that is there, and remembers its lead time, which is the next
+    /// one offered.
+    Event saveAlarm(const Wanted& wanted, const EventsByURL& present, int minutes, bool manual, bool commit);
+    std::optional<Event> alarmedEvent(const TVEntry& entry);
+    void noteCalendarChange();
     /// Enters the event of a broadcast that was just saved into the index, and tells the screens.
     void enterEvent(const Event& saved, const Activity& activity);
     /// Removes our events that begin from now on and fit.

@@ -43,13 +43,10 @@ void AlarmRequests::setFavorite(const QString& title, const std::optional<AlarmE
     };
     if (!alarm)
         return whenIdle(finish);
-    // What was set before would keep its lead time.
-    if (m_engine.alarmedIdentificatorType(kept))
-        m_engine.removeAlarmForTitle(kept, true, true);
-    whenIdle([this, kept, alarm, finish] {
-        m_engine.setAlarmForTitle(kept, alarm->minutes, alarm->previouslyShown, true);
-        whenIdle(finish);
-    });
+    if (m_engine.alarmedIdentificatorType(kept)) // counted as if it had been taken away
+        m_surroundings.counters.incrementCounterByAmount(-1, kept);
+    m_engine.setAlarmForTitle(kept, alarm->minutes, alarm->previouslyShown, true);
+    whenIdle(finish);
 }
 
 void AlarmRequests::removeFavorite(const QString& title, const Done& done)
@@ -72,17 +69,15 @@ void AlarmRequests::setAlarm(const Show& show, int minutes, const Done& done)
     if (!start || *start - std::chrono::minutes(minutes) <= m_surroundings.clock.now())
         return whenIdle([done] { done(Outcome::TooLate); });
     const QString title = entry->identificator().value_or(QString());
-    if (m_engine.alarmedEntry(*entry) >= 0)
-        m_engine.removeAlarmForTitle(title, entry->channel(), *start, true, true);
-    whenIdle([this, entry, title, start, minutes, done] {
-        m_engine.setAlarmForTitle(title, entry->channel(), *start, entry->endDateTime(), minutes, true, true);
-        whenIdle([this, entry, title, done] {
-            if (m_engine.alarmedEntry(*entry) < 0)
-                return done(Outcome::NoCalendar);
-            if (!favorite(title))
-                m_engine.addFavorite(title);
-            done(Outcome::Done);
-        });
+    if (m_engine.alarmedEntry(*entry) >= 0) // counted as if it had been taken away
+        m_surroundings.counters.incrementCounterByAmount(-1, title);
+    m_engine.setAlarmForTitle(title, entry->channel(), *start, entry->endDateTime(), minutes, true, true);
+    whenIdle([this, entry, title, done] {
+        if (m_engine.alarmedEntry(*entry) < 0)
+            return done(Outcome::NoCalendar);
+        if (!favorite(title))
+            m_engine.addFavorite(title);
+        done(Outcome::Done);
     });
 }
 

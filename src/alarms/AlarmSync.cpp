@@ -49,9 +49,9 @@ void AlarmEngine::syncAlarms()
 void AlarmEngine::ensureSelectedCalendarIsSet()
 {
     guarded([this] {
-        const auto looks = m_selectedCalendar.ensureSelectedCalendarIsSet();
-        if (looks && !m_surroundings.readOnly)
-            m_mainBlocks.async([this, looks] { m_surroundings.defaults.setObject(*looks, SelectedCalendar::key); });
+        const auto memory = m_selectedCalendar.ensureSelectedCalendarIsSet();
+        if (memory && !m_surroundings.readOnly)
+            m_mainBlocks.async([this, memory] { SelectedCalendar::remember(*memory, m_surroundings.defaults); });
     });
 }
 
@@ -178,9 +178,10 @@ void AlarmEngine::saveCalendar(const Calendar& calendar)
         if (m_selectedCalendar.calendar() == calendar)
             return;
         m_selectedCalendar.setCalendar(calendar);
-        m_mainBlocks.async([this, looks = SelectedCalendar::colorStringForCalendar(calendar), activity] {
-            m_surroundings.defaults.setObject(looks, SelectedCalendar::key);
-            m_surroundings.keyValueStore.setObject(looks, SelectedCalendar::key);
+        m_mainBlocks.async([this, memory = SelectedCalendar::memoryOf(calendar), activity] {
+            SelectedCalendar::remember(memory, m_surroundings.defaults);
+            m_surroundings.defaults.removeObjectForKey(SelectedCalendar::lostKey);
+            m_surroundings.keyValueStore.setObject(memory.looks, SelectedCalendar::key);
             m_surroundings.screens.updateBadge();
         });
     });

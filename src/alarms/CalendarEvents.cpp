@@ -4,12 +4,24 @@ namespace vidora {
 
 void CalendarEvents::add(const Event& event, const QString& delegateScheme)
 {
+    enter(event, delegateScheme, false);
+}
+
+void CalendarEvents::addOfOther(const Event& event, const QString& delegateScheme)
+{
+    if (event.url && !m_events.contains(*event.url) && !event.eventIdentifier.isEmpty())
+        enter(event, delegateScheme, true);
+}
+
+void CalendarEvents::enter(const Event& event, const QString& delegateScheme, bool isOthers)
+{
     if (!event.url || event.url->host().isEmpty() || delegateScheme.isEmpty() || event.url->scheme() != delegateScheme)
         return;
     remove(*event.url);
     if (event.eventIdentifier.isEmpty())
         return;
-    m_events.emplace(*event.url, event.eventIdentifier);
+    m_events.emplace(*event.url, Entry{event.eventIdentifier, isOthers});
+    m_others += isOthers ? 1 : 0;
     m_urls.insert(event.eventIdentifier, *event.url);
 }
 
@@ -17,7 +29,7 @@ std::optional<QString> CalendarEvents::identifier(const TVEntry& entry, const QS
 {
     const auto url = entry.urlDigestWithScheme(scheme);
     const auto found = url ? m_events.find(*url) : m_events.end();
-    return found == m_events.end() ? std::nullopt : std::optional(found->second);
+    return found == m_events.end() ? std::nullopt : std::optional(found->second.identifier);
 }
 
 void CalendarEvents::removeWithIdentifier(const QString& identifier)
@@ -25,7 +37,7 @@ void CalendarEvents::removeWithIdentifier(const QString& identifier)
     const auto found = m_urls.constFind(identifier);
     if (found == m_urls.cend())
         return;
-    m_events.erase(*found);
+    erase(*found);
     m_urls.erase(found);
 }
 
@@ -40,7 +52,16 @@ void CalendarEvents::remove(const URL& url)
     const auto found = m_events.find(url);
     if (found == m_events.end())
         return;
-    m_urls.remove(found->second, url);
+    m_urls.remove(found->second.identifier, url);
+    erase(url);
+}
+
+void CalendarEvents::erase(const URL& url)
+{
+    const auto found = m_events.find(url);
+    if (found == m_events.end())
+        return;
+    m_others -= found->second.isOthers ? 1 : 0;
     m_events.erase(found);
 }
 

@@ -40,17 +40,17 @@ bool isOurs(const Event& event, const QString& scheme)
     return event.url && !scheme.isEmpty() && event.url->scheme() == scheme;
 }
 
-EventAlarm tellingAlarm(const Event& event)
+bool isOwn(const Event& event, const AlarmSurroundings& surroundings)
 {
-    const auto ahead = std::find_if(event.alarms.begin(), event.alarms.end(),
-                                    [](const EventAlarm& alarm) { return alarm.relativeOffset < Seconds{0}; });
-    return ahead == event.alarms.end() ? event.alarms.back() : *ahead;
+    return isOurs(event, surroundings.scheme) && (event.device.isEmpty() || event.device == surroundings.deviceMark);
 }
 
-Event eventForBroadcast(const Calendar& calendar, const QString& title, const QString& channelTitle,
-                        std::optional<URL> url, Instant start, std::optional<Instant> end, int minutes)
+Event eventForBroadcast(const Calendar& calendar, const QString& deviceMark, const QString& title,
+                        const QString& channelTitle, std::optional<URL> url, Instant start, std::optional<Instant> end,
+                        int minutes)
 {
     Event event;
+    event.device = deviceMark;
     event.title = title;
     event.location = channelTitle;
     event.url = std::move(url);
@@ -96,7 +96,9 @@ std::vector<Event> CalendarSynchronisation::cleanUp(const std::vector<Event>& ev
     for (const Event& event : events) {
         if (!isOurs(event, m_surroundings.scheme))
             continue;
-        if (event.location.isEmpty() || !event.hasAlarms()) {
+        if (!isOwn(event, m_surroundings)) {
+            kept.push_back(event);
+        } else if (event.location.isEmpty() || !event.hasAlarms()) {
             removeEvent(event, "removeEvent for an invalid event failed with error");
         } else if (!places.insert({event.startDate, event.title.toLower(), event.location}).second) {
             duplicateFound = true;
@@ -114,8 +116,12 @@ CalendarEvents CalendarSynchronisation::index(const std::vector<Event>& events, 
 {
     CalendarEvents index;
     for (const Event& event : events) {
-        if (isOurs(event, m_surroundings.scheme) && event.hasAlarms() && event.startDate > now)
+        if (!event.hasAlarms() || event.startDate <= now)
+            continue;
+        if (isOwn(event, m_surroundings))
             index.add(event, m_surroundings.scheme);
+        else
+            index.addOfOther(event, m_surroundings.scheme);
     }
     return index;
 }
@@ -165,7 +171,10 @@ CalendarSynchronisation::Operation CalendarSynchronisation::judge(Event& event, 
 
 bool CalendarSynchronisation::isDoneWith(const Event& event, Instant now, QStringList& removed)
 {
+    const bool isOwn = vidora::isOwn(event, m_surroundings);
     if (!event.hasAlarms()) {
+        if (!isOwn)
+            return true;
         if (event.startDate > now)
             removeEvent(event, "removeEvent error");
         removed << event.eventIdentifier;
@@ -174,7 +183,8 @@ bool CalendarSynchronisation::isDoneWith(const Event& event, Instant now, QStrin
     if (m_silentPeriod.mayBeAlarmedAt(event.startDate + event.alarms.front().relativeOffset))
         return false;
     // One that belongs to no favourite's alarm was set by hand, and may ring at night.
-    if (m_surroundings.shows.scheduleTimeForFavoriteNamed(event.title).value_or(-1) >= 0 && removeCalendarEvent(event))
+    if (isOwn && m_surroundings.shows.scheduleTimeForFavoriteNamed(event.title).value_or(-1) >= 0 &&
+        removeCalendarEvent(event))
         removed << event.eventIdentifier;
     return true;
 }
@@ -195,7 +205,7 @@ CalendarSynchronisation::Reconciled CalendarSynchronisation::reconcile(const Fav
         operations.emplace_back(std::move(event), operation);
     });
     for (auto& [event, operation] : operations) {
-        if (operation == Operation::Remove && removeCalendarEvent(event))
+        if (operation == Operation::Remove && isOwn(event, m_surroundings) && removeCalendarEvent(event))
             result.removed << event.eventIdentifier;
         else if (operation == Operation::Update)
             store.saveEvent(event, EventSpan::ThisEvent, false);
@@ -239,8 +249,8 @@ void CalendarSynchronisation::createMissing(const FavoriteSchedule& schedule, co
             const auto channelTitle = m_surroundings.channels.titleOfChannel(entry.channel());
             if (!channelTitle)
                 continue;
-            Event event = eventForBroadcast(m_calendar, *entry.identificator(), *channelTitle, url, start,
-                                            entry.endDateTime(), favorite->minutes());
+            Event event = eventForBroadcast(m_calendar, m_surroundings.deviceMark, *entry.identificator(),
+                                            *channelTitle, url, start, entry.endDateTime(), favorite->minutes());
             m_surroundings.eventStore.saveEvent(event, EventSpan::ThisEvent, false);
             if (url)
                 present.insert(*url);

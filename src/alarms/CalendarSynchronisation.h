@@ -20,11 +20,12 @@ constexpr Seconds calendarWindow = 60 * dayStep;
 
 /// Whether an event's address has the application's own scheme: all others belong to others and are never touched.
 bool isOurs(const Event& event, const QString& scheme);
-/// The alarm that tells how an event rings: the first ahead of the start, else the last. The event has alarms.
-EventAlarm tellingAlarm(const Event& event);
-/// An event with an alarm for one broadcast. An event without an end ends where it starts.
-Event eventForBroadcast(const Calendar& calendar, const QString& title, const QString& channelTitle,
-                        std::optional<URL> url, Instant start, std::optional<Instant> end, int minutes);
+/// Whether such an event is this device's to clean up and to remove: it bears its mark, or none, as all did once.
+bool isOwn(const Event& event, const AlarmSurroundings& surroundings);
+/// An event with an alarm for one broadcast, bearing a device's mark. An event without an end ends where it starts.
+Event eventForBroadcast(const Calendar& calendar, const QString& deviceMark, const QString& title,
+                        const QString& channelTitle, std::optional<URL> url, Instant start, std::optional<Instant> end,
+                        int minutes);
 /// Logs an operation of the calendar that could not be answered.
 void logPredicateException(const EventStoreException& exception, const std::optional<Calendar>& calendar);
 
@@ -35,7 +36,7 @@ class CalendarSynchronisation
 public:
     CalendarSynchronisation(const AlarmSurroundings& surroundings, Calendar calendar);
 
-    /// Removes events of ours that are broken or stand there twice. Those that stay.
+    /// Removes events of this device that are broken or stand there twice. Those of ours that stay.
     std::vector<Event> cleanUp(const std::vector<Event>& events);
     /// Index of those of our events with an alarm that begin after a moment.
     CalendarEvents index(const std::vector<Event>& events, Instant now) const;
@@ -45,10 +46,10 @@ public:
         std::vector<Event> events; ///< what the calendar holds from now to the end of the window
         QStringList removed;       ///< identifiers that leave the index
     };
-    /// Makes the events that begin after `now` agree with the schedule: those of moved broadcasts follow, those of
-    /// vanished ones go.
+    /// Makes the events that begin after `now` agree with the schedule: those of moved broadcasts follow, whichever
+    /// device has made them; of vanished ones this device's go.
     Reconciled reconcile(const FavoriteSchedule& schedule, Instant now, Instant windowEnd);
-    /// Makes the events that favourites with an alarm lack.
+    /// Makes the events that favourites with an alarm lack: one a broadcast, whichever device has made it.
     void createMissing(const FavoriteSchedule& schedule, const Favorites& favorites, const std::vector<Event>& events,
                        Instant now);
 

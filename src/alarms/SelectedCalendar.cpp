@@ -20,18 +20,40 @@ QString SelectedCalendar::colorStringForCalendar(const Calendar& calendar)
     return titleAndSource(calendar) + components.join(QLatin1Char(':'));
 }
 
-std::optional<QString> SelectedCalendar::ensureSelectedCalendarIsSet()
+SelectedCalendar::Memory SelectedCalendar::memoryOf(const Calendar& calendar)
 {
-    if (m_calendar)
-        return std::nullopt;
-    const QString looks = m_defaults.stringForKey(key).value_or(QString());
-    m_calendar = looks.isEmpty() ? std::nullopt : remembered(looks);
-    if (!m_calendar)
-        m_calendar = m_eventStore.defaultCalendarForNewEvents();
-    return m_calendar ? std::optional(colorStringForCalendar(*m_calendar)) : std::nullopt;
+    return {colorStringForCalendar(calendar),
+            calendar.address.isEmpty() ? calendar.calendarIdentifier : calendar.address,
+            {}};
 }
 
-std::optional<Calendar> SelectedCalendar::remembered(const QString& looks) const
+void SelectedCalendar::remember(const Memory& memory, UserDefaults& defaults)
+{
+    defaults.setObject(memory.looks, key);
+    defaults.setObject(memory.place, placeKey);
+    if (!memory.lost.isEmpty())
+        defaults.setObject(memory.lost, lostKey);
+}
+
+std::optional<SelectedCalendar::Memory> SelectedCalendar::ensureSelectedCalendarIsSet()
+{
+    if (m_calendar && m_eventStore.calendarWithIdentifier(m_calendar->calendarIdentifier))
+        return std::nullopt;
+    const QString looks = m_defaults.stringForKey(key).value_or(QString());
+    m_calendar =
+        looks.isEmpty() ? std::nullopt : remembered(looks, m_defaults.stringForKey(placeKey).value_or(QString()));
+    const bool isLost = !looks.isEmpty() && !m_calendar;
+    if (!m_calendar)
+        m_calendar = m_eventStore.defaultCalendarForNewEvents();
+    if (!m_calendar)
+        return std::nullopt;
+    Memory memory = memoryOf(*m_calendar);
+    if (isLost)
+        memory.lost = looks.section(QLatin1Char(':'), 0, -7); // ahead of the source and the colour
+    return memory;
+}
+
+std::optional<Calendar> SelectedCalendar::remembered(const QString& looks, const QString& place) const
 {
     using Fits = bool (*)(const Calendar&, const QString&);
     constexpr Fits walks[] = {
@@ -42,6 +64,10 @@ std::optional<Calendar> SelectedCalendar::remembered(const QString& looks) const
         },
     };
     const std::vector<Calendar> calendars = m_eventStore.calendarsForEntityType(EntityType::Event);
+    for (const Calendar& calendar : calendars) {
+        if (!place.isEmpty() && calendar.allowsContentModifications && memoryOf(calendar).place == place)
+            return calendar;
+    }
     for (const Fits fits : walks) {
         for (const Calendar& calendar : calendars) {
             if (calendar.allowsContentModifications && fits(calendar, looks))

@@ -6,9 +6,9 @@
 
 namespace vidora {
 
-/// The calendar in which alarms live. It is remembered by its looks and not by an identifier, so that the same calendar
-/// is found again on another device. To be used on the queue of the alarms; the constructor and the static operations
-/// on any thread.
+/// The calendar in which alarms live. It is remembered by its looks, so that the same calendar is found again on
+/// another device, and by its place, so that it stays the same however it is renamed or coloured. To be used on the
+/// queue of the alarms; the constructor and the static operations on any thread.
 class SelectedCalendar
 {
 public:
@@ -22,17 +22,30 @@ public:
     const std::optional<Calendar>& calendar() const { return m_calendar; }
     void setCalendar(Calendar calendar) { m_calendar = std::move(calendar); }
 
-    /// Looks for the remembered calendar: by title, source and colour, then by title and source, then by title; else
-    /// takes the default one. Its looks, to be remembered; nothing where it was set already or there is none.
-    std::optional<QString> ensureSelectedCalendarIsSet();
+    /// What is to be remembered about a calendar.
+    struct Memory
+    {
+        QString looks;
+        QString place;
+        QString lost; ///< the title of the remembered calendar, when it is gone and the default one stands in
+    };
+    /// Looks for the remembered calendar: by its place, by title, source and colour, then by title and source, then by
+    /// title; else takes the default one. Nothing where it was set already, and is still there, or there is none.
+    std::optional<Memory> ensureSelectedCalendarIsSet();
+
+    static Memory memoryOf(const Calendar& calendar);
+    /// Remembers it in the settings.
+    static void remember(const Memory& memory, UserDefaults& defaults);
 
     /// Title, source and the four components of the colour, each 0.5 where the calendar names none.
     static QString colorStringForCalendar(const Calendar& calendar);
 
     static constexpr QLatin1String key{"selectedCalendar"};
+    static constexpr QLatin1String placeKey{"selectedCalendarPlace"};
+    static constexpr QLatin1String lostKey{"lostCalendar"};
 
 private:
-    std::optional<Calendar> remembered(const QString& looks) const;
+    std::optional<Calendar> remembered(const QString& looks, const QString& place) const;
 
     EventStore& m_eventStore;
     UserDefaults& m_defaults;

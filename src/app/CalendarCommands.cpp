@@ -110,9 +110,13 @@ QString lineOf(const CalDAVClient::RemoteCalendar& calendar)
 void add(CommandSession& session)
 {
     CalendarAccounts& accounts = accountsOf(session);
-    const CalendarAccount account =
-        accounts.accountFor(session.argument(), session.option("--user").value_or(QString()));
+    CalendarAccount account = accounts.accountFor(session.argument(), session.option("--user").value_or(QString()));
+    if (const auto origin = session.option("--also"))
+        account.origins << *origin;
     const auto findings = session.aside([&] { return accounts.examine(account, session.password()); });
+    if (!findings.elsewhere.isEmpty())
+        throw Refusal{localized("The calendars of this account lie at %1. To let the password go there: --also %1")
+                          .arg(findings.elsewhere)};
     if (findings.trouble != CalDAVClient::Trouble::None)
         throw Refusal{localized("Nothing was added. %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer)};
     if (!session.aside([&] { return accounts.keepPassword(account, session.password()); }) || !accounts.add(account))
@@ -145,9 +149,10 @@ bool test(const CalendarAccount& account, CommandSession& session, QStringList& 
                        {QStringLiteral("user"), account.user},
                        {QStringLiteral("works"), works}};
     lines << QStringLiteral("%1  (%2, %3)").arg(account.name, account.address, account.user);
-    if (!findings.home.isEmpty()) {
-        lines << QLatin1String("  ") + localized("Calendars are at %1.").arg(findings.home.toString());
-        object.insert(QStringLiteral("home"), findings.home.toString());
+    for (const QUrl& home : findings.homes)
+        lines << QLatin1String("  ") + localized("Calendars are at %1.").arg(home.toString());
+    if (!findings.homes.empty()) {
+        object.insert(QStringLiteral("home"), findings.homes.front().toString());
         const QString login = !findings.authentication                               ? QStringLiteral("none")
                               : findings.authentication == URLAuthentication::Digest ? QStringLiteral("digest")
                                                                                      : QStringLiteral("basic");
@@ -168,13 +173,22 @@ bool test(const CalendarAccount& account, CommandSession& session, QStringList& 
     object.insert(QStringLiteral("waitingChanges"), waiting);
     if (waiting > 0)
         lines << QLatin1String("  ") + localized("Changes that wait for the server: %1").arg(waiting);
+    QJsonArray refusals;
+    for (const CalDAVEventStore::Refusal& refusal : store->refusals()) {
+        lines << QLatin1String("  ") + localized("The server does not take the change of \"%1\" in %2: %3")
+                                           .arg(refusal.title, refusal.calendar, refusal.reason);
+        refusals.append(QJsonObject{{QStringLiteral("title"), refusal.title},
+                                    {QStringLiteral("calendar"), refusal.calendar},
+                                    {QStringLiteral("reason"), refusal.reason}});
+    }
+    object.insert(QStringLiteral("refusals"), refusals);
     if (!works) {
         lines << QStringLiteral("  %1 (%2)").arg(textOf(findings.trouble), findings.lastAnswer);
         object.insert(QStringLiteral("error"), textOf(findings.trouble));
         object.insert(QStringLiteral("lastAnswer"), findings.lastAnswer);
     }
     json.append(object);
-    return works;
+    return works && refusals.isEmpty();
 }
 
 void test(CommandSession& session)
@@ -236,7 +250,10 @@ const CommandFamily& calendarCommands()
          .options = {{.name = "--user",
                       .value = QT_TRANSLATE_NOOP("vidora", "NAME"),
                       .meaning = QT_TRANSLATE_NOOP("vidora", "the name to log in with"),
-                      .isRequired = true}},
+                      .isRequired = true},
+                     {.name = "--also",
+                      .value = QT_TRANSLATE_NOOP("vidora", "ADDRESS"),
+                      .meaning = QT_TRANSLATE_NOOP("vidora", "where else the password may go")}},
          .changes = Touches::Everything,
          .asksPassword = true,
          .run = add},

@@ -9,6 +9,7 @@
 #include "platform/Log.h"
 
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -21,6 +22,7 @@ constexpr qint64 maximumDocument = 512LL * 1024 * 1024;
 constexpr qint64 maximumCalendarAnswer = 64LL * 1024 * 1024;
 /// How long a process that ends waits for a word of the calendar servers.
 constexpr Milliseconds patienceWithServers = Seconds(5);
+constexpr int mostRoundsWithServers = 10;
 
 QByteArray contents(const QString& path)
 {
@@ -44,6 +46,12 @@ void removeLeftovers(const StandardFolders& folders)
 {
     for (const QString& folder : {folders.documents, folders.caches, folders.settings, Device::ownIcons(folders)})
         AtomicFile::removeLeftovers(folder);
+    for (const QString& calendars : {Device::calendars(folders), Device::calendarMirrors(folders)}) {
+        QDirIterator folder(calendars, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                            QDirIterator::Subdirectories);
+        while (folder.hasNext())
+            AtomicFile::removeLeftovers(folder.next());
+    }
 }
 
 } // namespace
@@ -61,6 +69,10 @@ QString Device::ownCatalogue(const StandardFolders& folders)
 QString Device::calendars(const StandardFolders& folders)
 {
     return folders.documents + QLatin1String("/calendars");
+}
+QString Device::calendarMirrors(const StandardFolders& folders)
+{
+    return folders.documents + QLatin1String("/calendar-mirrors");
 }
 QString Device::calendarAccounts(const StandardFolders& folders)
 {
@@ -120,9 +132,8 @@ void Device::openCalendars(Access access)
         QStringLiteral("device"),
         std::make_shared<FolderEventStore>(calendars(m_folders), localized("This device"), *m_clock, m_random));
     m_calendarAccounts = std::make_unique<CalendarAccounts>(
-        CalendarAccountSurroundings{calendarAccounts(m_folders),
-                                    m_folders.documents + QLatin1String("/calendar-mirrors"), *m_secrets,
-                                    m_calendarNetwork, *m_clock, m_random, m_sleeper,
+        CalendarAccountSurroundings{calendarAccounts(m_folders), calendarMirrors(m_folders), *m_secrets,
+                                    m_calendarNetwork, *m_clock, m_random, m_sleeper, &m_calendarServices,
                                     access == Access::Read || m_lock->outcome() != HomeLock::Outcome::First},
         *m_eventStore);
 }
@@ -201,7 +212,18 @@ void Device::quit()
 void Device::waitForCalendarServers()
 {
     bool isOver = false;
-    m_delegate->alarmEngine().whenIdle([&] { m_calendarAccounts->whenExchanged([&] { isOver = true; }); });
+    AlarmEngine& engine = m_delegate->alarmEngine();
+    // What came in may call for a synchronisation, and that for another exchange.
+    const std::function<void(int)> wait = [&](int rounds) {
+        engine.whenIdle([&, rounds] {
+            m_calendarAccounts->whenExchanged([&, rounds] {
+                isOver = engine.isIdle() || rounds == 1;
+                if (!isOver)
+                    wait(rounds - 1);
+            });
+        });
+    };
+    wait(mostRoundsWithServers);
     const BlockOwner blocks;
     const std::function<void(int)> watch = [&](int answers) {
         blocks.after(patienceWithServers, [&, answers] {

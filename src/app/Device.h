@@ -61,6 +61,7 @@ public:
     /// The folder whose folders are calendars, to be shared with other calendar programs.
     static QString calendars(const StandardFolders& folders);
     /// The file of the accounts on calendar servers.
+    static QString calendarMirrors(const StandardFolders& folders);
     static QString calendarAccounts(const StandardFolders& folders);
     static QString ownIcons(const StandardFolders& folders);
     /// Addresses of providers that the user sets by hand.
@@ -82,6 +83,7 @@ private:
     Connectivity m_connectivity;
     NetworkURLSession m_network;
     NetworkURLSession m_calendarNetwork;
+    DNSServiceLookup m_calendarServices;
     std::unique_ptr<OwnGuideSession> m_guideSession;
     std::unique_ptr<HomeLock> m_lock;
     SampleRegionProcess m_region;

@@ -110,6 +110,7 @@ void VidoraAppDelegate::makeAlarms()
         .screens = *this,
         .scheme = m_environment.scheme,
         .readOnly = m_environment.readOnly,
+        .deviceMark = deviceMark(m_environment.folders.documents, m_environment.random, m_environment.readOnly),
     };
     m_alarmEngine = std::make_unique<AlarmEngine>(surroundings);
     m_alarmRequests = std::make_unique<AlarmRequests>(surroundings, *m_alarmEngine);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alarms/AlarmRequests.h"
+#include "alarms/DeviceMark.h"
 #include "calendar/MemoryEventStore.h"
 #include "core/AlarmMarks.h"
 #include "core/AlarmServices.h"
