@@ -8,6 +8,8 @@
 #include "platform/DispatchQueue.h"
 #include "store/TVListings.h"
 
+#include <mutex>
+
 namespace vidora {
 
 /// Favourites and their alarms: sets and removes events in the user's calendar, which rings them, and keeps the
@@ -80,7 +82,8 @@ public:
     // The calendar.
 
     QSet<QString> lowercasedFavoriteNames() const override { return m_surroundings.shows.lowercasedFavoriteNames(); }
-    /// Makes the calendar agree with favourites and listings. On any thread.
+    /// Makes the calendar agree with favourites and listings. On any thread. One synchronisation runs at a time, and
+    /// one that waits for its turn serves all who ask until it begins.
     void syncAlarms() override;
     void setSynchronized(bool isSynchronized) override { m_surroundings.alarms.setSynchronized(isSynchronized); }
     bool hasEvents() const { return eventCount() > 0; }
@@ -145,6 +148,9 @@ private:
 
     void requestAccess();
     void ensureSelectedCalendarIsSet();
+    /// With the mutex held.
+    void queueRun();
+    void beginRun();
     void runFirstStages(const std::shared_ptr<Run>& run);
     void runLastStages(const std::shared_ptr<Run>& run, const FavoriteSchedule& schedule);
     void endRun(Run& run);
@@ -153,6 +159,15 @@ private:
     SelectedCalendar m_selectedCalendar; ///< belongs to the queue
     CalendarEvents m_calendarEvents;     ///< belongs to the main thread
     TVListings* m_listings = nullptr;
+    /// A synchronisation that has not begun.
+    struct AskedRun
+    {
+        Activity activity;
+        bool wasSynchronized; ///< at every question
+    };
+    std::mutex m_syncMutex;
+    std::optional<AskedRun> m_askedRun;
+    bool m_isSynchronising = false; ///< one is queued, or has begun and is not over
     const std::shared_ptr<DispatchGroup> m_activity = std::make_shared<DispatchGroup>();
     const std::shared_ptr<DispatchQueue> m_alarmSyncQueue;
     BlockOwner m_mainBlocks;

@@ -14,6 +14,7 @@ struct AlarmEngine::Run
     std::uint64_t changes;
     Instant windowStart, windowEnd;
     std::optional<ApplicationLife::Task> alarmSyncTask;
+    Activity over = {}; ///< goes with the last block that works for this one
 };
 
 void AlarmEngine::requestAccess()
@@ -35,15 +36,42 @@ void AlarmEngine::syncAlarms()
         requestAccess();
         return;
     }
-    auto run = std::make_shared<Run>(Run{begin(),
+    const std::lock_guard lock(m_syncMutex);
+    if (!m_askedRun)
+        m_askedRun = AskedRun{begin(), true};
+    m_askedRun->wasSynchronized &= m_surroundings.alarms.synchronized();
+    if (!m_isSynchronising)
+        queueRun();
+}
+
+void AlarmEngine::queueRun()
+{
+    m_isSynchronising = true;
+    m_alarmSyncQueue->async([this] { beginRun(); });
+}
+
+void AlarmEngine::beginRun()
+{
+    std::optional<AskedRun> asked;
+    {
+        const std::lock_guard lock(m_syncMutex);
+        asked = std::exchange(m_askedRun, std::nullopt);
+    }
+    auto run = std::make_shared<Run>(Run{std::move(asked->activity),
                                          m_surroundings.channels.anyIsSelected(),
                                          m_surroundings.shows.favorites(),
-                                         m_surroundings.alarms.synchronized(),
+                                         asked->wasSynchronized,
                                          m_surroundings.alarms.changes(),
                                          {},
                                          {},
                                          std::nullopt});
-    m_alarmSyncQueue->async([this, run] { runFirstStages(run); });
+    run->over = Activity(nullptr, [next = m_mainBlocks.guarded([this] {
+                             const std::lock_guard lock(m_syncMutex);
+                             m_isSynchronising = false;
+                             if (m_askedRun)
+                                 queueRun();
+                         })](void*) { DispatchQueue::main().async(next); });
+    runFirstStages(run);
 }
 
 void AlarmEngine::ensureSelectedCalendarIsSet()

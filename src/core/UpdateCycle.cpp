@@ -235,7 +235,6 @@ QString UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& 
 void UpdateCycle::publish(Pass& pass, const Delivery& delivery)
 {
     pass.parsedAnything = true;
-    m_services.listings.saveAllShows();
     for (const auto& [channel, delivered] : delivery) {
         pass.shows += delivered.count;
         // The store stamps a channel's load time behind what it has to save; waiting for that here keeps the channel's

@@ -172,9 +172,9 @@ void TVListings::setPopularShows(SharedShowList shows)
 
 void TVListings::listingsStored()
 {
-    m_surroundings.followed.setSynchronized(false);
-    // The synchronisation reads the merged list, and must find the new shows there however soon its turn comes.
+    // A synchronisation reads the merged list, and must find the new shows there however soon its turn comes.
     saveAllShows();
+    m_surroundings.followed.setSynchronized(false);
     onMain([this] {
         if (m_surroundings.application.isInBackground())
             m_surroundings.application.synchronizeSettings();

@@ -76,7 +76,8 @@ public:
     /// Writes the lists that differ from their files, without what is past. A list that is all past isn't written. A
     /// background task lasts from this call to the end of the writing.
     void commitFiles();
-    /// Builds the merged list anew.
+    /// Builds the merged list anew, of the lists and the moment at this call's turn: the first query that looks at it
+    /// does the work, so that a call costs next to nothing however often it comes.
     void saveAllShows();
     /// The same, and then refreshes the popular list.
     void updatePopularList();

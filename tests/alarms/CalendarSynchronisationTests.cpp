@@ -229,6 +229,21 @@ TEST_F(AlarmTest, AChangeDuringASynchronisationIsNotCoveredUp)
     EXPECT_TRUE(Alarms(folder.path()).synchronized());
 }
 
+TEST_F(AlarmTest, OneSynchronisationServesAllWhoAskUntilItBegins)
+{
+    favorite(QStringLiteral("Dnevnik"), 10);
+    synchs = 0;
+    for (int i = 0; i < 50; ++i) {
+        listings->storeList(one, listOf(one, {{QStringLiteral("Dnevnik"), 30 + i, 60 + i}}));
+        listings->listingsStored();
+        engine->syncAlarms();
+    }
+    settle();
+    EXPECT_LE(synchs, 5);
+    EXPECT_TRUE(alarms->synchronized());
+    EXPECT_EQ(seen(), QStringList(QStringLiteral("Dnevnik at 79 on One -10"))) << "the last one saw the last list";
+}
+
 TEST_F(AlarmTest, TheCalendarIsFoundAgainByItsLooks)
 {
     const auto calendar = [](const char* id, const char* title, const char* source, double red, bool writable = true) {

@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include <ctime>
 #include <thread>
 
 namespace vidora {
@@ -113,6 +114,35 @@ TEST_F(TVListingsTest, CommitsListsThatAreOnTheirWay)
         commit();
         ASSERT_EQ(written(one), QStringList(QString::number(-i)));
     }
+}
+
+// A pass over many channels announces each of them. By processor time within one run, where each merge of its own would
+// cost more than a hundred times as much.
+TEST_F(TVListingsTest, MergesNothingThatNobodyLooksAt)
+{
+    constexpr int channels = 500;
+    std::vector<SharedShowList> lists;
+    for (int channel = 0; channel < channels; ++channel) {
+        std::vector<TestShow> shows;
+        for (int i = 0; i < 100; ++i)
+            shows.push_back({"show"_s, i * 30 + channel % 30, i * 30 + 30 + channel % 30});
+        lists.push_back(listOf(channelId(channel), shows));
+        giveIcons({channelId(channel)});
+    }
+    start();
+    const auto processorTime = [&](bool announceEach) {
+        const std::clock_t begin = std::clock();
+        for (int channel = 0; channel < channels; ++channel) {
+            listings->storeList(channelId(channel), lists[std::size_t(channel)]);
+            if (announceEach)
+                listings->saveAllShows();
+        }
+        listings->saveAllShows();
+        EXPECT_EQ(all().size(), 2000);
+        return std::clock() - begin;
+    };
+    const std::clock_t once = processorTime(false);
+    EXPECT_LT(processorTime(true), 10 * once);
 }
 
 TEST_F(TVListingsTest, MergesAllChannelsByStart)
