@@ -17,8 +17,8 @@ QString deviceMark(const QString& documentsFolder, Random& random, bool readOnly
     while (bytes.size() < 8)
         bytes.append(static_cast<char>(random.uniform(256)));
     // What could not be kept would make every event somebody else's at the next start.
-    return AtomicFile::write(path, bytes.toHex(), AtomicFile::Access::OwnerOnly) ? QString()
-                                                                                 : QString::fromLatin1(bytes.toHex());
+    const bool isKept = !AtomicFile::write(path, bytes.toHex(), AtomicFile::Access::OwnerOnly).failed();
+    return isKept ? QString::fromLatin1(bytes.toHex()) : QString();
 }
 
 } // namespace vidora
