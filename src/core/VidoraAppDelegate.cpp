@@ -17,6 +17,7 @@ namespace {
 constexpr double defaultUpdateInterval = 86'400;
 constexpr std::uint8_t defaultShowCount = 4;
 constexpr Milliseconds delayOfPlaying{100}; // the system pauses players as it puts the application away
+constexpr Milliseconds delayOfSettings{300};
 const QString filteredCatalogue = QStringLiteral("5b65e9d23afbe36684bdfe2c.plist");
 
 Milliseconds intervalForCache(double seconds)
@@ -49,6 +50,9 @@ VidoraAppDelegate::VidoraAppDelegate(Environment environment)
     , m_screens(m_tabBarController)
     , m_isPad(m_environment.isPad)
 {
+    if (!m_environment.readOnly)
+        m_defaults.onChange(
+            [changed = m_mainBlocks.guarded([this] { settingsChanged(); })] { DispatchQueue::main().async(changed); });
 }
 
 VidoraAppDelegate::~VidoraAppDelegate()
@@ -222,16 +226,32 @@ void VidoraAppDelegate::applicationDidBecomeActive()
 void VidoraAppDelegate::applicationDidEnterBackground()
 {
     m_application.setApplicationState(Application::State::Background);
-    m_alarmEngine->commit();
-    finishAlarmsInBackground();
-    if (!m_environment.readOnly) {
-        m_defaults.synchronize();
-        m_listings->commitFiles();
-    }
+    commitPending();
     m_screens.enteredBackground();
     m_mainBlocks.after(delayOfPlaying, [this] {
         if (m_streams)
             m_streams->playOpenStream();
+    });
+}
+
+void VidoraAppDelegate::commitPending()
+{
+    m_alarmEngine->commit();
+    finishAlarmsInBackground();
+    if (m_environment.readOnly)
+        return;
+    m_defaults.synchronize();
+    m_listings->commitFiles();
+}
+
+// A process may be killed at any moment. Changes come in bursts, and one write serves all of them.
+void VidoraAppDelegate::settingsChanged()
+{
+    if (std::exchange(m_settingsAreDue, true))
+        return;
+    m_mainBlocks.after(delayOfSettings, [this] {
+        m_settingsAreDue = false;
+        m_defaults.synchronize();
     });
 }
 
@@ -270,7 +290,16 @@ void VidoraAppDelegate::applicationWillTerminate()
 
 void VidoraAppDelegate::checkAndUpdateAllChannels()
 {
+    m_isUpdating = true;
     m_updateCycle->checkAndUpdateAllChannels();
+}
+
+bool VidoraAppDelegate::listRanOut()
+{
+    if (m_isUpdating || m_application.applicationState() == Application::State::Background)
+        return false;
+    checkAndUpdateAllChannels();
+    return true;
 }
 
 void VidoraAppDelegate::playURL(const URL& url)
@@ -356,6 +385,7 @@ void VidoraAppDelegate::deliveryEnded()
 
 void VidoraAppDelegate::passEnded(std::size_t shows, const std::vector<ObjectId>& failed)
 {
+    m_isUpdating = false;
     if (m_updateObserver)
         m_updateObserver->passEnded(shows, failed);
     m_screens.passEnded(failed);

@@ -72,6 +72,8 @@ public:
     void applicationSignificantTimeChange() { applicationDidBecomeActive(); }
     /// Commits what is pending. The writing goes on in a background task.
     void applicationDidEnterBackground();
+    /// Commits what is pending, with the screens as they are: the user may still look at them.
+    void commitPending();
     void applicationDidReceiveMemoryWarning();
     void applicationWillTerminate();
 
@@ -81,6 +83,9 @@ public:
     void changeSelection(const ChannelIds& selection);
     /// Brings the lists of all selected channels up to date. Returns at once.
     void checkAndUpdateAllChannels();
+    /// A list in sight has run out or grown stale, and no activation is to come. Starts a pass, unless one is under way
+    /// or nobody looks. Whether it did.
+    bool listRanOut();
     /// Shows a number on the application's icon, 0 for none.
     std::function<void(int)> applicationIconBadge;
     /// Called on the main thread when the first request begins and when the last one has ended.
@@ -155,6 +160,7 @@ private:
     void pruneSelection();
     void finishAlarmsInBackground();
     void readSettings();
+    void settingsChanged();
 
     // UpdateObserver
     void passStarted(std::size_t channels) override;
@@ -198,6 +204,8 @@ private:
     std::atomic<std::uint8_t> m_showCount = 4;
     bool m_imagesEnabled = true, m_showBgImages = true, m_colorizedShows = false;
     bool m_firstTabSelected = false;
+    bool m_settingsAreDue = false;
+    bool m_isUpdating = false;
     bool m_isPad;
     ShowServices m_showServices;
     LoadPauses m_loadPauses;

@@ -119,9 +119,13 @@ std::optional<QStringList> UserDefaults::stringArrayForKey(const QString& key) c
 
 void UserDefaults::setObject(const QJsonValue& value, const QString& forKey)
 {
-    const std::lock_guard lock(m_mutex);
-    m_changes.insert(forKey, value);
-    m_values.insert(forKey, value); // which removes it when the value is undefined
+    {
+        const std::lock_guard lock(m_mutex);
+        m_changes.insert(forKey, value);
+        m_values.insert(forKey, value); // which removes it when the value is undefined
+    }
+    if (m_changed)
+        m_changed();
 }
 
 void UserDefaults::setInteger(std::int64_t value, const QString& forKey)

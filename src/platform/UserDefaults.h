@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <mutex>
 #include <optional>
 
@@ -20,6 +21,9 @@ public:
     /// Reads the file. A missing one is an empty one; one that is no JSON object is moved aside at the first
     /// `synchronize` that writes. Nothing is written yet.
     explicit UserDefaults(QString path);
+
+    /// Called after each change, on the thread that made it. Once, ahead of the first change.
+    void onChange(std::function<void()> changed) { m_changed = std::move(changed); }
 
     /// Nothing when the key is absent or null.
     std::optional<QJsonValue> objectForKey(const QString& key) const;
@@ -50,6 +54,7 @@ private:
     void read();
 
     const QString m_path;
+    std::function<void()> m_changed;
     mutable std::mutex m_mutex;
     QJsonObject m_values;
     QHash<QString, QJsonValue> m_changes; ///< not on disk yet; an undefined value removes

@@ -1,4 +1,5 @@
 #include "core/ScreenProtocols.h"
+#include "platform/Timer.h"
 #include "support/TestDevice.h"
 
 #include <QDateTime>
@@ -31,6 +32,25 @@ protected:
     }
     TestDevice device;
 };
+
+TEST_F(TVChannelsTest, aChangedSettingIsOnDiskWithinASecond)
+{
+    ManualTimer timer;
+    const auto onDisk = [&] {
+        QFile file(device.folders.settings + QStringLiteral("/settings.json"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    UserDefaults& defaults = device.delegate->defaults();
+    for (const bool value : {true, false}) { // and again after that
+        defaults.setBool(value, QStringLiteral("show_img"));
+        defaults.setInteger(7, QStringLiteral("currently_show_count"));
+        test::settle();
+        EXPECT_EQ(timer.pending(), 1U) << "one write for both";
+        timer.advance(Seconds(1));
+        test::settle();
+        EXPECT_TRUE(onDisk().contains(value ? "\"show_img\": true" : "\"show_img\": false")) << onDisk().data();
+    }
+}
 
 TEST_F(TVChannelsTest, aFreshDeviceHasNoSelectionAndNoFile)
 {
@@ -81,14 +101,21 @@ TEST_F(TVChannelsTest, aChannelThatStaysKeepsItsObjectAndAnUnknownOneIsDropped)
 
 TEST_F(TVChannelsTest, brokenSelectionFilesAreNoSelection)
 {
-    for (const QByteArray& broken : {QByteArray(), QByteArray("garbage"), QByteArray("\x81\x01"),
-                                     QByteArray("\x9b\x7f\xff\xff\xff\xff\xff\xff\xff")}) {
+    const auto write = [&](const QByteArray& bytes) {
         QFile file(selectionFile());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(broken);
-        file.close();
+        file.write(bytes);
+    };
+    const QByteArray whole = "\x81\x4c" + idOne.data();
+    for (const QByteArray& broken :
+         {QByteArray(), QByteArray("garbage"), QByteArray("\x81\x01"), QByteArray("\x01"),
+          QByteArray("\x82\x4c" + idOne.data()), QByteArray("\x9b\x7f\xff\xff\xff\xff\xff\xff\xff")}) {
+        write(broken);
         device.launch();
-        EXPECT_TRUE(channels().selected().empty());
+        EXPECT_TRUE(channels().selected().empty()) << broken.toHex().data();
+        test::settle();
+        write(whole);
+        EXPECT_EQ(channels().selected(), ChannelIds{idOne}) << "the file is tried again";
     }
 }
 
