@@ -83,6 +83,8 @@ public:
     void changeSelection(const ChannelIds& selection);
     /// Brings the lists of all selected channels up to date. Returns at once.
     void checkAndUpdateAllChannels();
+    /// A pass was asked for and none has ended since.
+    bool isUpdating() const { return m_isUpdating; }
     /// A list in sight has run out or grown stale, and no activation is to come. Starts a pass, unless one is under way
     /// or nobody looks. Whether it did.
     bool listRanOut();

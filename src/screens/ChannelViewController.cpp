@@ -125,6 +125,29 @@ void ChannelViewController::timePassed()
 {
     for (std::size_t section = 0; section < numberOfSections(); ++section)
         reloadRows(section, 0, numberOfRowsInSection(section));
+    updateIfRunOut();
+}
+
+// Once, until it has helped: a provider that has nothing new is not asked each minute.
+void ChannelViewController::updateIfRunOut()
+{
+    const auto object = m_delegate.channels().channelWithChannelId(m_channel.channel);
+    if (!object || object->loading())
+        return;
+    if (!object->reloadNeeded() && hasShowsAhead())
+        m_hasAskedForUpdate = false;
+    else if (!m_hasAskedForUpdate && m_delegate.listRanOut()) {
+        m_hasAskedForUpdate = true;
+        setRefreshing(true);
+    }
+}
+
+bool ChannelViewController::hasShowsAhead() const
+{
+    if (m_sortedGroupKeys.empty())
+        return false;
+    const auto end = m_groups.at(m_sortedGroupKeys.back()).back()->entry->endDateTime();
+    return end && *end > m_delegate.environment().clock.now();
 }
 
 void ChannelViewController::recolor()

@@ -46,6 +46,8 @@ public:
 private:
     void initializeContentWithEntriesArray(const ShowList& entries);
     void setRefreshing(bool isRefreshing);
+    void updateIfRunOut();
+    bool hasShowsAhead() const;
     const Show* showAt(RowPath path) const;
 
     VidoraAppDelegate& m_delegate;
@@ -53,6 +55,7 @@ private:
     std::unordered_map<QString, ShowList> m_groups;
     std::vector<QString> m_sortedGroupKeys;
     bool m_isRefreshing = false;
+    bool m_hasAskedForUpdate = false; ///< since the list was last as it should be
     BlockOwner m_mainBlocks;
 };
 

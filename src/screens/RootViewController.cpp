@@ -296,8 +296,13 @@ void RootViewController::timePassed()
             if (!std::equal(m_sections.begin(), m_sections.end(), channels.begin(), channels.end(), isOf))
                 return;
             entries.resize(channels.size());
-            for (std::size_t section = 0; section < entries.size(); ++section)
+            bool ranOut = false;
+            for (std::size_t section = 0; section < entries.size(); ++section) {
+                ranOut = ranOut || (entries[section].empty() && !m_sections[section].entries.empty());
                 rollOn(section, std::move(entries[section]));
+            }
+            if (ranOut)
+                m_delegate.listRanOut();
         }));
 }
 

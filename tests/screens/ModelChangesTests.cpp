@@ -255,6 +255,53 @@ TEST_F(ModelChangesTest, RefreshEndsWhenNoSourceDelivers)
     EXPECT_EQ(screen->numberOfRowsInSection(0), 2U) << "the old list stays";
 }
 
+TEST_F(ModelChangesTest, AListThatRunsOutInSightIsFetchedOnceAndTheUserMayAskAgain)
+{
+    const auto one = channel(1, QStringLiteral("One"));
+    broadcast(1, words("a|b|c|d"));
+    start({one});
+    device.update();
+    home().selectRow({0, 0});
+    const auto screen = awaited<ChannelViewController>();
+    device.session.takeRequests();
+    screen->timePassed();
+    EXPECT_FALSE(screen->isRefreshing()) << "nothing has run out";
+
+    device.clock.advance(std::chrono::hours(25)); // what was fetched is kept for a day
+    device.session.answer(feed, {500, {}, {}, {}});
+    screen->timePassed();
+    EXPECT_TRUE(screen->isRefreshing());
+    DispatchQueue::runMain([&] { return !screen->isRefreshing(); });
+    EXPECT_FALSE(device.session.takeRequests().isEmpty());
+    screen->timePassed();
+    EXPECT_FALSE(screen->isRefreshing()) << "the provider has nothing, and is not asked each minute";
+    test::settle();
+    EXPECT_TRUE(device.session.takeRequests().isEmpty());
+
+    silence();
+    broadcast(1, words("e|f|g|h|i"));
+    screen->refresh();
+    DispatchQueue::runMain([&] { return !screen->isRefreshing(); });
+    EXPECT_EQ(screen->numberOfRowsInSection(0), 5U);
+
+    device.clock.advance(std::chrono::hours(25));
+    device.delegate->applicationDidEnterBackground();
+    screen->timePassed();
+    EXPECT_FALSE(screen->isRefreshing()) << "nobody looks";
+}
+
+TEST_F(ModelChangesTest, HomeFetchesAChannelThatRunsOut)
+{
+    broadcast(1, words("a|b"));
+    start({channel(1, QStringLiteral("One"))});
+    device.update();
+    device.clock.advance(std::chrono::hours(25));
+    silence();
+    broadcast(1, words("c|d|e|f|g"));
+    home().timePassed();
+    DispatchQueue::runMain([&] { return home().numberOfRowsInSection(0) == 5; });
+}
+
 TEST_F(ModelChangesTest, ListOfChannelsIsAPopoverOnAPad)
 {
     const auto one = channel(1, QStringLiteral("One")), two = channel(2, QStringLiteral("Two"));
