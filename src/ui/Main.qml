@@ -81,6 +81,15 @@ ApplicationWindow {
                     onBack: window.app.back()
                 }
             }
+            ActivityIndicator {
+                objectName: "networkIndicator"
+                anchors { right: parent.right; bottom: parent.bottom; margins: Theme.spacing / 2 }
+                z: 1
+                implicitWidth: Theme.small
+                implicitHeight: Theme.small
+                running: window.app.networkActive
+                Accessible.ignored: true
+            }
         }
         UpdateBar {
             id: update

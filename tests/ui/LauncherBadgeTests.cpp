@@ -1,7 +1,6 @@
+#include "PrivateBus.h"
 #include "app/window/LauncherBadge.h"
 
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QVariantMap>
 #include <QtTest/QTest>
 
@@ -30,19 +29,13 @@ namespace {
 
 TEST(LauncherBadge, TellsTheDocksOfEveryChange)
 {
-    const QTemporaryDir folder;
-    QProcess daemon;
-    daemon.start(QStringLiteral("dbus-daemon"),
-                 {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                  QStringLiteral("--address=unix:path=") + folder.filePath(QStringLiteral("bus"))});
-    ASSERT_TRUE(daemon.waitForReadyRead()) << daemon.errorString().toStdString();
-    const QString address = QString::fromUtf8(daemon.readLine()).trimmed();
+    test::PrivateBus bus;
     Dock dock;
-    auto listening = QDBusConnection::connectToBus(address, QStringLiteral("dock"));
+    auto listening = bus.connection("dock");
     ASSERT_TRUE(listening.connect({}, {}, QStringLiteral("com.canonical.Unity.LauncherEntry"), QStringLiteral("Update"),
                                   &dock, SLOT(update(QString, QVariantMap))));
     {
-        LauncherBadge badge(QDBusConnection::connectToBus(address, QStringLiteral("program")));
+        LauncherBadge badge(bus.connection("program"));
         for (const int count : {0, 3, 3, 12, 0})
             badge.setCount(count);
         const QString application = QStringLiteral("application://tv.ostrel.vidora.desktop ");
@@ -51,11 +44,6 @@ TEST(LauncherBadge, TellsTheDocksOfEveryChange)
                   (QStringList{application + QStringLiteral("3 true"), application + QStringLiteral("12 true"),
                                application + QStringLiteral("0 false")}));
     }
-    for (const char* name : {"dock", "program"})
-        QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
-    daemon.terminate();
-    daemon.waitForFinished();
-
     LauncherBadge nobodyListens{QDBusConnection(QStringLiteral("none"))};
     nobodyListens.setCount(3);
 }

@@ -4,14 +4,15 @@
 #include "app/Device.h"
 #include "app/Terminal.h"
 #include "app/window/Appearance.h"
+#include "app/window/ConnectivityMonitor.h"
 #include "app/window/LauncherBadge.h"
 #include "app/window/ShowPictureLoader.h"
 #include "app/window/SingleInstance.h"
 #include "app/window/WindowImages.h"
+#include "app/window/WindowLife.h"
 #include "app/window/WindowModel.h"
 #include "platform/Log.h"
 #include "platform/MemoryWarnings.h"
-#include "platform/SignificantTimeChange.h"
 
 #include <QDirIterator>
 #include <QGuiApplication>
@@ -55,7 +56,7 @@ public:
         , m_model(delegate())
         , m_appearance([this](bool dark) { m_model.setDark(chosenAppearance().value_or(dark)); })
         , m_memoryWarnings([this] { memoryWarning(); }, m_machineClock)
-        , m_timeChange([this] { delegate().applicationSignificantTimeChange(); })
+        , m_connectivity(m_device.connectivity())
     {
         ShowServices services = delegate().showServices();
         services.pictures = m_pictures;
@@ -67,6 +68,8 @@ public:
         m_engine.addImageProvider(QStringLiteral("pictures"), new ShowPictureImages(m_pictures->shelf()));
         m_engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue<QObject*>(&m_model)}});
         m_engine.load(QUrl(modules + QLatin1String("/Vidora/Main.qml")));
+        if (QQuickWindow* shown = window())
+            m_life = std::make_unique<WindowLife>(delegate(), *shown, m_machineClock);
     }
 
     ~OpenWindow()
@@ -128,8 +131,9 @@ private:
     Appearance m_appearance;
     const SystemClock m_machineClock;
     MemoryWarnings m_memoryWarnings;
-    SignificantTimeChange m_timeChange;
     QQmlApplicationEngine m_engine;
+    ConnectivityMonitor m_connectivity;
+    std::unique_ptr<WindowLife> m_life;
 };
 
 /// Opens the window on an empty home, without a network, and closes it.

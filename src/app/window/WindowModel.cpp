@@ -31,12 +31,17 @@ WindowModel::WindowModel(VidoraAppDelegate& delegate)
     };
     m_tabs.stream().playerChanged = [this] { followPlayer(); };
     m_delegate.setUpdateObserver(&m_progress);
+    m_delegate.networkActivityIndicator = [this](bool isActive) {
+        m_isNetworkActive = isActive;
+        Q_EMIT networkActiveChanged();
+    };
     followTabs();
 }
 
 WindowModel::~WindowModel()
 {
     m_delegate.setUpdateObserver(nullptr);
+    m_delegate.networkActivityIndicator = {};
     m_tabs.tabsChanged = m_tabs.visibleScreenChanged = m_tabs.stream().playerChanged = {};
     m_tabs.alertPresented = {};
 }

@@ -26,6 +26,8 @@ class WindowModel final : public QObject
     /// The screen that lies over it on a pad, or null.
     Q_PROPERTY(QObject* popover READ popover NOTIFY popoverChanged)
     Q_PROPERTY(QObject* progress READ progress CONSTANT)
+    /// Something is being fetched.
+    Q_PROPERTY(bool networkActive READ isNetworkActive NOTIFY networkActiveChanged)
     /// The open player, or null.
     Q_PROPERTY(QObject* player READ player NOTIFY playerChanged)
     /// Title of the channel that plays.
@@ -49,6 +51,7 @@ public:
     QObject* progress() { return &m_progress; }
     QObject* player() const { return m_player.get(); }
     QString playerTitle() { return m_tabs.stream().title(); }
+    bool isNetworkActive() const { return m_isNetworkActive; }
     bool isDark() const { return m_isDark; }
     qreal fontScale() const;
     QString timeSample() const;
@@ -75,6 +78,7 @@ Q_SIGNALS:
     void selectedTabChanged();
     void visibleScreenChanged();
     void popoverChanged();
+    void networkActiveChanged();
     void playerChanged();
     void darkChanged();
     /// A message with "title", "message" and its "actions", maps of "title", "cancels" and "destructive"; the next
@@ -97,6 +101,7 @@ private:
     PassProgress m_progress;
     std::shared_ptr<StreamMediaPlayer> m_player;
     std::deque<Alert> m_alerts; ///< the first is the one that is shown
+    bool m_isNetworkActive = false;
     bool m_isDark = false;
     MinuteTicks m_minutes;
 };
