@@ -20,23 +20,22 @@ bool isThere(const QString& socket)
     return QFileInfo::exists(socket);
 }
 
-bool hasX11Display()
+bool hasX11Display(const QProcessEnvironment& environment, const QString& sockets)
 {
-    const QString display = qEnvironmentVariable("DISPLAY");
+    const QString display = environment.value(QStringLiteral("DISPLAY"));
     if (!display.startsWith(QLatin1Char(':')))
         return !display.isEmpty(); // on another machine, which only the toolkit can ask
     const QString number = display.mid(1).section(QLatin1Char('.'), 0, 0);
-    return isThere(QLatin1String("/tmp/.X11-unix/X") + number);
+    return isThere(sockets + QLatin1String("/X") + number);
 }
 
-bool hasWaylandDisplay()
+bool hasWaylandDisplay(const QProcessEnvironment& environment)
 {
-    const QString display = qEnvironmentVariable("WAYLAND_DISPLAY");
+    const QString display = environment.value(QStringLiteral("WAYLAND_DISPLAY"));
     if (display.isEmpty())
         return false;
-    return isThere(display.startsWith(QLatin1Char('/'))
-                       ? display
-                       : qEnvironmentVariable("XDG_RUNTIME_DIR") + QLatin1Char('/') + display);
+    const QString folder = environment.value(QStringLiteral("XDG_RUNTIME_DIR"));
+    return isThere(display.startsWith(QLatin1Char('/')) ? display : folder + QLatin1Char('/') + display);
 }
 
 } // namespace
@@ -48,7 +47,13 @@ bool wantsWindow(const CommandLine& line)
     const bool isCommand = !line.command.isEmpty() && !line.opensAddress();
     if (isCommand || line.json || line.help)
         return false;
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || hasWaylandDisplay() || hasX11Display();
+    return hasDisplay(QProcessEnvironment::systemEnvironment());
+}
+
+bool hasDisplay(const QProcessEnvironment& environment, const QString& x11Sockets)
+{
+    return environment.contains(QStringLiteral("QT_QPA_PLATFORM")) || hasWaylandDisplay(environment) ||
+           hasX11Display(environment, x11Sockets);
 }
 
 void becomeWindow(char** argv)
