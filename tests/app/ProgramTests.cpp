@@ -91,6 +91,16 @@ TEST(Program, TakesAndShowsTitlesInTheAlphabetOfTheReader)
     EXPECT_EQ(countOf(home.run(words("channels")).output, "^\\* "), 1);
 }
 
+TEST(Program, AsksTheAddressesThatTheUserSetByHand)
+{
+    const Home home;
+    // Nobody answers there, and a refusal comes at once.
+    Home::write(home.path(utf8("settings/endpoints.json")), R"({"weekly": {"host": "http://127.0.0.1:9"}})");
+    const Ended first = home.run(words("--log"));
+    EXPECT_THAT(first.errors.toStdString(), HasSubstr("http://127.0.0.1:9/"));
+    EXPECT_GT(countOf(first.errors, "status 200"), 0) << "the other providers stay as they are";
+}
+
 TEST(Program, NamesTheCandidatesForAnUnclearName)
 {
     const Home home;

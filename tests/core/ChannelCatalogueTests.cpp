@@ -202,6 +202,31 @@ TEST(PropertyList, refusesWhatNestsOrGrowsWithoutEnd)
     EXPECT_FALSE(readPropertyList(QByteArray()));
 }
 
+/// A binary property list of one text; `objects` is what it says their number is.
+QByteArray binaryText(const QString& text, int objects = 1)
+{
+    QByteArray list = "bplist00";
+    list.append(static_cast<char>(0x60 | text.size()));
+    for (const QChar unit : text)
+        list.append(static_cast<char>(unit.unicode() >> 8)).append(static_cast<char>(unit.unicode() & 255));
+    const auto table = static_cast<char>(list.size());
+    const QByteArray zeros(7, '\0');
+    return list.append('\x08') + QByteArray(6, '\0') + "\x01\x01" + zeros + static_cast<char>(objects) +
+           QByteArray(8, '\0') + zeros + table;
+}
+
+TEST(PropertyList, readsTextsBeyondTheFirstPlaneAndNoHalves)
+{
+    // The first and the last of each half of a pair.
+    for (const char32_t character : {U'\U00010000', U'\U0001F400', U'\U000103FF', U'\U0010FFFF'}) {
+        const QString text = QStringLiteral("tv ") + QString::fromUcs4(&character, 1);
+        EXPECT_EQ(readPropertyList(binaryText(text)), QVariant(text)) << static_cast<unsigned>(character);
+        EXPECT_FALSE(readPropertyList(binaryText(text.chopped(1))));
+        EXPECT_FALSE(readPropertyList(binaryText(text.right(1))));
+    }
+    EXPECT_FALSE(readPropertyList(binaryText(QStringLiteral("tv"), 2))) << "more objects than the table has room for";
+}
+
 TEST(PropertyList, readsBackWhatItWrites)
 {
     const QVariantMap map{{QStringLiteral("Title"), QStringLiteral("Čačak <&> \"1\"")},

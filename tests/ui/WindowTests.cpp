@@ -159,6 +159,29 @@ TEST_F(WindowTest, TakesAnAddressFromASecondStart)
     m_device.quit();
 }
 
+TEST(SingleInstance, HandsOverToWhoeverListens)
+{
+    const QTemporaryDir home;
+    QStringList received;
+    const auto handOver = [&](const QString& message) {
+        bool isTaken = false, isOver = false;
+        DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
+            isTaken = SingleInstance(home.path()).handOver(message);
+            DispatchQueue::main().async([&] { isOver = true; });
+        });
+        DispatchQueue::runMain([&] { return isOver; });
+        return isTaken;
+    };
+    EXPECT_FALSE(handOver(utf8("early")));
+    SingleInstance instance(home.path());
+    instance.listen([&](const QString& message) { received << message; });
+    for (const QString& message : {QString(), utf8("vidora://show"), QString(100'000, QLatin1Char('x'))})
+        EXPECT_TRUE(handOver(message)) << message.size();
+    EXPECT_EQ(received, (QStringList{QString(), utf8("vidora://show"), QString(65'535, QLatin1Char('x'))}));
+    instance.close();
+    EXPECT_FALSE(handOver(utf8("late")));
+}
+
 TEST_F(WindowTest, KeepsItsPlaceWhenRowsAreReadAnew)
 {
     press(utf8("add"));

@@ -54,7 +54,7 @@ void SingleInstance::receive()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
         QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        const auto read = [this, socket] {
+        QObject::connect(socket, &QLocalSocket::readyRead, socket, [this, socket] {
             if (socket->bytesAvailable() > longestMessage)
                 return socket->abort();
             if (!socket->canReadLine())
@@ -66,9 +66,7 @@ void SingleInstance::receive()
             socket->disconnectFromServer();
             if (m_handler)
                 m_handler(message);
-        };
-        QObject::connect(socket, &QLocalSocket::readyRead, socket, read);
-        read();
+        });
     }
 }
 
