@@ -75,7 +75,7 @@ struct Input
             const TVEntry& entry = *(*schedule.shows)[i * broadcastsToAnEvent]->entry;
             const Instant start = *entry.dateTime() + std::chrono::minutes(theyMove && i % 3 == 0 ? 30 : 0);
             const auto url = TVEntry::urlDigestFromChannel(entry.channel(), start, entry.identificator(), scheme);
-            result.push_back(eventForBroadcast(home, *entry.title(), QStringLiteral("One"), url, start,
+            result.push_back(eventForBroadcast(home, {}, *entry.title(), QStringLiteral("One"), url, start,
                                                start + std::chrono::minutes(1), 10));
         }
         return result;
