@@ -1,5 +1,6 @@
 #include "store/FoldedShow.h"
 
+#include "content/LatinFolding.h"
 #include "content/TextFolding.h"
 #include "content/Utf8Text.h"
 
@@ -64,7 +65,11 @@ std::uint8_t* foldCharacter(char32_t character, std::uint8_t* out)
         out += byte != noByte;
     };
     if (character < 0x10000) {
-        put(character);
+        const auto latin = latinOfFolded(foldingTable(Folding::CaseAndDiacritics)[character]);
+        if (latin.empty())
+            put(character);
+        for (const char16_t unit : latin) // two at most, for two bytes of UTF-8
+            put(unit);
     } else {
         put(QChar::highSurrogate(character));
         put(QChar::lowSurrogate(character));
@@ -135,8 +140,11 @@ public:
             return;
         if (!m_isConverted)
             return appendFolded(content, true, folded);
-        const TVEntry::Text shown = TVEntry::latin2Cyrillic(textOf(field), m_language);
+        const TVEntry::Text own = textOf(field);
+        const TVEntry::Text shown = TVEntry::latin2Cyrillic(own, m_language);
         appendFolded(shown->toUtf8().toStdString(), true, folded);
+        if (field == ShowField::Title && shown != own) // letters that the conversion makes one can be typed apart
+            appendFolded(content, true, folded);
     }
 
 private:
@@ -201,7 +209,7 @@ void appendFoldedTexts(const ShowRecord& record, QByteArray& folded)
 }
 
 SearchPattern::SearchPattern(QStringView pattern)
-    : m_units(FoldedText(pattern).units().toString())
+    : m_units(foldedInLatin(pattern))
     , m_exact(true)
 {
     constexpr char16_t firstExact = 2; // 0 and 1 share a byte
@@ -214,11 +222,11 @@ SearchPattern::SearchPattern(QStringView pattern)
 bool SearchPattern::isIn(const ShowElement& show) const
 {
     const auto isIn = [this](const std::optional<QString>& text) {
-        return text && FoldedText(*text).units().contains(m_units);
+        return text && foldedInLatin(*text).contains(m_units);
     };
     const TVEntry& entry = *show.entry;
-    if (isIn(entry.title()) || isIn(entry.instantDescription()) || isIn(entry.instantDetails()) ||
-        isIn(entry.subtitle()))
+    if (isIn(entry.title()) || (entry.title() && holdsCyrillic(*entry.title()) && isIn(entry.identificator())) ||
+        isIn(entry.instantDescription()) || isIn(entry.instantDetails()) || isIn(entry.subtitle()))
         return true;
     if (!show.extra)
         return false;

@@ -12,16 +12,17 @@
 namespace vidora {
 
 // A show's texts in which a search looks, folded beforehand: a byte for each UTF-16 unit, a zero behind each text. The
-// byte is the folded unit itself if that is ASCII. Other units share the bytes from 0x80 on; what is found by these is
-// looked up in the show's own texts.
+// byte is the folded unit itself if that is ASCII, and Cyrillic letters are those that Latin spells them with. Other
+// units share the bytes from 0x80 on; what is found by these is looked up in the show's own texts.
 //
 // A show is searched in title, description, details and subtitle as they are shown, and in the texts of its
-// supplemental data. A match lies in one of them and covers whole letters with their marks.
+// supplemental data; a title that is shown in Cyrillic also as its provider spelled it. A match lies in one of them and
+// covers whole letters with their marks.
 
 /// Appends the folded texts of a record.
 void appendFoldedTexts(const ShowRecord& record, QByteArray& folded);
 
-/// What the user searches for, folded once: case and diacritics are overlooked. A value; any thread.
+/// What the user searches for, folded once: case, diacritics and alphabet are overlooked. A value; any thread.
 class SearchPattern
 {
 public:

@@ -18,8 +18,8 @@ class SearchIndex
 public:
     using Wanted = std::function<bool(const ShowTable&, ShowTable::Row)>;
 
-    /// The shows, in their order and not more than `limit`, in whose texts the pattern is found, ignoring case and
-    /// diacritics, and that are wanted. An empty pattern finds nothing.
+    /// The shows, in their order and not more than `limit`, in whose texts the pattern is found, ignoring case,
+    /// diacritics and alphabet, and that are wanted. An empty pattern finds nothing.
     ShowList showsContainingPattern(const MergedShows& shows, QStringView pattern, std::size_t limit,
                                     const Wanted& wanted);
 

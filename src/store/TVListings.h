@@ -114,9 +114,9 @@ public:
     void showsWithCategory(TVListingsCategory mask, QualityOfService priority, CompoundBlock mainBlock);
     /// The lists behind special categories: the popular list, shows that start from 19:00 to midnight, or all.
     void allShowsWithCategory(TVListingsCategory category, QualityOfService priority, CompoundBlock mainBlock);
-    /// Shows with the pattern in one of their texts, whatever its case and diacritics; an empty pattern is in all. The
-    /// block is called on the global queue of the class UserInitiated. What makes the next search faster is kept until
-    /// `dropSearchIndex`.
+    /// Shows with the pattern in one of their texts, whatever its case, diacritics and alphabet; an empty pattern is in
+    /// all. The block is called on the global queue of the class UserInitiated. What makes the next search faster is
+    /// kept until `dropSearchIndex`.
     void showsContainingPattern(const QString& pattern, ShowsBlock highPriorityBlock);
     /// Drops what searches keep. To be called when search ends and when memory runs short.
     void dropSearchIndex();

@@ -71,6 +71,27 @@ TEST(Program, ShowsTheRegionAtFirstStartAndAnswersItsCommands)
     EXPECT_EQ(updated[QLatin1String("failed")].toArray(), QJsonArray());
 }
 
+QString titleOf(const QJsonValue& show, const char* key)
+{
+    return show.toObject()[QLatin1String(key)].toString();
+}
+
+/// With the Cyrillic letters that look like the Latin ones which a conversion leaves.
+QString withKeyboardLetters(QString shown)
+{
+    for (const auto& [latin, cyrillic] : {std::pair(u'a', u'а'),
+                                          {u'e', u'е'},
+                                          {u'o', u'о'},
+                                          {u'j', u'ј'},
+                                          {u'A', u'А'},
+                                          {u'E', u'Е'},
+                                          {u'O', u'О'},
+                                          {u'J', u'Ј'},
+                                          {u'M', u'М'}})
+        shown.replace(QChar(latin), QChar(cyrillic));
+    return shown;
+}
+
 TEST(Program, TakesAndShowsTitlesInTheAlphabetOfTheReader)
 {
     Home home;
@@ -86,6 +107,19 @@ TEST(Program, TakesAndShowsTitlesInTheAlphabetOfTheReader)
     for (const char* name : {"Behar", "Бехар", "Бeхaр"}) {
         const QString shown = home.run({utf8("channel"), utf8(name)}).output;
         EXPECT_GT(countOf(shown, "^  \\d\\d:\\d\\d-"), 4) << name;
+    }
+    // A show of Behar's, named as its provider spells it, as it is shown, and as a keyboard has it.
+    const QJsonArray shows = home.run(words("channel|Behar|--json")).json()[QLatin1String("shows")].toArray();
+    const QString raw = titleOf(shows.last(), "identificator"), shown = titleOf(shows.last(), "title");
+    EXPECT_NE(raw, shown);
+    for (const QString& title : {raw, shown, withKeyboardLetters(shown)}) {
+        const QString found = home.run({utf8("search"), title}).output;
+        EXPECT_TRUE(found.contains(utf8("Бeхaр ")) && found.contains(shown)) << found.toStdString();
+        EXPECT_FALSE(found.contains(utf8("Behar")));
+        const Ended followed = home.run({utf8("favourite"), title});
+        EXPECT_TRUE(followed.output.contains(shown)) << followed.errors.toStdString();
+        EXPECT_EQ(home.run(words("favourites")).output, shown + QLatin1Char('\n'));
+        EXPECT_EQ(home.run({utf8("unfavourite"), title}).status, 0) << title.toStdString();
     }
     EXPECT_EQ(home.run(words("unselect|zavicaj dom|бистрица")).status, 0);
     EXPECT_EQ(countOf(home.run(words("channels")).output, "^\\* "), 1);

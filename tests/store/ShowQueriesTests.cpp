@@ -213,6 +213,26 @@ TEST_F(ShowQueriesTest, SearchLooksIntoEveryText)
     EXPECT_TRUE(containing("NEW"_s).empty());
 }
 
+TEST_F(ShowQueriesTest, SearchOverlooksTheAlphabet)
+{
+    TVEntry::setCyrillicDevice(true);
+    ShowDraft draft = TestShow{"Njegoš: Extra show"_s, 0, 10}.draft(one);
+    draft.entry->setLanguage("sr"_s);
+    draft.extra = std::make_shared<TVEntrySupplementalData>();
+    draft.extra->language = "sr"_s;
+    draft.extra->directedBy = "Marija Džomba Ćurčić"_s;
+    draft.extra->updateAlphabet();
+    listings->storeList(one, std::make_shared<const ShowList>(ShowList{std::move(draft).publish()}));
+    store(two, {{"Ljubav Đoke Šajkaša"_s, 0, 10}});
+    for (const auto& pattern : {"njegos"_s, "NJEGOŠ: extra"_s, "show"_s, "његош"_s, "Eктрa шoв"_s, "ЕКТРА ШОВ"_s,
+                                "marija dzomba curcic"_s, "Džomba"_s, "марија"_s, "ЏОМБА ЋУРЧИЋ"_s})
+        EXPECT_EQ(titles(containing(pattern)), QStringList("Njegoš: Extra show"_s)) << pattern.toStdString();
+    for (const auto& pattern : {"љубав"_s, "ЂОКЕ шајкаша"_s})
+        EXPECT_EQ(titles(containing(pattern)), QStringList("Ljubav Đoke Šajkaša"_s)) << pattern.toStdString();
+    EXPECT_TRUE(containing("ъ"_s).empty());
+    TVEntry::setCyrillicDevice(false);
+}
+
 TEST_F(ShowQueriesTest, FindsABroadcastByItsAddress)
 {
     store(one, {{"a"_s, 0, 10}, {"b"_s, 10, 20}});
