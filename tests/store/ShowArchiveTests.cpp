@@ -67,6 +67,8 @@ TEST(ShowArchive, GivesBackWhatWasArchived)
             draft.extra.reset();
         if (count < 2)
             draft.categories.reset();
+        if (count == 3)
+            std::swap(draft.extra->description, draft.extra->roles); // each of them plain and in runs
         draft.entry->setEndDateTime(std::nullopt);
         draft.entry->setUrl(std::nullopt);
         list.push_back(std::move(draft).publish());
