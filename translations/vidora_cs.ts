@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>ještě %1 min</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Kalendář „%1“ s vašimi upozorněními je pryč. Nová vznikají v „%2“; „vidora calendars NÁZEV“ zvolí jiný.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Kalendáře tohoto účtu leží na %1. Má-li tam smět heslo: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Server nepřijímá změnu pořadu „%1“ v %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>kam ještě smí heslo</translation>
+    </message>
 </context>
 </TS>

@@ -944,5 +944,21 @@
         <source>%1 min left</source>
         <translation>noch %1 Min.</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Der Kalender „%1“ mit Ihren Weckern ist fort. Neue entstehen in „%2“; „vidora calendars NAME“ wählt einen anderen.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Die Kalender dieses Kontos liegen unter %1. Soll das Passwort dorthin dürfen: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Der Server nimmt die Änderung von „%1“ in %2 nicht an: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>wohin das Passwort noch darf</translation>
+    </message>
 </context>
 </TS>

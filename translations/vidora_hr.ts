@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>još %1 min</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Kalendara „%1“ s vašim alarmima više nema. Novi nastaju u „%2“; „vidora calendars NAZIV“ bira drugi.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Kalendari ovog računa nalaze se na %1. Da lozinka smije onamo: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Poslužitelj ne prihvaća promjenu „%1“ u %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>kamo još smije lozinka</translation>
+    </message>
 </context>
 </TS>

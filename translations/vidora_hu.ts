@@ -933,5 +933,21 @@
         <source>%1 min left</source>
         <translation>még %1 perc</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>A riasztások „%1” naptára eltűnt. Az újak itt készülnek: „%2”; a „vidora calendars NÉV” másikat választ.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>A fiók naptárai itt vannak: %1. Ha a jelszó oda is mehet: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>A kiszolgáló nem fogadja el a(z) „%1” módosítását (%2): %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>hová mehet még a jelszó</translation>
+    </message>
 </context>
 </TS>

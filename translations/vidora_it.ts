@@ -944,5 +944,21 @@
         <source>%1 min left</source>
         <translation>ancora %1 min</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Il calendario «%1» dei tuoi avvisi non c’è più. I nuovi nascono in «%2»; «vidora calendars NOME» ne sceglie un altro.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>I calendari di questo account si trovano su %1. Perché la password possa andarci: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Il server non accetta la modifica di «%1» in %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>dove altro può andare la password</translation>
+    </message>
 </context>
 </TS>

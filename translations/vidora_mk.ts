@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>уште %1 мин</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Календарот „%1“ со вашите аларми го нема. Новите се прават во „%2“; „vidora calendars ИМЕ“ избира друг.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Календарите на оваа сметка се на %1. За лозинката да смее таму: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Серверот не ја прифаќа промената на „%1“ во %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>каде уште смее лозинката</translation>
+    </message>
 </context>
 </TS>

@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>încă %1 min</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Calendarul „%1” al alarmelor a dispărut. Cele noi se fac în „%2”; „vidora calendars NUME” alege altul.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Calendarele acestui cont se află la %1. Pentru ca parola să poată ajunge acolo: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Serverul nu primește modificarea „%1” din %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>unde mai poate ajunge parola</translation>
+    </message>
 </context>
 </TS>

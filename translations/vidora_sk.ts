@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>ešte %1 min</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Kalendár „%1“ s vašimi upozorneniami je preč. Nové vznikajú v „%2“; „vidora calendars NÁZOV“ zvolí iný.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Kalendáre tohto účtu ležia na %1. Ak tam smie heslo: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Server neprijíma zmenu „%1“ v %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>kam ešte smie heslo</translation>
+    </message>
 </context>
 </TS>

@@ -955,5 +955,21 @@
         <source>%1 min left</source>
         <translation>још %1 мин</translation>
     </message>
+    <message>
+        <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
+        <translation>Календара „%1“ са вашим алармима више нема. Нови настају у „%2“; „vidora цалендарс НАЗИВ“ бира други.</translation>
+    </message>
+    <message>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation>Календари овог налога налазе се на %1. Да лозинка сме тамо: --also %1</translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation>Сервер не прихвата промену „%1“ у %2: %3</translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation>где још сме лозинка</translation>
+    </message>
 </context>
 </TS>

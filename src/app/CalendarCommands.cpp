@@ -80,8 +80,15 @@ void list(CommandSession& session)
                          .arg(account.name)
                          .arg(waiting);
     }
+    const auto lost = session.alarms().lostCalendar();
+    if (lost && selected)
+        lines << localized(
+                     "The calendar \"%1\" of your alarms is gone. New ones are made in \"%2\"; \"vidora calendars "
+                     "NAME\" chooses another.")
+                     .arg(*lost, selected->title);
     session.answer(lines.join(QLatin1Char('\n')), {{QStringLiteral("calendars"), calendars},
                                                    {QStringLiteral("folder"), folder},
+                                                   {QStringLiteral("lost"), lost ? QJsonValue(*lost) : QJsonValue()},
                                                    {QStringLiteral("accounts"), accountArray}});
 }
 
