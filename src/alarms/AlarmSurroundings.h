@@ -54,7 +54,7 @@ struct AlarmSurroundings
     AlarmScreens& screens;
     QString scheme;        ///< the application's own: an event whose address has it is ours
     bool readOnly = false; ///< another process owns the calendar: it is only looked at
-    /// What this device marks its events with. Events of other devices' are theirs to clean up and to remove.
+    /// What this device marks its events with. Events of other devices are theirs to move and to remove.
     QString deviceMark = {};
 };
 

@@ -28,6 +28,11 @@ struct EventPlaceHash
     }
 };
 
+EventPlace placeOf(const Event& event)
+{
+    return {event.startDate, event.title.toLower(), event.location};
+}
+
 bool startsEarlier(const Show& show, Instant moment)
 {
     return show->entry->dateTime().value_or(Instant::min()) < moment;
@@ -92,6 +97,19 @@ std::vector<Event> CalendarSynchronisation::cleanUp(const std::vector<Event>& ev
 {
     std::vector<Event> kept;
     std::unordered_set<EventPlace, EventPlaceHash> places;
+    std::unordered_multimap<EventPlace, const Event*, EventPlaceHash> others;
+    for (const Event& event : events) {
+        if (isOurs(event, m_surroundings.scheme) && !isOwn(event, m_surroundings) && event.hasAlarms())
+            others.emplace(placeOf(event), &event);
+    }
+    // Two devices may make the same event at the same time. Each removes none but its own.
+    const auto isAnothersToo = [&](const Event& event) {
+        const auto [first, last] = others.equal_range(placeOf(event));
+        return std::any_of(first, last, [&](const auto& other) {
+            return other.second->device < m_surroundings.deviceMark && event.device == m_surroundings.deviceMark &&
+                   other.second->tellingAlarm() == event.tellingAlarm();
+        });
+    };
     bool duplicateFound = false;
     for (const Event& event : events) {
         if (!isOurs(event, m_surroundings.scheme))
@@ -100,7 +118,7 @@ std::vector<Event> CalendarSynchronisation::cleanUp(const std::vector<Event>& ev
             kept.push_back(event);
         } else if (event.location.isEmpty() || !event.hasAlarms()) {
             removeEvent(event, "removeEvent for an invalid event failed with error");
-        } else if (!places.insert({event.startDate, event.title.toLower(), event.location}).second) {
+        } else if (!places.insert(placeOf(event)).second || isAnothersToo(event)) {
             duplicateFound = true;
             removeEvent(event, "removeEvent for a duplicate failed with error");
         } else {
@@ -171,10 +189,7 @@ CalendarSynchronisation::Operation CalendarSynchronisation::judge(Event& event, 
 
 bool CalendarSynchronisation::isDoneWith(const Event& event, Instant now, QStringList& removed)
 {
-    const bool isOwn = vidora::isOwn(event, m_surroundings);
     if (!event.hasAlarms()) {
-        if (!isOwn)
-            return true;
         if (event.startDate > now)
             removeEvent(event, "removeEvent error");
         removed << event.eventIdentifier;
@@ -183,8 +198,7 @@ bool CalendarSynchronisation::isDoneWith(const Event& event, Instant now, QStrin
     if (m_silentPeriod.mayBeAlarmedAt(event.startDate + event.alarms.front().relativeOffset))
         return false;
     // One that belongs to no favourite's alarm was set by hand, and may ring at night.
-    if (isOwn && m_surroundings.shows.scheduleTimeForFavoriteNamed(event.title).value_or(-1) >= 0 &&
-        removeCalendarEvent(event))
+    if (m_surroundings.shows.scheduleTimeForFavoriteNamed(event.title).value_or(-1) >= 0 && removeCalendarEvent(event))
         removed << event.eventIdentifier;
     return true;
 }
@@ -198,14 +212,14 @@ CalendarSynchronisation::Reconciled CalendarSynchronisation::reconcile(const Fav
     Reconciled result;
     std::vector<std::pair<Event, Operation>> operations;
     store.enumerateEventsMatchingPredicate(future, [&](const Event& found, bool&) {
-        if (!isOurs(found, m_surroundings.scheme) || isDoneWith(found, now, result.removed))
+        if (!isOwn(found, m_surroundings) || isDoneWith(found, now, result.removed))
             return;
         Event event = found;
         const Operation operation = judge(event, schedule, showsByTitle);
         operations.emplace_back(std::move(event), operation);
     });
     for (auto& [event, operation] : operations) {
-        if (operation == Operation::Remove && isOwn(event, m_surroundings) && removeCalendarEvent(event))
+        if (operation == Operation::Remove && removeCalendarEvent(event))
             result.removed << event.eventIdentifier;
         else if (operation == Operation::Update)
             store.saveEvent(event, EventSpan::ThisEvent, false);

@@ -20,7 +20,8 @@ constexpr Seconds calendarWindow = 60 * dayStep;
 
 /// Whether an event's address has the application's own scheme: all others belong to others and are never touched.
 bool isOurs(const Event& event, const QString& scheme);
-/// Whether such an event is this device's to clean up and to remove: it bears its mark, or none, as all did once.
+/// Whether such an event is this device's to move, to clean up and to remove: it bears its mark, or none, as all did
+/// once.
 bool isOwn(const Event& event, const AlarmSurroundings& surroundings);
 /// An event with an alarm for one broadcast, bearing a device's mark. An event without an end ends where it starts.
 Event eventForBroadcast(const Calendar& calendar, const QString& deviceMark, const QString& title,
@@ -46,8 +47,8 @@ public:
         std::vector<Event> events; ///< what the calendar holds from now to the end of the window
         QStringList removed;       ///< identifiers that leave the index
     };
-    /// Makes the events that begin after `now` agree with the schedule: those of moved broadcasts follow, whichever
-    /// device has made them; of vanished ones this device's go.
+    /// Makes this device's events that begin after `now` agree with the schedule: those of moved broadcasts follow,
+    /// those of vanished ones go.
     Reconciled reconcile(const FavoriteSchedule& schedule, Instant now, Instant windowEnd);
     /// Makes the events that favourites with an alarm lack: one a broadcast, whichever device has made it.
     void createMissing(const FavoriteSchedule& schedule, const Favorites& favorites, const std::vector<Event>& events,

@@ -49,7 +49,7 @@ std::optional<SelectedCalendar::Memory> SelectedCalendar::ensureSelectedCalendar
         return std::nullopt;
     Memory memory = memoryOf(*m_calendar);
     if (isLost)
-        memory.lost = looks.section(QLatin1Char(':'), 0, -7); // ahead of the source and the colour
+        memory.lost = looks.section(QLatin1Char(':'), 0, -6); // ahead of the source and the colour
     return memory;
 }
 

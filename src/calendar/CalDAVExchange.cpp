@@ -302,8 +302,10 @@ DAVResult CalDAVEventStore::push(const QString& calendar)
     std::unique_lock lock(m_mutex);
     CalDAVMirror& known = mirror(calendar);
     std::vector<QString> names;
-    for (const auto& [name, order] : known.outbox())
-        names.push_back(name);
+    for (const auto& [name, order] : known.outbox()) {
+        if (!isWithin(order.refused, pauseAfterFailure)) // what it refused a moment ago it would refuse again
+            names.push_back(name);
+    }
     const bool hasAddress = !known.address.isEmpty();
     lock.unlock();
     if (names.empty() || !hasAddress || !mayAsk())
@@ -354,7 +356,7 @@ DAVResult CalDAVEventStore::send(CalDAVMirror& mirror, const QString& name)
         return result;
     Log::line(QStringLiteral("calendar server takes no change: %1").arg(result.answer));
     const std::lock_guard lock(m_mutex);
-    mirror.noteRefused(name, order, result.answer);
+    mirror.noteRefused(name, order, result.answer, m_clock.now());
     return done();
 }
 

@@ -79,6 +79,8 @@ QJsonObject written(const CalDAVMirror::Order& order)
                        {QStringLiteral("tries"), order.tries}};
     if (order.base)
         object.insert(QStringLiteral("base"), written(*order.base));
+    if (order.refused)
+        object.insert(QStringLiteral("refused"), qint64(unixMilliseconds(*order.refused)));
     return object;
 }
 
@@ -89,6 +91,8 @@ CalDAVMirror::Order readOrder(const QJsonValue& value)
     CalDAVMirror::Order order;
     order.change = change == QLatin1String("remove") ? CalDAVMirror::Change::Remove : CalDAVMirror::Change::Put;
     order.tries = object.value(QLatin1String("tries")).toInt();
+    if (object.contains(QLatin1String("refused")))
+        order.refused = instantFromUnixMilliseconds(object.value(QLatin1String("refused")).toInteger());
     if (object.contains(QLatin1String("base")))
         order.base = readEvent(object.value(QLatin1String("base")).toObject());
     return order;
@@ -349,11 +353,12 @@ void CalDAVMirror::cancel(const QString& name, const Order& order)
         m_outbox.erase(name);
 }
 
-void CalDAVMirror::noteRefused(const QString& name, const Order& order, const QString& reason)
+void CalDAVMirror::noteRefused(const QString& name, const Order& order, const QString& reason, Instant now)
 {
     if (!isLatest(name, order))
         return;
     Order& present = m_outbox.at(name);
+    present.refused = now;
     if (++present.tries < mostTries)
         return;
     const auto copy = copyOf(name);
@@ -370,6 +375,8 @@ void CalDAVMirror::retryRefused()
         m_outbox.emplace(name, refusal.order);
     }
     m_refusals.clear();
+    for (auto& [name, order] : m_outbox)
+        order.refused.reset();
 }
 
 } // namespace vidora

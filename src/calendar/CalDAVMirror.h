@@ -35,6 +35,7 @@ public:
         std::uint64_t number = 0;
         std::optional<Event> base = {}; ///< the server's version that was changed; nothing for an event that is new
         int tries = 0;                  ///< how often the server has refused it
+        std::optional<Instant> refused = {}; ///< when it did last
     };
     /// A change that the server would not take, however often it was sent.
     struct Refusal
@@ -84,7 +85,7 @@ public:
     /// There is nothing to be sent: the order was kept, the change itself never came to be.
     void cancel(const QString& name, const Order& order);
     /// The server has refused an order. Set aside after a few times: the event then takes part in pulls again.
-    void noteRefused(const QString& name, const Order& order, const QString& reason);
+    void noteRefused(const QString& name, const Order& order, const QString& reason, Instant now);
     /// Lets what was set aside be sent once more.
     void retryRefused();
 

@@ -42,7 +42,9 @@ QString hostOf(const QString& address)
 QString placeOf(const QString& address)
 {
     const QUrl url = DAVConnection::addressOf(address);
-    const QString path = url.adjusted(QUrl::StripTrailingSlash | QUrl::NormalizePathSegments).path();
+    QString path = url.adjusted(QUrl::NormalizePathSegments).path();
+    if (path.endsWith(QLatin1Char('/')))
+        path.chop(1);
     return url.isValid() ? DAVConnection::originOf(url) + path : address;
 }
 

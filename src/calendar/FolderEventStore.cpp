@@ -36,9 +36,11 @@ std::pair<QString, QString> placeOf(const QString& identifier)
     return plain ? std::pair(names.at(0), names.at(1)) : std::pair<QString, QString>();
 }
 
-QString identityOf(const URL& url)
+/// `more`: tells events of one address apart.
+QString identityOf(const URL& url, const QString& more)
 {
-    const QByteArray digest = QCryptographicHash::hash(url.text().toUtf8(), QCryptographicHash::Sha256);
+    const QString text = more.isEmpty() ? url.text() : url.text() + QLatin1Char(' ') + more;
+    const QByteArray digest = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
     return QString::fromLatin1(digest.first(16).toHex());
 }
 
@@ -238,21 +240,37 @@ std::optional<EventStoreError> FolderEventStore::refusal(const Event& event)
 
 void FolderEventStore::add(Event& event)
 {
-    QString uid = event.url ? identityOf(*event.url) : freshIdentity(m_random);
-    Place place{event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")};
-    const auto present = find(place);
-    if (present && present->single && event.url && present->event.url == event.url && // be it moved by hand since
-        (present->event.device.isEmpty() || present->event.device == event.device)) {
-        event = laidOver(event, present->event);
-        change(place, event);
-        return;
+    // Two devices that do the same at the same time must come to the same name.
+    constexpr int mostNames = 4;
+    for (int number = 0; number < mostNames && event.url; ++number) {
+        const QString uid = identityOf(*event.url, number == 0 ? QString() : QString::number(number));
+        const Place place{event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")};
+        const auto present = find(place);
+        if (!present && !isTaken(place))
+            return add(event, place, uid);
+        if (!present || !present->single ||
+            present->event.url != event.url) // a broadcast that has moved keeps its name
+            continue;
+        if (!present->event.device.isEmpty() && present->event.device != event.device)
+            break;
+        event = laidOver(event, present->event); // be it moved by hand since
+        return change(place, event);
     }
-    if (folder(place.first).hasFile(place.second) || m_waiting.contains(place)) {
+    QString uid = event.url ? identityOf(*event.url, event.device) : freshIdentity(m_random);
+    if (isTaken({event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")}))
         uid = freshIdentity(m_random);
-        place.second = uid + QStringLiteral(".ics");
-    }
+    add(event, {event.calendar.calendarIdentifier, uid + QStringLiteral(".ics")}, uid);
+}
+
+void FolderEventStore::add(Event& event, const Place& place, const QString& uid)
+{
     event = complete(place, event, event.calendar);
     m_waiting.insert_or_assign(place, Waiting{event, uid, false, true});
+}
+
+bool FolderEventStore::isTaken(const Place& place)
+{
+    return folder(place.first).hasFile(place.second) || m_waiting.contains(place);
 }
 
 void FolderEventStore::change(const Place& place, const Event& event)

@@ -75,6 +75,8 @@ private:
     std::optional<Found> find(const Place& place);
     std::optional<EventStoreError> refusal(const Event& event);
     void add(Event& event);
+    void add(Event& event, const Place& place, const QString& uid);
+    bool isTaken(const Place& place);
     void change(const Place& place, const Event& event);
     std::optional<EventStoreError> writeAll();
     std::optional<EventStoreError> write(const Place& place, const Waiting& change);

@@ -244,6 +244,143 @@ TEST_F(AlarmTest, OneSynchronisationServesAllWhoAskUntilItBegins)
     EXPECT_EQ(seen(), QStringList(QStringLiteral("Dnevnik at 79 on One -10"))) << "the last one saw the last list";
 }
 
+/// Silent hours are about the moment at which an alarm rings, not about the show.
+TEST_F(AlarmTest, SilentHoursAreJudgedByTheAlarmsMoment)
+{
+    const QTimeZone zone = DeviceSettings::timeZone();
+    const QTime now = SilentHours::timeOf(testNow, zone);
+    silentHours.setFromTimestamp(SilentHours::timestampOf(now.addSecs(100 * 60), zone));
+    silentHours.setToTimestamp(SilentHours::timestampOf(now.addSecs(130 * 60), zone));
+    // Rings at 90 for a show at 110, which is inside; at 120, which is inside, for one at 140; and both outside.
+    update(one, {{news, 110, 115}, {news, 140, 150}, {news, 400, 410}});
+    favorite(news, 20);
+    ASSERT_EQ(seen().size(), 3);
+    silentHours.setEnabled(true);
+    sync();
+    EXPECT_EQ(seen(),
+              (QStringList{QStringLiteral("Dnevnik at 110 on One -20"), QStringLiteral("Dnevnik at 400 on One -20")}));
+    silentHours.setEnabled(false);
+    sync();
+    EXPECT_EQ(seen().size(), 3);
+}
+
+TEST_F(AlarmTest, AnEventThatMovedIsForgottenUnderBothItsAddresses)
+{
+    const auto broadcastAt = [&](int minute) { return TestShow{news, minute, minute + 10}.show(one)->entry; };
+    const auto eventAt = [&](int minute) {
+        Event made = event(news, minute, QStringLiteral("One"), QStringLiteral("x"));
+        made.url = broadcastAt(minute)->urlDigestWithScheme(QStringLiteral("vidora"));
+        made.eventIdentifier = QStringLiteral("e");
+        return made;
+    };
+    const QString scheme = QStringLiteral("vidora");
+    CalendarEvents index;
+    index.add(eventAt(60), scheme);
+    index.add(eventAt(90), scheme);
+    index.removeWithIdentifier(QStringLiteral("e"));
+    index.removeWithIdentifier(QStringLiteral("e"));
+    EXPECT_EQ(index.eventCount(), 0);
+    // Another event at the address takes over, and the first's identifier no longer leads there.
+    index.add(eventAt(60), scheme);
+    Event other = eventAt(60);
+    other.eventIdentifier = QStringLiteral("f");
+    index.add(other, scheme);
+    index.removeWithIdentifier(QStringLiteral("e"));
+    EXPECT_EQ(index.identifier(*broadcastAt(60), scheme), QStringLiteral("f"));
+    other.eventIdentifier = QStringLiteral("theirs");
+    index.addOfOther(other, scheme);
+    EXPECT_EQ(index.identifier(*broadcastAt(60), scheme), QStringLiteral("f"));
+    other.url = broadcastAt(90)->urlDigestWithScheme(scheme);
+    index.addOfOther(other, scheme);
+    EXPECT_EQ(index.eventCount(), 1);
+    EXPECT_EQ(index.identifier(*broadcastAt(90), scheme), QStringLiteral("theirs"));
+}
+
+/// Two people who share a calendar, and nothing else.
+TEST_F(AlarmTest, EventsOfAnotherDeviceAreLeftAlone)
+{
+    update(one, {{news, 60, 90}, {QStringLiteral("Film"), 100, 200}, {QStringLiteral("Film"), 300, 400}});
+    favorite(news, 10);
+    const auto theirs = [&](int minute, const char* mark) {
+        Event made = event(QStringLiteral("Film"), minute, QStringLiteral("One"), QStringLiteral("x"));
+        made.url = TVEntry::urlDigestFromChannel(one, made.startDate, made.title, QStringLiteral("vidora"));
+        made.device = QString::fromLatin1(mark);
+        return made;
+    };
+    put(theirs(100, "0ther"));
+    put(theirs(500, "0ther"));
+    put(theirs(500, "0ther"));
+    put(theirs(700, ""));
+    sync();
+    EXPECT_EQ(seen(), (QStringList{QStringLiteral("Dnevnik at 60 on One -10"), QStringLiteral("Film at 100 on One -10"),
+                                   QStringLiteral("Film at 500 on One -10"), QStringLiteral("Film at 500 on One -10")}))
+        << "what bears no mark is ours";
+    EXPECT_EQ(engine->eventCount(), 1) << "and may not keep the user from choosing another calendar";
+
+    favorite(QStringLiteral("Film"), 10);
+    EXPECT_EQ(seen().filter(QStringLiteral("Film at 100")).size(), 1) << "one alarm for a broadcast";
+    const auto entry = TestShow{QStringLiteral("Film"), 100, 200}.show(one)->entry;
+    EXPECT_EQ(engine->ringOf(*entry)->moment, testNow + std::chrono::minutes(90));
+    engine->setAlarmForTitle(QStringLiteral("Film"), one, *entry->dateTime(), entry->endDateTime(), 37, true, true);
+    settle();
+    EXPECT_EQ(engine->ringOf(*entry)->lead, Seconds(37 * 60)) << "to the minute";
+    EXPECT_EQ(engine->alarmedEntry(*entry), 30);
+    EXPECT_EQ(seen().filter(QStringLiteral("Film at 100")).size(), 2) << "by hand, at another time";
+    engine->removeFavorite(QStringLiteral("Film"));
+    settle();
+    EXPECT_EQ(seen().filter(QStringLiteral("Film")).size(), 3);
+    EXPECT_EQ(seen().filter(QStringLiteral("Film at 300")).size(), 0);
+}
+
+TEST_F(AlarmTest, ASetAlarmIsChangedInPlace)
+{
+    update(one, {{news, 60, 90}, {news, 300, 330}, {news, 600, 630}});
+    favorite(news, 10);
+    for (Event event : calendars.committedEvents()) {
+        event.alarms.push_back({Seconds{-7200}}); // theirs
+        put(event);
+    }
+    const auto identifiers = [&] {
+        std::set<QString> result;
+        for (const Event& event : calendars.committedEvents())
+            result.insert(event.eventIdentifier);
+        return result;
+    };
+    const auto before = identifiers();
+    favorite(news, 20);
+    EXPECT_EQ(identifiers(), before);
+    EXPECT_EQ(seen().front(), QStringLiteral("Dnevnik at 60 on One -20 -120"));
+    favorite(news, 20, true);
+    EXPECT_TRUE(seen().isEmpty()) << "what the new alarm doesn't ask for goes";
+}
+
+TEST_F(AlarmTest, ARenamedCalendarStaysTheOneAndALostOneIsTold)
+{
+    Calendar work = home;
+    work.calendarIdentifier = QStringLiteral("w");
+    work.title = QStringLiteral("Work");
+    work.address = QStringLiteral("https://example.org/w/");
+    calendars.setCalendars({home, work});
+    engine->saveCalendar(work);
+    settle();
+    start();
+    EXPECT_EQ(engine->selectedCalendar(), work);
+    work.title = QStringLiteral("Arbeit");
+    work.color = CalendarColor{0, 0, 1, 1};
+    work.calendarIdentifier = QStringLiteral("w2"); // the account was added anew
+    calendars.setCalendars({home, work});
+    start();
+    EXPECT_EQ(engine->selectedCalendar(), work);
+    EXPECT_FALSE(engine->lostCalendar());
+    calendars.setCalendars({home});
+    EXPECT_EQ(engine->selectedCalendar(), home) << "within one run as well";
+    settle();
+    EXPECT_EQ(engine->lostCalendar(), QStringLiteral("Arbeit"));
+    engine->saveCalendar(work);
+    settle();
+    EXPECT_FALSE(engine->lostCalendar());
+}
+
 TEST_F(AlarmTest, TheCalendarIsFoundAgainByItsLooks)
 {
     const auto calendar = [](const char* id, const char* title, const char* source, double red, bool writable = true) {

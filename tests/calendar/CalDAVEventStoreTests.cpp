@@ -212,6 +212,78 @@ TEST(CalDAVClient, GivesAPasswordToNobodyElse)
     }
 }
 
+/// Answers a question about the way to the calendars by what stands for its address.
+class MappedSession final : public URLSession
+{
+public:
+    URLResult perform(const URLRequest& request) override
+    {
+        asked << request.url.text();
+        credentials << (request.credentials ? request.url.text() : QString());
+        URLResponse response;
+        const auto body = bodies.find(request.url.text());
+        response.statusCode = request.credentials ? (body == bodies.end() ? 404 : 207) : 401;
+        response.headerFields.set("WWW-Authenticate", "Basic realm=\"x\"");
+        return {"<multistatus xmlns=\"DAV:\"><response><href>/x/</href><propstat><prop>" +
+                    (body == bodies.end() ? QByteArray() : body->second) +
+                    "</prop><status>HTTP/1.1 200 OK</status></propstat></response></multistatus>",
+                response, std::nullopt};
+    }
+    std::map<QString, QByteArray> bodies;
+    QStringList asked, credentials;
+};
+
+class OneService final : public ServiceLookup
+{
+public:
+    std::optional<ServiceLocation> find(const QString& service, const QString& domain) override
+    {
+        EXPECT_EQ(service, QStringLiteral("_caldavs._tcp"));
+        EXPECT_EQ(domain, QStringLiteral("example.org"));
+        return ServiceLocation{QStringLiteral("dav.example.org"), 8443, QStringLiteral("/cal")};
+    }
+};
+
+TEST(CalDAVClient, FindsItsWayAndAsksBeforeItLeavesTheHost)
+{
+    const auto homes = [](std::initializer_list<const char*> hrefs) -> QByteArray {
+        QByteArray text = "<calendar-home-set>";
+        for (const char* href : hrefs)
+            text += QByteArray("<href>") + href + "</href>";
+        return text + "</calendar-home-set>";
+    };
+    ScriptedSleeper sleeper;
+    OneService services;
+    CalDAVAccount account{QStringLiteral("example.org"), QStringLiteral("ana"), QStringLiteral("p")};
+    MappedSession session;
+    session.bodies[QStringLiteral("https://dav.example.org:8443/cal")] =
+        homes({"/home/a/", "/home/b/", "//evil.example/c/", "https://dav.example.org:8443//evil.example/d/",
+               "https://dav.example.org/e/", "https://evil.example/f/"});
+    {
+        CalDAVClient client(session, sleeper, account, &services);
+        const auto findings = client.examine();
+        EXPECT_EQ(findings.trouble, CalDAVClient::Trouble::Elsewhere);
+        EXPECT_EQ(findings.elsewhere, QStringLiteral("https://dav.example.org:8443"));
+    }
+    session.credentials.clear();
+    account.origins << QStringLiteral("https://dav.example.org:8443");
+    CalDAVClient client(session, sleeper, account, &services);
+    std::vector<QUrl> found;
+    EXPECT_TRUE(client.discover(found).isDone());
+    EXPECT_EQ(found, (std::vector{QUrl(QStringLiteral("https://dav.example.org:8443/home/a/")),
+                                  QUrl(QStringLiteral("https://dav.example.org:8443/home/b/"))}));
+    for (const QString& address : session.credentials)
+        EXPECT_TRUE(address.isEmpty() || address.startsWith(QStringLiteral("https://dav.example.org:8443/")))
+            << address.toStdString();
+    CalDAVClient::RemoteEvent event;
+    for (const char* other : {"http://example.org/a.ics", "https://example.org:444/a.ics",
+                              "https://a.example.org/a.ics", "https://dav.example.org/a.ics"}) {
+        const int before = static_cast<int>(session.asked.size());
+        EXPECT_FALSE(client.get(QUrl(QString::fromLatin1(other)), event).isDone());
+        EXPECT_EQ(session.asked.size(), before) << other;
+    }
+}
+
 TEST(DAVMultistatus, ReadsWhatServersWrite)
 {
     const QByteArray whole =

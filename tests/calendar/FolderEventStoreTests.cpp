@@ -151,6 +151,77 @@ TEST_F(FolderEventStoreTest, MergesWithWhatChangedBeforeTheCommit)
     EXPECT_EQ(readRaw(pathOf(2)), series);
 }
 
+/// Another program that writes at the very moment at which a change is on its way to the disk.
+TEST_F(FolderEventStoreTest, DoesNotRevertWhatIsWrittenMeanwhile)
+{
+    class BusyLayer final : public FileLayer
+    {
+    public:
+        int create(const QString& path, unsigned mode, int& d) override { return system().create(path, mode, d); }
+        int write(int d, QByteArrayView bytes) override { return system().write(d, bytes); }
+        int sync(int d) override
+        {
+            if (meanwhile)
+                std::exchange(meanwhile, nullptr)();
+            return system().sync(d);
+        }
+        int close(int d) override { return system().close(d); }
+        int rename(const QString& from, const QString& to) override { return system().rename(from, to); }
+        int syncFolder(const QString& folder) override { return system().syncFolder(folder); }
+        int remove(const QString& path) override { return system().remove(path); }
+        std::function<void()> meanwhile;
+    } layer;
+    const auto store = open(layer);
+    Event event = broadcast(own(*store), QStringLiteral("Film"), start);
+    ASSERT_FALSE(store->saveEvent(event, EventSpan::ThisEvent));
+    const QString path = root + QLatin1Char('/') + event.eventIdentifier;
+    const Event read = all(*store).at(0);
+    writeRaw(path, readRaw(path).replace("-PT10M", "-PT5M")); // after it was read here
+    layer.meanwhile = [&] { writeRaw(path, readRaw(path).replace("Lipa 1", "Sofa")); };
+    Event moved = read;
+    moved.startDate += Seconds(600);
+    ASSERT_FALSE(store->saveEvent(moved, EventSpan::ThisEvent));
+    const Event present = all(*store).at(0);
+    EXPECT_EQ(present.startDate, start + Seconds(600));
+    EXPECT_EQ(present.location, QStringLiteral("Sofa"));
+    EXPECT_EQ(present.alarms, std::vector{EventAlarm{Seconds(-300)}});
+
+    const QByteArray bytes = readRaw(path);
+    clock.advance(Seconds(60));
+    Event same = present;
+    ASSERT_FALSE(store->saveEvent(same, EventSpan::ThisEvent, false));
+    EXPECT_TRUE(store->waitingChanges().empty()) << "what doesn't differ is no change";
+    Event again = broadcast(own(*store), QStringLiteral("Film"), start);
+    again.url = present.url;
+    again.device = QStringLiteral("ab");
+    ASSERT_FALSE(store->saveEvent(again, EventSpan::ThisEvent));
+    EXPECT_EQ(all(*store).size(), 1U) << "one of before there were marks is taken over";
+    again = broadcast(own(*store), QStringLiteral("Film"), start);
+    again.device = QStringLiteral("cd");
+    ASSERT_FALSE(store->saveEvent(again, EventSpan::ThisEvent));
+    EXPECT_EQ(all(*store).size(), 2U) << "one of another device's is not";
+}
+
+/// A look at what waits, while somebody else saves and commits.
+TEST_F(FolderEventStoreTest, TellsWhatWaitsWhileItChanges)
+{
+    const auto store = open();
+    const Calendar calendar = own(*store);
+    std::atomic<bool> isOver = false;
+    std::thread writer([&] {
+        for (int i = 0; i < 30; ++i) {
+            Event event = broadcast(calendar, QStringLiteral("Show %1").arg(i), start);
+            EXPECT_FALSE(store->saveEvent(event, EventSpan::ThisEvent, i % 3 == 0));
+        }
+        isOver = true;
+    });
+    std::size_t most = 0;
+    while (!isOver)
+        most = std::max(most, store->waitingChanges().size());
+    writer.join();
+    EXPECT_LE(most, 3U);
+}
+
 TEST_F(FolderEventStoreTest, MakesAnEventOnce)
 {
     const auto store = open();

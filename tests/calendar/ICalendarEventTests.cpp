@@ -1,4 +1,5 @@
 #include "CalendarSupport.h"
+#include "calendar/EventMerge.h"
 #include "calendar/ICalendarEvent.h"
 
 #include <gtest/gtest.h>
@@ -142,6 +143,58 @@ TEST(ICalendarEvent, ChangesItsOwnPropertiesAndNothingElse)
         "X-UNKNOWN;X-P=\"a;b\":  kept \nATTENDEE;CN=A:mailto:a@example.org\n"
         "BEGIN:VALARM\nACTION:DISPLAY\nDESCRIPTION:Moved\nTRIGGER:-PT30M\nEND:VALARM\nEND:VEVENT\nEND:VCALENDAR\n";
     EXPECT_EQ(after->toStdString(), expected.toStdString());
+}
+
+/// An alarm keeps its time ahead of the start, in whatever form it says so.
+TEST(ICalendarEvent, AlarmsOfEveryFormFollowAMove)
+{
+    const QByteArray before =
+        foreignEvent("x", "20261122T190000Z",
+                     "BEGIN:VALARM\nACTION:AUDIO\nTRIGGER;VALUE=DATE-TIME;X-P=1:20261122T184500Z\nX-SOUND:bell\n"
+                     "END:VALARM\nBEGIN:VALARM\nACTION:DISPLAY\nTRIGGER;RELATED=END:-PT1H20M\nEND:VALARM\n"
+                     "BEGIN:VALARM\nACTION:DISPLAY\nTRIGGER:-PT5M\nEND:VALARM\n");
+    Event event = ICalendarEvent::read(before)->event;
+    const std::vector<EventAlarm> alarms{{Seconds(-900)}, {Seconds(-1200)}, {Seconds(-300)}};
+    ASSERT_EQ(event.alarms, alarms);
+    event.startDate += std::chrono::minutes(90);
+    event.endDate += std::chrono::minutes(120);
+    const auto after = ICalendarEvent::change(before, event, now);
+    ASSERT_TRUE(after);
+    EXPECT_EQ(ICalendarEvent::read(*after)->event.alarms, alarms);
+    for (const char* line : {"TRIGGER;VALUE=DATE-TIME;X-P=1:20261122T201500Z\nX-SOUND:bell\n",
+                             "TRIGGER;RELATED=END:-PT1H50M\n", "TRIGGER:-PT5M\n"})
+        EXPECT_TRUE(after->contains(line)) << line << after->toStdString();
+}
+
+/// A name of many parts once took time with the square of its length.
+TEST(ICalendarEvent, AZoneOfAnyNameCostsLittle)
+{
+    const auto inZone = [](const QByteArray& name) {
+        return ICalendarEvent::read(
+            foreignEvent("x", "X").replace("DTSTART:X", QByteArray("DTSTART;TZID=" + name + ":20261122T190000")));
+    };
+    EXPECT_FALSE(inZone(QByteArray("a/").repeated(250'000) + "Europe/Berlin"));
+    EXPECT_TRUE(inZone("/example.org/20070227_1/America/Argentina/Buenos_Aires"));
+}
+
+TEST(EventMerge, KeepsWhatEitherSideChanged)
+{
+    const Event base = test::broadcast({}, QStringLiteral("Film"), moment("2026-11-22T19:00:00Z"));
+    Event ours = base, theirs = base;
+    ours.startDate += Seconds(600);
+    ours.alarms = {{Seconds(-300)}};
+    theirs.location = QStringLiteral("Sofa");
+    theirs.endDate += Seconds(60);
+    theirs.alarms = {{Seconds(-600)}, {Seconds(-7200)}};
+    const Event both = merged(base, ours, theirs);
+    EXPECT_EQ(both.startDate, ours.startDate);
+    EXPECT_EQ(both.endDate, ours.endDate);
+    EXPECT_EQ(both.location, QStringLiteral("Sofa"));
+    EXPECT_EQ(both.alarms, (std::vector<EventAlarm>{{Seconds(-7200)}, {Seconds(-300)}}));
+    EXPECT_TRUE(sameContent(merged(base, base, theirs), theirs));
+    EXPECT_EQ(laidOver(ours, theirs).alarms, (std::vector<EventAlarm>{{Seconds(-300)}, {Seconds(-7200)}}));
+    ours.alarms = {{Seconds(-7200)}};
+    EXPECT_EQ(laidOver(ours, theirs).alarms, (std::vector<EventAlarm>{{Seconds(-7200)}})) << "once";
 }
 
 } // namespace
