@@ -3,6 +3,7 @@
 #include "app/CommandSession.h"
 #include "app/Progress.h"
 #include "core/GuideImport.h"
+#include "platform/BlockOwner.h"
 #include "platform/Localized.h"
 
 #include <algorithm>
@@ -41,14 +42,16 @@ QString skippedText(const GuideSummary& guide)
     return text;
 }
 
-QJsonObject reportJson(const ImportReport& report, std::size_t stillSelected)
+QJsonObject reportJson(const ImportReport& report, const GuideIcons::Counts& icons, std::size_t stillSelected)
 {
     const auto number = [](std::size_t value) { return static_cast<qint64>(value); };
     return {{QStringLiteral("address"), report.address.text()},
             {QStringLiteral("channels"), number(report.channels.size())},
             {QStringLiteral("programmes"), number(report.guide.programmes)},
             {QStringLiteral("days"), number(report.guide.days)},
-            {QStringLiteral("iconsFetched"), number(report.iconsFetched)},
+            {QStringLiteral("iconsFetched"), number(icons.fetched)},
+            {QStringLiteral("iconsDrawn"), number(icons.drawn)},
+            {QStringLiteral("iconsWaiting"), number(icons.waiting)},
             {QStringLiteral("stillSelected"), number(stillSelected)},
             {QStringLiteral("channelsWithoutId"), number(report.guide.channelsWithoutId)},
             {QStringLiteral("channelsTwice"), number(report.guide.channelsTwice)},
@@ -70,26 +73,55 @@ QString reportText(const ImportReport& report, std::size_t stillSelected)
     return text + QLatin1Char('\n');
 }
 
+/// Fetches the icons that are due, for as long as a user would wait; the others come another time.
+void fetchIcons(CommandSession& session, GuideIcons& icons, GuideIcons::Which which)
+{
+    constexpr Seconds longest(10);
+    const auto ended = std::make_shared<std::atomic<bool>>(false);
+    const BlockOwner blocks;
+    blocks.after(longest, [ended] { *ended = true; });
+    ProgressLine progress;
+    const IconProgress draw = [&progress](std::size_t done, std::size_t of) {
+        DispatchQueue::main().async(
+            [&progress, done, of] { progress.draw(done, of, localized("icons: %1 of %2").arg(done).arg(of)); });
+    };
+    session.aside([&] {
+        icons.fetch(session.device().network(), which, ended, draw);
+        return true;
+    });
+}
+
 void import(CommandSession& session)
 {
     const QString& source = session.line().arguments.front();
-    const GuideImport guideImport(session.device().network(), Device::ownCatalogue(session.device().folders()),
-                                  Device::ownIcons(session.device().folders()));
+    GuideIcons icons(Device::ownIcons(session.device().folders()), session.device().clock());
+    const GuideImport guideImport(session.device().network(), Device::ownCatalogue(session.device().folders()), icons);
     ProgressLine progress;
     progress.draw(localized("reading %1").arg(source));
-    const auto outcome = session.aside([&] {
-        return guideImport.import(source, [&](std::size_t done, std::size_t of) {
-            progress.draw(localized("icons: %1 of %2").arg(done).arg(of));
-            return !session.device().isEnding();
-        });
-    });
+    const auto outcome =
+        session.aside([&] { return guideImport.import(source, [&] { return session.device().isEnding(); }); });
     progress.clear();
 
     if (const auto* message = std::get_if<QString>(&outcome))
         throw Refusal{*message};
     const auto& report = std::get<ImportReport>(outcome);
     const std::size_t stillSelected = expireSelected(session.delegate().channels(), report);
-    session.answer(reportText(report, stillSelected), reportJson(report, stillSelected));
+    // The guide is there; the rest of the time goes to its icons.
+    if (!session.line().json)
+        session.answer(reportText(report, stillSelected), {});
+    fetchIcons(session, icons, GuideIcons::Which::MissingAndOld);
+    if (session.line().json)
+        session.answer({}, reportJson(report, icons.counts(), stillSelected));
+}
+
+/// What an import or an earlier update had no time for, and what failed a day ago or more.
+void fetchMissingIcons(CommandSession& session)
+{
+    if (!session.device().hasOwnGuide() || !session.device().keepsChanges())
+        return;
+    GuideIcons icons(Device::ownIcons(session.device().folders()), session.device().clock());
+    if (icons.counts().waiting > 0)
+        fetchIcons(session, icons, GuideIcons::Which::Missing);
 }
 
 void update(CommandSession& session)
@@ -121,6 +153,8 @@ void update(CommandSession& session)
     }
     if (progress.wanted() > 0 && progress.failed().size() == progress.wanted())
         session.fail();
+    if (session.line().command == QLatin1String("update"))
+        fetchMissingIcons(session);
 }
 
 } // namespace
@@ -130,7 +164,7 @@ const CommandFamily& guideCommands()
     static const CommandFamily family{
         {.name = "update",
          .meaning = QT_TRANSLATE_NOOP("vidora", "fetch what is missing or old"),
-         .changes = Touches::Everything,
+         .changesWith = 0,
          .fetches = true,
          .run = update},
         {.name = "import",
@@ -139,7 +173,7 @@ const CommandFamily& guideCommands()
          .least = 1,
          .most = 1,
          .kind = ValueKind::File,
-         .changes = Touches::Everything,
+         .changesWith = 0,
          .run = import},
     };
     return family;

@@ -29,6 +29,7 @@ void say(const QString& message)
 void printText(const QString& text)
 {
     std::fputs(text.toUtf8().constData(), stdout);
+    std::fflush(stdout); // work may follow
 }
 
 QString printable(QString text)

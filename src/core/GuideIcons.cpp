@@ -1,101 +1,150 @@
 #include "core/GuideIcons.h"
 
 #include "core/GuideImport.h"
-#include "platform/AtomicFile.h"
-#include "platform/DispatchQueue.h"
+#include "core/IconFetch.h"
 #include "platform/Log.h"
 
-#include <atomic>
-#include <mutex>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace vidora {
 
 namespace {
 
-constexpr qsizetype largestIcon = 2 * 1024 * 1024;
-constexpr std::size_t sideBySide = 6;
+constexpr qint64 largestRecords = 64LL * 1024 * 1024;
+constexpr auto patience = std::chrono::hours(24);
+const QString recordsFile = QStringLiteral("fetched.json");
+const QString addressKey = QStringLiteral("address");
+const QString triedKey = QStringLiteral("tried");
+const QString fetchedKey = QStringLiteral("fetched");
 
-QByteArray fetchIcon(URLSession& network, const QString& address)
+QString titleOf(const GuideChannel& channel)
 {
-    const auto url = URL::fromText(address);
-    if (!url || (url->scheme() != QLatin1String("http") && url->scheme() != QLatin1String("https")))
-        return {};
-    URLRequest request(*url);
-    request.timeoutIntervalForRequest = Seconds{5};
-    request.timeoutIntervalForResource = Seconds{10};
-    const URLResult result = network.perform(request);
-    const bool good = result.response && result.response->statusCode == 200 && result.data;
-    return good && result.data->size() <= largestIcon ? *result.data : QByteArray();
+    return channel.displayNames.isEmpty() ? channel.id : channel.displayNames.front();
 }
 
-// Works off the channels from several threads; each takes the next one that nobody has taken.
-class IconSaver
+QString fileNameOf(const GuideChannel& channel)
 {
-public:
-    IconSaver(URLSession& network, const std::vector<GuideChannel>& channels, const QString& folder,
-              QHash<QString, QString>& names, const IconProgress& progress)
-        : m_network(network)
-        , m_channels(channels)
-        , m_folder(folder)
-        , m_names(names)
-        , m_progress(progress)
-    {
-    }
-
-    std::optional<std::size_t> run()
-    {
-        DispatchGroup group;
-        for (std::size_t i = 0; i < std::min(sideBySide, m_channels.size()); ++i)
-            group.async(DispatchQueue::global(QualityOfService::UserInitiated), [this] { work(); });
-        group.wait();
-        return m_isEnded ? std::nullopt : std::optional<std::size_t>(m_fetched);
-    }
-
-private:
-    void work()
-    {
-        for (std::size_t i = m_next++; i < m_channels.size() && !m_isEnded; i = m_next++) {
-            save(m_channels[i]);
-            if (!m_progress(++m_done, m_channels.size()))
-                m_isEnded = true;
-        }
-    }
-
-    void save(const GuideChannel& channel)
-    {
-        const QString title = channel.displayNames.isEmpty() ? channel.id : channel.displayNames.front();
-        QByteArray bytes = channel.icon ? fetchIcon(m_network, *channel.icon) : QByteArray();
-        const auto ending = pictureEnding(bytes);
-        if (!ending)
-            bytes = drawnIcon(title);
-        else
-            ++m_fetched;
-        const QString name = GuideImport::idOfChannel(channel.id).hex() + ending.value_or(QStringLiteral(".svg"));
-        if (AtomicFile::write(m_folder + QLatin1Char('/') + name, bytes, AtomicFile::Access::Everyone,
-                              AtomicFile::Durability::Unsynced)
-                .failed())
-            Log::line(QStringLiteral("import: the icon of %1 can't be written").arg(title));
-        const std::lock_guard lock(m_mutex);
-        m_names.insert(channel.id, name);
-    }
-
-    URLSession& m_network;
-    const std::vector<GuideChannel>& m_channels;
-    const QString& m_folder;
-    QHash<QString, QString>& m_names;
-    const IconProgress& m_progress;
-    std::mutex m_mutex;
-    std::atomic<std::size_t> m_next = 0, m_done = 0, m_fetched = 0;
-    std::atomic<bool> m_isEnded = false;
-};
+    return GuideIcons::fileName(GuideImport::idOfChannel(channel.id));
+}
 
 } // namespace
 
-std::optional<std::size_t> saveGuideIcons(URLSession& network, const std::vector<GuideChannel>& channels,
-                                          const QString& folder, QHash<QString, QString>& names,
-                                          const IconProgress& progress)
+GuideIcons::GuideIcons(QString folder, const Clock& clock)
+    : m_folder(std::move(folder))
+    , m_clock(clock)
 {
-    return IconSaver(network, channels, folder, names, progress).run();
+    read();
+}
+
+QString GuideIcons::fileName(const ObjectId& channel)
+{
+    return channel.hex() + QLatin1String(".icon");
+}
+
+QString GuideIcons::path(const QString& name) const
+{
+    return m_folder + QLatin1Char('/') + name;
+}
+
+FileResult GuideIcons::draw(const std::vector<GuideChannel>& channels)
+{
+    for (const GuideChannel& channel : channels) {
+        const QString name = fileNameOf(channel);
+        const auto record = m_records.find(name);
+        if (record != m_records.end() && record->fetched) {
+            if (QFile::exists(path(name)))
+                continue;
+            *record = {}; // to be fetched anew
+        }
+        FileResult written = AtomicFile::write(path(name), drawnIcon(titleOf(channel)), AtomicFile::Access::Everyone,
+                                               AtomicFile::Durability::Unsynced);
+        if (written.failed())
+            return written;
+    }
+    return {};
+}
+
+void GuideIcons::adopt(const std::vector<GuideChannel>& channels)
+{
+    Records kept;
+    for (const GuideChannel& channel : channels) {
+        const QString name = fileNameOf(channel);
+        const QString address = channel.icon.value_or(QString());
+        const Record before = m_records.value(name);
+        // The picture of another address stands until the one of this has come.
+        kept.insert(name, {address, before.address == address ? before.tried : std::nullopt, before.fetched});
+    }
+    m_records = std::move(kept);
+    for (const QString& name : QDir(m_folder).entryList(QDir::Files | QDir::Hidden)) {
+        if (name != recordsFile && !m_records.contains(name))
+            QFile::remove(path(name));
+    }
+    write();
+}
+
+bool GuideIcons::isDue(const Record& record, Which which) const
+{
+    if (record.address.isEmpty() || (record.fetched && record.tried && which == Which::Missing))
+        return false;
+    const Instant now = m_clock.now();
+    return !record.tried || *record.tried > now || now - *record.tried >= patience;
+}
+
+void GuideIcons::fetch(URLSession& network, Which which, std::shared_ptr<const std::atomic<bool>> ended,
+                       const IconProgress& progress)
+{
+    IconFetch fetching(network, m_folder, std::move(ended), progress);
+    for (auto record = m_records.cbegin(); record != m_records.cend(); ++record) {
+        if (isDue(*record, which))
+            fetching.add(record.key(), record->address);
+    }
+    const QHash<QString, bool> came = fetching.run();
+    for (auto picture = came.cbegin(); picture != came.cend(); ++picture) {
+        Record& record = m_records[picture.key()];
+        record.tried = m_clock.now();
+        record.fetched = record.fetched || *picture;
+    }
+    if (!came.isEmpty())
+        write();
+}
+
+GuideIcons::Counts GuideIcons::counts() const
+{
+    Counts counts;
+    for (const Record& record : m_records) {
+        ++(record.fetched ? counts.fetched : counts.drawn);
+        if (!record.fetched && isDue(record, Which::Missing))
+            ++counts.waiting;
+    }
+    return counts;
+}
+
+void GuideIcons::read()
+{
+    const auto bytes = AtomicFile::read(path(recordsFile), largestRecords);
+    const QJsonObject objects = QJsonDocument::fromJson(bytes.value_or(QByteArray())).object();
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        const QJsonValue value = *object;
+        m_records.insert(object.key(), {value[addressKey].toString(), instantFromIsoText(value[triedKey].toString()),
+                                        value[fetchedKey].toBool()});
+    }
+}
+
+void GuideIcons::write() const
+{
+    QJsonObject objects;
+    for (auto record = m_records.cbegin(); record != m_records.cend(); ++record) {
+        objects.insert(record.key(),
+                       QJsonObject{{addressKey, record->address},
+                                   {triedKey, record->tried ? QJsonValue(isoText(*record->tried)) : QJsonValue()},
+                                   {fetchedKey, record->fetched}});
+    }
+    const FileResult written =
+        AtomicFile::write(path(recordsFile), QJsonDocument(objects).toJson(), AtomicFile::Access::OwnerOnly);
+    if (written.failed())
+        Log::line(QStringLiteral("icons: what was fetched can't be kept: %1").arg(written.text));
 }
 
 QByteArray drawnIcon(const QString& title)
@@ -120,19 +169,11 @@ QByteArray drawnIcon(const QString& title)
         .toUtf8();
 }
 
-std::optional<QString> pictureEnding(const QByteArray& bytes)
+bool isPicture(const QByteArray& bytes)
 {
-    if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
-        return QStringLiteral(".png");
-    if (bytes.startsWith("\xff\xd8\xff"))
-        return QStringLiteral(".jpg");
-    if (bytes.startsWith("GIF8"))
-        return QStringLiteral(".gif");
-    if (bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WEBP")
-        return QStringLiteral(".webp");
-    if (bytes.startsWith("<svg") || (bytes.startsWith("<?xml") && bytes.left(1'000).contains("<svg")))
-        return QStringLiteral(".svg");
-    return std::nullopt;
+    return bytes.startsWith("\x89PNG\r\n\x1a\n") || bytes.startsWith("\xff\xd8\xff") || bytes.startsWith("GIF8") ||
+           (bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WEBP") || bytes.startsWith("<svg") ||
+           (bytes.startsWith("<?xml") && bytes.left(1'000).contains("<svg"));
 }
 
 } // namespace vidora

@@ -14,7 +14,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <atomic>
 
 namespace vidora {
 
@@ -50,21 +49,22 @@ QString titleOf(const GuideChannel& channel)
     return channel.displayNames.isEmpty() ? channel.id : channel.displayNames.front();
 }
 
-QVariantMap recordOf(const GuideChannel& channel, const QString& iconName)
+QVariantMap recordOf(const GuideChannel& channel)
 {
-    return {{QStringLiteral("Location"), GuideImport::idOfChannel(channel.id).hex()},
+    const ObjectId id = GuideImport::idOfChannel(channel.id);
+    return {{QStringLiteral("Location"), id.hex()},
             {QStringLiteral("Title"), titleOf(channel)},
-            {QStringLiteral("Icon"), QString(region + QLatin1Char('/') + iconName)},
+            {QStringLiteral("Icon"), QString(region + QLatin1Char('/') + GuideIcons::fileName(id))},
             {QStringLiteral("Language"), supportedLanguage(channel.language)},
             {QStringLiteral("Location1"), QString(QLatin1String("tvpc.") + channel.id)}};
 }
 
 } // namespace
 
-GuideImport::GuideImport(URLSession& network, QString cataloguePath, QString iconFolder)
+GuideImport::GuideImport(URLSession& network, QString cataloguePath, GuideIcons& icons)
     : m_network(network)
     , m_cataloguePath(std::move(cataloguePath))
-    , m_iconFolder(std::move(iconFolder))
+    , m_icons(icons)
 {
 }
 
@@ -99,7 +99,8 @@ std::variant<Page, QString> GuideImport::fetch(const URL& address) const
     return *page;
 }
 
-std::variant<ImportReport, QString> GuideImport::import(const QString& source, const IconProgress& progress) const
+std::variant<ImportReport, QString> GuideImport::import(const QString& source,
+                                                        const std::function<bool()>& isEnded) const
 {
     const auto address = addressOfSource(source);
     if (!address)
@@ -113,22 +114,23 @@ std::variant<ImportReport, QString> GuideImport::import(const QString& source, c
     if (guide->channels.empty())
         return localized("The guide at %1 has no channels.").arg(address->text());
 
-    ImportReport report{*address, std::move(*guide), {}, 0};
-    QHash<QString, QString> iconNames;
-    const auto icons = saveGuideIcons(m_network, report.guide.channels, m_iconFolder, iconNames, progress);
-    if (!icons)
+    if (isEnded())
         return localized("The import was ended; the guide of before stays.");
-    report.iconsFetched = *icons;
+
+    ImportReport report{*address, std::move(*guide), {}};
     QVariantList records;
     for (const GuideChannel& channel : report.guide.channels) {
         report.channels.push_back(idOfChannel(channel.id));
-        records.append(recordOf(channel, iconNames.value(channel.id)));
+        records.append(recordOf(channel));
     }
     const QVariantMap catalogue{{QStringLiteral("Guide"), address->text()}, {QStringLiteral("Channels"), records}};
-    const FileResult written =
-        AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly);
+    // Drawn ahead of the catalogue: a channel without an icon's file is left out.
+    FileResult written = m_icons.draw(report.guide.channels);
+    if (!written.failed())
+        written = AtomicFile::write(m_cataloguePath, writePropertyList(catalogue), AtomicFile::Access::OwnerOnly);
     if (written.failed())
         return localized("The catalogue can't be written: %1").arg(written.text);
+    m_icons.adopt(report.guide.channels);
     return report;
 }
 

@@ -15,20 +15,20 @@ struct ImportReport
     URL address;
     GuideSummary guide; ///< what was found and skipped
     std::vector<ObjectId> channels;
-    std::size_t iconsFetched = 0; ///< the others were drawn
 };
 
 /// Makes the catalogue of an XMLTV guide of the user's own: channels with ids that stay the same at every import,
-/// titles, icons, and the guide's address. The catalogue is one file that is replaced as a whole; until then everything
-/// stays as it was. Blocks the caller; not on the main thread.
+/// titles, drawn icons, and the guide's address. The catalogue is one file that is replaced as a whole; until then
+/// everything stays as it was. Fetching the guide's icons is another matter. Blocks the caller; not on the main thread.
 class GuideImport
 {
 public:
-    /// `network` outlives the import.
-    GuideImport(URLSession& network, QString cataloguePath, QString iconFolder);
+    /// `network` and `icons` outlive the import.
+    GuideImport(URLSession& network, QString cataloguePath, GuideIcons& icons);
 
-    /// `source`: an address, or the path of a file. The report, or a message for the user.
-    std::variant<ImportReport, QString> import(const QString& source, const IconProgress& progress) const;
+    /// `source`: an address, or the path of a file. `isEnded`: whether the user gave up meanwhile. The report, or a
+    /// message for the user.
+    std::variant<ImportReport, QString> import(const QString& source, const std::function<bool()>& isEnded) const;
 
     /// The id under which a channel of a guide stands in its catalogue.
     static ObjectId idOfChannel(const QString& guideId);
@@ -40,7 +40,7 @@ private:
 
     URLSession& m_network;
     const QString m_cataloguePath;
-    const QString m_iconFolder;
+    GuideIcons& m_icons;
 };
 
 } // namespace vidora

@@ -7,8 +7,12 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <arpa/inet.h>
 #include <csignal>
 #include <gmock/gmock.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace vidora {
 namespace {
@@ -248,6 +252,56 @@ TEST(Program, AFailedImportLeavesEverythingAsItWas)
         EXPECT_EQ(run.errors.count(QLatin1Char('\n')), 1) << run.errors.toStdString();
     }
     EXPECT_EQ(home.files(), before);
+}
+
+/// An address on this machine that takes connections and never answers.
+class SilentHost
+{
+public:
+    SilentHost()
+    {
+        m_address.sin_family = AF_INET;
+        m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        auto* address = reinterpret_cast<sockaddr*>(&m_address);
+        socklen_t size = sizeof m_address;
+        EXPECT_EQ(::bind(m_socket, address, size), 0);
+        EXPECT_EQ(::listen(m_socket, 10), 0);
+        EXPECT_EQ(::getsockname(m_socket, address, &size), 0);
+    }
+    ~SilentHost() { ::close(m_socket); }
+
+    QByteArray address() const { return "http://127.0.0.1:" + QByteArray::number(ntohs(m_address.sin_port)); }
+
+private:
+    const int m_socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in m_address = {};
+};
+
+TEST(Program, HasAGuideAheadOfItsIcons)
+{
+    const SilentHost host;
+    const Home home;
+    const QByteArray icon = "</display-name><icon src='" + host.address() + "/one.png'/>";
+    const QString guide = home.file(utf8("guide.xml"), shortGuide("Early").replace("</display-name>", icon));
+    QProcess process;
+    home.start(process, {utf8("import"), guide});
+    ASSERT_TRUE(process.waitForReadyRead(Home::patience)) << "what was imported is told at once";
+    process.kill();
+    Home::end(process);
+    EXPECT_EQ(home.run(words("channels|--json")).json()[QLatin1String("channels")].toArray().size(), 1);
+    const auto icons = home.files();
+    const auto drawn = std::find_if(icons.begin(), icons.end(),
+                                    [](const auto& file) { return file.first.endsWith(QLatin1String(".icon")); });
+    ASSERT_NE(drawn, icons.end());
+    EXPECT_TRUE(drawn->second.startsWith("<svg"));
+
+    home.start(process, {utf8("import"), guide});
+    ASSERT_TRUE(process.waitForReadyRead(Home::patience));
+    process.terminate();
+    EXPECT_EQ(Home::end(process).status, 128 + SIGTERM);
+    const QJsonObject again = home.run({utf8("import"), guide, utf8("--json")}).json();
+    EXPECT_EQ(again[QLatin1String("iconsDrawn")].toInt(), 1);
+    EXPECT_EQ(again[QLatin1String("iconsWaiting")].toInt(), 0) << "asked for, and not again today";
 }
 
 TEST(Program, SharesItsHomeWithAnotherProcess)
