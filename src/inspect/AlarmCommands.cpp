@@ -32,13 +32,13 @@ QJsonObject silent(const Request& request, const Surroundings&)
 
 } // namespace
 
-Command alarmCommand(const QString& name)
+const CommandTable& alarmCommands()
 {
-    static const QHash<QString, Command> commands{
+    static const CommandTable commands{
         {QStringLiteral("minutes"), minutes},
         {QStringLiteral("silent"), silent},
     };
-    return commands.value(name, nullptr);
+    return commands;
 }
 
 } // namespace vidora::inspect

@@ -69,6 +69,10 @@ Arguments readArguments(const QStringList& arguments)
         }
         const qsizetype equals = argument.indexOf(QLatin1Char('='));
         const QString name = argument.mid(2, equals < 0 ? -1 : equals - 2);
+        if (name == QLatin1String("help")) {
+            result.help = true;
+            return result;
+        }
         if (name == QLatin1String("batch")) {
             result.batch = true;
             continue;

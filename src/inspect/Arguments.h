@@ -17,6 +17,7 @@ struct Arguments
     std::optional<QString> endpointsFile;
     std::optional<QString> iconFolder;
     bool batch = false;
+    bool help = false;
     QJsonObject request; ///< the one request, without --batch
 };
 

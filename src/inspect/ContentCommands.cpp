@@ -115,9 +115,9 @@ QJsonObject details(const Request& request, const Surroundings&)
 
 } // namespace
 
-Command contentCommand(const QString& name)
+const CommandTable& contentCommands()
 {
-    static const QHash<QString, Command> commands{
+    static const CommandTable commands{
         {QStringLiteral("object-id"), objectId},
         {QStringLiteral("classify"), classify},
         {QStringLiteral("category-text"), categoryText},
@@ -131,7 +131,7 @@ Command contentCommand(const QString& name)
         {QStringLiteral("digest"), digest},
         {QStringLiteral("details"), details},
     };
-    return commands.value(name, nullptr);
+    return commands;
 }
 
 } // namespace vidora::inspect

@@ -2,14 +2,19 @@
 
 namespace vidora::inspect {
 
+CommandTable allCommands()
+{
+    CommandTable commands = contentCommands();
+    commands.insert(listingCommands());
+    commands.insert(alarmCommands());
+    return commands;
+}
+
 QJsonObject answer(const Request& request, const Surroundings& surroundings)
 {
     const QString name = request.command();
-    Command command = contentCommand(name);
-    if (!command)
-        command = listingCommand(name);
-    if (!command)
-        command = alarmCommand(name);
+    static const CommandTable commands = allCommands();
+    const Command command = commands.value(name);
     if (!command)
         throw UnusableRequest(QStringLiteral("unknown command \"%1\"").arg(name));
     try {

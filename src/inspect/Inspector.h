@@ -4,6 +4,7 @@
 #include "listings/Endpoints.h"
 #include "platform/Clock.h"
 
+#include <QHash>
 #include <QJsonObject>
 
 #include <memory>
@@ -24,11 +25,15 @@ QJsonObject answer(const Request& request, const Surroundings& surroundings);
 
 using Command = QJsonObject (*)(const Request& request, const Surroundings& surroundings);
 
+using CommandTable = QHash<QString, Command>; // by name
+
 /// Commands on texts and values.
-Command contentCommand(const QString& name);
+const CommandTable& contentCommands();
 /// Commands on sources, documents and the catalogue.
-Command listingCommand(const QString& name);
+const CommandTable& listingCommands();
 /// Commands on favourites and alarms.
-Command alarmCommand(const QString& name);
+const CommandTable& alarmCommands();
+/// All of them.
+CommandTable allCommands();
 
 } // namespace vidora::inspect

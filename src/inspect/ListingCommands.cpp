@@ -171,16 +171,16 @@ QJsonObject xmltvDateCommand(const Request& request, const Surroundings&)
 
 } // namespace
 
-Command listingCommand(const QString& name)
+const CommandTable& listingCommands()
 {
-    static const QHash<QString, Command> commands{
+    static const CommandTable commands{
         {QStringLiteral("type"), type},
         {QStringLiteral("urls"), urls},
         {QStringLiteral("catalogue"), catalogue},
         {QStringLiteral("parse"), parse},
         {QStringLiteral("xmltv-date"), xmltvDateCommand},
     };
-    return commands.value(name, nullptr);
+    return commands;
 }
 
 } // namespace vidora::inspect

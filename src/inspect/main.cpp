@@ -63,10 +63,26 @@ void answerBatch(const Surroundings& surroundings)
         print(answerLine(line, surroundings));
 }
 
+void printHelp()
+{
+    QStringList names = allCommands().keys();
+    names.sort();
+    std::fputs("Usage: vidora-inspect [--clock TIME] [--endpoints FILE] [--icons DIR] COMMAND [--FIELD VALUE]...\n"
+               "       vidora-inspect [--clock TIME] [--endpoints FILE] [--icons DIR] --batch\n\nCommands:\n",
+               stdout);
+    for (const QString& name : names)
+        std::printf("  %s\n", qUtf8Printable(name));
+    std::puts("\nvidora-inspect(1) tells their fields.");
+}
+
 int run(const QStringList& commandLine)
 {
     try {
         const Arguments arguments = readArguments(commandLine);
+        if (arguments.help) {
+            printHelp();
+            return 0;
+        }
         const std::unique_ptr<Clock> clock =
             arguments.clock ? std::unique_ptr<Clock>(std::make_unique<FixedClock>(*arguments.clock))
                             : std::make_unique<SystemClock>();
