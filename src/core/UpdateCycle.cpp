@@ -92,15 +92,26 @@ UpdateCycle::UpdateCycle(Services services, UpdateObserver& observer)
 
 UpdateCycle::~UpdateCycle()
 {
+    end();
     m_passes.wait();
 }
 
 void UpdateCycle::checkAndUpdateAllChannels()
 {
     m_passes.enter();
+    if (m_asked++ == 0)
+        beginPass();
+}
+
+// The shows are counted when the pass has its turn: counts from before would have it read again what the pass ahead of
+// it has just brought.
+void UpdateCycle::beginPass()
+{
     m_services.listings.showCountForSelectedChannelsForQueue(m_services.checkAndUpdateAllChannelsQueue,
                                                              [this](const std::unordered_map<ObjectId, int>& counts) {
                                                                  run(counts);
+                                                                 if (--m_asked > 0)
+                                                                     beginPass();
                                                                  m_passes.leave();
                                                              });
 }
@@ -113,6 +124,30 @@ void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
     *task = m_services.application.beginBackgroundTask(QStringLiteral("listings update"), endTask);
 
     Pass pass;
+    if (!m_isEnding)
+        collectWhatIsNeeded(pass, showCounts);
+    m_mainBlocks.async([this, channels = pass.missing.size()] { m_observer.passStarted(channels); });
+
+    for (const URLSet& urls : pass.inOrder()) {
+        if (m_isEnding)
+            break;
+        update(pass, urls);
+    }
+
+    m_mainBlocks.async(endTask);
+    if (pass.parsedAnything) {
+        m_services.loadQueue.sync([this] { m_services.listings.updatePopularList(); });
+        // Alarms leave the events of a channel alone while it is loading, and would not come back to them.
+        m_services.listings.listingsStored();
+    }
+    m_mainBlocks.async(
+        [this, shows = pass.shows, failed = std::vector<ObjectId>(pass.missing.begin(), pass.missing.end())] {
+            m_observer.passEnded(shows, failed);
+        });
+}
+
+void UpdateCycle::collectWhatIsNeeded(Pass& pass, const std::unordered_map<ObjectId, int>& showCounts)
+{
     for (const ObjectId& id : m_services.channels.selected()) {
         const auto channel = m_services.channels.channelWithChannelId(id);
         if (!channel)
@@ -125,21 +160,6 @@ void UpdateCycle::run(const std::unordered_map<ObjectId, int>& showCounts)
             continue;
         m_services.loadQueue.sync([&] { collect(pass, id); });
     }
-    m_mainBlocks.async([this, channels = pass.missing.size()] { m_observer.passStarted(channels); });
-
-    for (const URLSet& urls : pass.inOrder())
-        update(pass, urls);
-
-    m_mainBlocks.async(endTask);
-    if (pass.parsedAnything) {
-        m_services.loadQueue.sync([this] { m_services.listings.updatePopularList(); });
-        // Alarms leave the events of a channel alone while it is loading, and would not come back to them.
-        m_services.listings.listingsStored();
-    }
-    m_mainBlocks.async(
-        [this, shows = pass.shows, failed = std::vector<ObjectId>(pass.missing.begin(), pass.missing.end())] {
-            m_observer.passEnded(shows, failed);
-        });
 }
 
 void UpdateCycle::collect(Pass& pass, const ObjectId& channel)
@@ -162,12 +182,14 @@ void UpdateCycle::collect(Pass& pass, const ObjectId& channel)
     }
 }
 
-ChannelItems UpdateCycle::neededOf(const std::vector<Source>& group) const
+// What this pass has brought, it doesn't bring again: a user who refreshes a channel meanwhile gets its first source by
+// the pass that the refresh asks for, never a lower one by this.
+ChannelItems UpdateCycle::neededOf(const Pass& pass, const URLSet& urls) const
 {
     ChannelItems needed;
-    for (const Source& source : group) {
+    for (const Source& source : pass.groups.at(urls)) {
         const auto channel = m_services.channels.channelWithChannelId(source.channel);
-        if (channel && channel->reloadNeeded())
+        if (channel && pass.missing.contains(source.channel) && channel->reloadNeeded())
             needed.push_back({source.channel, source.sourceId, channel->language()});
     }
     return needed;
@@ -175,7 +197,7 @@ ChannelItems UpdateCycle::neededOf(const std::vector<Source>& group) const
 
 void UpdateCycle::update(Pass& pass, const URLSet& urls)
 {
-    const ChannelItems needed = neededOf(pass.groups.at(urls));
+    const ChannelItems needed = neededOf(pass, urls);
     if (needed.empty())
         return;
     std::vector<ObjectId> channels;
@@ -212,12 +234,14 @@ QString UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& 
     try {
         const std::uint32_t type = listingsTypeForSourceId(needed.front().sourceId, m_services.endpoints);
         setLoading(needed, true);
+        const Instant now = m_services.clock.now();
         Delivery delivery;
-        m_services.parser.netList(
-            needed, pages, m_services.clock.now(), type, [&](const ObjectId& channel, const SharedShowList& list) {
-                const auto count = std::min<std::size_t>(list->size(), m_services.showCount());
-                delivery[channel] = {{list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count)}, list->size()};
-            });
+        m_services.parser.netList(needed, pages, now, type, [&](const ObjectId& channel, const SharedShowList& list) {
+            const auto count = std::min<std::size_t>(list->size(), m_services.showCount());
+            const bool isStored = !list->empty() && endsAfter(*list->front()->entry, now);
+            delivery[channel] = {
+                {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(count)}, list->size(), isStored};
+        });
         setLoading(needed, false);
         if (delivery.empty())
             return whyNothing(pages);
@@ -235,13 +259,12 @@ QString UpdateCycle::parse(Pass& pass, const ChannelItems& needed, const Pages& 
 void UpdateCycle::publish(Pass& pass, const Delivery& delivery)
 {
     pass.parsedAnything = true;
+    // The store stamps the channels' load times behind what it has to save; waiting for the last of them here keeps the
+    // next pass from fetching them as well.
+    m_services.listings.isScheduledForSaving(delivery.begin()->first);
     for (const auto& [channel, delivered] : delivery) {
         pass.shows += delivered.count;
-        // The store stamps a channel's load time behind what it has to save; waiting for that here keeps the channel's
-        // next source from being fetched as well.
-        m_services.listings.isScheduledForSaving(channel);
-        const auto object = m_services.channels.channelWithChannelId(channel);
-        if (object && !object->reloadNeeded())
+        if (delivered.isStored)
             pass.missing.erase(channel);
     }
     tellOfDelivery(delivery);

@@ -13,6 +13,7 @@
 #include "platform/DispatchQueue.h"
 #include "store/TVListings.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -64,20 +65,26 @@ public:
     };
 
     UpdateCycle(Services services, UpdateObserver& observer);
-    /// Waits for the passes that were asked for. Main thread.
+    /// Ends the passes, and waits for the document at which the running one is. Main thread.
     ~UpdateCycle();
     UpdateCycle(const UpdateCycle&) = delete;
     UpdateCycle& operator=(const UpdateCycle&) = delete;
 
-    /// Starts a pass and returns at once. Passes never overlap: a second one waits and finds little to do. Main thread.
+    /// Starts a pass and returns at once. Passes never overlap: a second one looks at the channels when its turn has
+    /// come, and finds little to do. Main thread.
     void checkAndUpdateAllChannels();
+    /// The running pass takes no further document, and those that wait fetch nothing; what has come stays. For the end
+    /// of the process; observers are told as ever. Any thread.
+    void end() { m_isEnding = true; }
 
 private:
-    /// What a document brought: of each channel's list the shows that screens look at first, and how many it has.
+    /// What a document brought: of each channel's list the shows that screens look at first, how many it has, and
+    /// whether the store has it, which takes no list of the past.
     struct Delivered
     {
         ShowList firstShows;
         std::size_t count;
+        bool isStored;
     };
     using Delivery = std::unordered_map<ObjectId, Delivered>;
 
@@ -92,10 +99,12 @@ private:
     };
     struct Pass;
 
+    void beginPass();
     void run(const std::unordered_map<ObjectId, int>& showCounts);
     static void addTo(std::vector<Source>& group, Source source);
+    void collectWhatIsNeeded(Pass& pass, const std::unordered_map<ObjectId, int>& showCounts);
     void collect(Pass& pass, const ObjectId& channel);
-    ChannelItems neededOf(const std::vector<Source>& group) const;
+    ChannelItems neededOf(const Pass& pass, const URLSet& urls) const;
     void update(Pass& pass, const URLSet& urls);
     Pages fetch(const URLSet& urls, PageOutcome& last);
     /// What came of it, for the log.
@@ -107,7 +116,9 @@ private:
     const Services m_services;
     UpdateObserver& m_observer;
     BlockOwner m_mainBlocks;
-    DispatchGroup m_passes; ///< asked for and not over yet
+    DispatchGroup m_passes;       ///< asked for and not over yet
+    std::atomic<int> m_asked = 0; ///< how many these are
+    std::atomic<bool> m_isEnding = false;
 };
 
 } // namespace vidora

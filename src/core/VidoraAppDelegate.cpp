@@ -278,14 +278,15 @@ void VidoraAppDelegate::applicationDidReceiveMemoryWarning()
     m_cache.setMemoryCapacity(capacity);
 }
 
-void VidoraAppDelegate::applicationWillTerminate()
+bool VidoraAppDelegate::applicationWillTerminate()
 {
     m_alarmEngine->commit();
     if (!m_environment.readOnly)
         m_defaults.synchronize();
-    m_application.finishBackgroundTasks();
+    const bool isFinished = m_application.finishBackgroundTasks();
     m_channels->waitForWrites();
     m_shows.waitForWrites();
+    return isFinished;
 }
 
 void VidoraAppDelegate::checkAndUpdateAllChannels()

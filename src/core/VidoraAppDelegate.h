@@ -75,7 +75,9 @@ public:
     /// Commits what is pending, with the screens as they are: the user may still look at them.
     void commitPending();
     void applicationDidReceiveMemoryWarning();
-    void applicationWillTerminate();
+    /// Waits for what must not be cut off, for as long as the grace period lasts. False when that was too short: to
+    /// destroy this object would take longer still.
+    bool applicationWillTerminate();
 
     /// Replaces the selection, with all that follows from it: lists of channels that are no longer selected go, alarms
     /// and screens follow, and the tabs are turned off and on with the last and the first channel. Who adds channels
@@ -88,6 +90,8 @@ public:
     /// A list in sight has run out or grown stale, and no activation is to come. Starts a pass, unless one is under way
     /// or nobody looks. Whether it did.
     bool listRanOut();
+    /// The running pass takes no further document, and no other one begins. For the end of the process.
+    void endUpdates() { m_updateCycle->end(); }
     /// Shows a number on the application's icon, 0 for none.
     std::function<void(int)> applicationIconBadge;
     /// Called on the main thread when the first request begins and when the last one has ended.

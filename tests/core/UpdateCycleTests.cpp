@@ -122,6 +122,92 @@ TEST_F(UpdateCycleTest, passesOverTheSecondSourceOfAChannelThatWasDelivered)
     EXPECT_TRUE(device.failed.empty());
 }
 
+/// Counts what is fetched, from the cache as well, until so many passes are over.
+struct Passes final : UpdateObserver
+{
+    explicit Passes(TestDevice& observed)
+        : device(observed)
+    {
+        device.delegate->setUpdateObserver(this);
+    }
+    ~Passes() override { device.delegate->setUpdateObserver(nullptr); }
+    void passStarted(std::size_t channels) override { wanted.push_back(channels); }
+    void fetching(const std::vector<ObjectId>&) override { ++fetches; }
+    void delivered(const std::unordered_map<ObjectId, ShowList>&) override {}
+    void passEnded(std::size_t, const std::vector<ObjectId>&) override { ++ended; }
+    void wait(int passes)
+    {
+        DispatchQueue::runMain([&] { return ended == passes; });
+    }
+    TestDevice& device;
+    std::vector<std::size_t> wanted;
+    int fetches = 0, ended = 0;
+};
+
+TEST_F(UpdateCycleTest, aSecondRequestFindsNothingLeftToDo)
+{
+    const auto first = with(one, {QStringLiteral("n.a")});
+    const auto second = with(two, {QStringLiteral("tvpc.b")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
+    device.session.answer(feedTvpc, xml(guide({QStringLiteral("b")}, QStringLiteral("T"))));
+    start({first, second});
+    Passes passes(device);
+    device.session.onRequest = [&](const URLRequest&) {
+        DispatchQueue::main().async([&] { device.delegate->checkAndUpdateAllChannels(); });
+    };
+    device.delegate->checkAndUpdateAllChannels();
+    device.delegate->checkAndUpdateAllChannels();
+    passes.wait(4);
+    EXPECT_EQ(passes.wanted, (std::vector<std::size_t>{2, 0, 0, 0}));
+    EXPECT_EQ(passes.fetches, 2);
+}
+
+// The user refreshes a channel between its first source, which has delivered, and its second.
+TEST_F(UpdateCycleTest, aRefreshBesideAPassKeepsTheFirstSource)
+{
+    const QString silent = QStringLiteral("https://dolce.example/program/x");
+    const auto refreshed = with(one, {QStringLiteral("n.a"), QStringLiteral("tvpc.a")});
+    const auto other = with(two, {QStringLiteral("dolce-sport.x")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
+    device.session.answer(feedTvpc, xml(guide({QStringLiteral("a")}, QStringLiteral("T"))));
+    start({refreshed, other});
+    Passes passes(device);
+    bool isRefreshed = false;
+    device.session.onRequest = [&](const URLRequest& request) {
+        if (request.url.text() != silent || std::exchange(isRefreshed, true))
+            return;
+        device.delegate->channels().channelWithChannelId(ObjectId::initWithHex(refreshed.id))->unload();
+        DispatchQueue::main().async([&] { device.delegate->checkAndUpdateAllChannels(); });
+    };
+    device.delegate->checkAndUpdateAllChannels();
+    passes.wait(2);
+    EXPECT_TRUE(isRefreshed);
+    EXPECT_FALSE(device.session.takeRequests().contains(feedTvpc));
+    EXPECT_EQ(device.titles(refreshed).value(0), u"N 0");
+    EXPECT_EQ(passes.wanted, (std::vector<std::size_t>{2, 2})) << "the refresh has a pass of its own";
+}
+
+TEST_F(UpdateCycleTest, anEndInTheMidstOfAPassKeepsWhatCameAndAsksForNoMore)
+{
+    const auto first = with(one, {QStringLiteral("n.a")});
+    const auto second = with(two, {QStringLiteral("tvpc.b")});
+    device.session.answer(feedN, xml(guide({QStringLiteral("a")}, QStringLiteral("N"))));
+    start({first, second});
+    device.session.onRequest = [&](const URLRequest&) { device.delegate->endUpdates(); };
+    {
+        Passes passes(device);
+        device.delegate->checkAndUpdateAllChannels();
+        device.delegate->checkAndUpdateAllChannels();
+        passes.wait(2);
+        EXPECT_EQ(passes.wanted, (std::vector<std::size_t>{2, 0})) << "who waits for a pass is told of its end";
+    }
+    device.quit();
+    EXPECT_EQ(device.session.takeRequests(), QStringList{feedN});
+    device.launch();
+    EXPECT_EQ(device.titles(first).size(), 5);
+    EXPECT_TRUE(device.titles(second).isEmpty());
+}
+
 TEST_F(UpdateCycleTest, keepsWhatItHasWhenEverySourceFails)
 {
     const auto channel = with(one, {QStringLiteral("n.a"), QStringLiteral("tvpc.a")});

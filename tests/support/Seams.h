@@ -168,9 +168,14 @@ public:
 
     URLResult perform(const URLRequest& request) override
     {
+        if (onRequest)
+            onRequest(request);
         const Reply reply = begin(request);
         return reply ? reply(request) : fromTable(request.url.text());
     }
+
+    /// Happens ahead of each answer, on the thread that asks. Set while nothing is asked.
+    std::function<void(const URLRequest&)> onRequest;
 
     static URLResult noRoute(const QString& reason = {})
     {
