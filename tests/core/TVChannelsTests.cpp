@@ -257,5 +257,29 @@ TEST_F(TVChannelsTest, anActivationReadsSettingsAndRefreshesTheScreens)
     EXPECT_EQ(home->told, told);
 }
 
+// A screen unloads while the pass stamps and another screen asks. ThreadSanitizer sees an access without the lock.
+TEST_F(TVChannelsTest, theAgeOfAChannelMayBeAskedAndChangedOnSeveralThreads)
+{
+    channels().setSelected({idOne});
+    const auto channel = channels().channelWithChannelId(idOne);
+    DispatchGroup group;
+    const auto often = [&](const std::function<void()>& work) {
+        group.async(DispatchQueue::global(QualityOfService::UserInitiated), [work] {
+            for (int i = 0; i < 200; ++i)
+                work();
+        });
+    };
+    often([&] { channel->unload(); });
+    often([&] { channel->setTimeLoaded(device.clock.now()); });
+    often([&] { channel->expire(); });
+    often([&] { channel->setLoading(!channel->loading()); });
+    often([&] { channel->timeLoaded(); });
+    often([&] { channel->reloadNeeded(); });
+    group.wait();
+    channel->setLoading(false);
+    channel->unload();
+    EXPECT_TRUE(channel->reloadNeeded());
+}
+
 } // namespace
 } // namespace vidora

@@ -1,6 +1,8 @@
 #include "listings/Page.h"
+#include "listings/PageStream.h"
 #include "listings/TextDecoder.h"
 
+#include <future>
 #include <gtest/gtest.h>
 #include <lzma.h>
 #include <zlib.h>
@@ -204,6 +206,30 @@ TEST(Page, DecodesCharactersThatAreCutByTheEndOfAPiece)
         EXPECT_EQ(japanese->end(), Page::Outcome::Complete);
         EXPECT_EQ(text, QByteArray("日本"));
     }
+}
+
+// More than is decoded ahead, left at its first piece, while the other thread waits for room.
+TEST(PageStream, MayBeLeftInTheMidstOfALongPage)
+{
+    constexpr int attempts = 10;
+    const auto ended = std::make_shared<std::promise<int>>();
+    DispatchQueue::global(QualityOfService::UserInitiated).async([ended] {
+        const Page page = plain(guide(4'000'000), "UTF-8");
+        int pieces = 0;
+        for (int i = 0; i < attempts; ++i) {
+            readUtf8Ahead(page, [&](std::string_view bytes) {
+                uLong sum = 0; // takes longer than to decode all that there is room for
+                for (int round = 0; round < 40; ++round)
+                    sum = adler32(sum, reinterpret_cast<const Bytef*>(bytes.data()), static_cast<uInt>(bytes.size()));
+                pieces += sum != 0;
+                return false;
+            });
+        }
+        ended->set_value(pieces);
+    });
+    auto pieces = ended->get_future();
+    ASSERT_EQ(pieces.wait_for(std::chrono::seconds(60)), std::future_status::ready) << "it hangs";
+    EXPECT_EQ(pieces.get(), attempts);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QtTest/QTest>
 
 #include <atomic>
+#include <future>
 #include <gmock/gmock.h>
 #include <thread>
 
@@ -149,6 +150,30 @@ TEST_F(ShowPictureTest, BringsNothingAnyMoreOnceStopped)
                                       [&received, held = watch(secondIsOver)](const ShowImage&) { received = true; });
     DispatchQueue::runMain([&] { return isOver && secondIsOver; });
     EXPECT_FALSE(received);
+}
+
+TEST_F(ShowPictureTest, AnEndWhileAPictureLoadsWaitsForItsRequestAndNoLonger)
+{
+    const URL url = serve("show.png", test::png(30, 30));
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        auto asked = std::make_shared<std::promise<void>>(), stopped = std::make_shared<std::promise<void>>();
+        device.session.onRequest = [asked](const URLRequest& request) {
+            asked->set_value();
+            while (!*request.cancelled)
+                std::this_thread::yield();
+            for (int i = 0; i < 300; ++i) // time for the other to wait for this
+                std::this_thread::yield();
+        };
+        const auto ended = std::make_shared<ShowPictureLoader>(*device.delegate, 99.0, 2.0);
+        ended->asyncLoadOfShowImageAtURL(url, [](const ShowImage&) { ADD_FAILURE() << "received at the end"; });
+        asked->get_future().wait();
+        std::thread([ended, stopped] {
+            ended->stop();
+            stopped->set_value();
+        }).detach();
+        ASSERT_EQ(stopped->get_future().wait_for(std::chrono::seconds(60)), std::future_status::ready) << "it hangs";
+        device.delegate->applicationDidReceiveMemoryWarning(); // the next attempt asks again
+    }
 }
 
 } // namespace
