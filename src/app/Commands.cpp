@@ -62,8 +62,7 @@ int runCommand(const CommandLine& line)
         CommandSession session(line, device, password);
         status = runToEnd(command, session);
     }
-    device.quit();
-    return device.isEnding() ? ExitStatus::endedBySignal + device.endSignal() : status;
+    return device.end(status);
 }
 
 } // namespace vidora

@@ -1,5 +1,6 @@
 #include "app/Device.h"
 
+#include "app/Commands.h"
 #include "app/Terminal.h"
 #include "calendar/FolderEventStore.h"
 #include "core/GuideImport.h"
@@ -12,6 +13,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+
+#include <cstdlib>
 
 namespace vidora {
 
@@ -92,14 +95,14 @@ bool Device::hasOwnGuide() const
     return QFile::exists(ownCatalogue(m_folders));
 }
 
-Device::Device(const CommandLine& line, Access access, bool wantsNetwork)
+Device::Device(const CommandLine& line, Access access, bool wantsNetwork, const Waiting& waiting)
     : m_folders(foldersOf(line))
     , m_clock(clockOf(line))
     , m_network(maximumDocument, {}, &m_connectivity)
     , m_calendarNetwork(maximumCalendarAnswer)
 {
     m_folders.make();
-    lockHome(access);
+    lockHome(access, waiting);
     const bool own = hasOwnGuide();
     const auto guide = own ? GuideImport::addressOfCatalogue(ownCatalogue(m_folders)) : std::nullopt;
     if (own && !guide)
@@ -133,12 +136,12 @@ void Device::openCalendars(Access access)
         std::make_shared<FolderEventStore>(calendars(m_folders), localized("This device"), *m_clock, m_random));
     m_calendarAccounts = std::make_unique<CalendarAccounts>(
         CalendarAccountSurroundings{calendarAccounts(m_folders), calendarMirrors(m_folders), *m_secrets,
-                                    m_calendarNetwork, *m_clock, m_random, m_sleeper, &m_calendarServices,
+                                    m_calendarNetwork, *m_clock, m_random, m_calendarSleeper, &m_calendarServices,
                                     access == Access::Read || m_lock->outcome() != HomeLock::Outcome::First},
         *m_eventStore);
 }
 
-void Device::lockHome(Access access)
+void Device::lockHome(Access access, const Waiting& waiting)
 {
     m_lock = std::make_unique<HomeLock>(m_folders.documents);
     if (m_lock->outcome() == HomeLock::Outcome::First)
@@ -152,7 +155,10 @@ void Device::lockHome(Access access)
         say(localized("Another vidora (process %1) is using this home; showing what it has.").arg(holder));
         return;
     }
-    say(localized("Another vidora (process %1) is using this home; waiting for it.").arg(holder));
+    const QString reason = localized("Another vidora (process %1) is using this home; waiting for it.").arg(holder);
+    say(reason);
+    if (waiting)
+        waiting(reason);
     bool taken = false;
     DispatchQueue::global(QualityOfService::UserInitiated).async([&] {
         m_lock->waitForTurn();
@@ -187,25 +193,47 @@ void Device::endBySignal(int signal)
 {
     Log::line(QStringLiteral("ending by signal %1").arg(signal));
     m_endSignal = signal;
-    m_network.invalidateAndCancel();
+    endRequests();
     m_calendarNetwork.invalidateAndCancel();
-    m_sleeper.invalidateAndWake();
+    m_calendarSleeper.invalidateAndWake();
     if (endRequested)
         endRequested();
     // A second request ends the process where it stands: files are whole at every moment.
     m_mainBlocks.async([this] { m_signals.reset(); });
 }
 
-void Device::quit()
+void Device::endRequests()
 {
+    m_delegate->endUpdates();
+    m_network.invalidateAndCancel();
+    m_sleeper.invalidateAndWake();
+}
+
+int Device::end(int status)
+{
+    const bool isOver = quit();
+    const int ended = isEnding() ? ExitStatus::endedBySignal + endSignal() : status;
+    if (!isOver) {
+        Log::line(QStringLiteral("ending in the midst of a document"));
+        std::fflush(nullptr);
+        std::_Exit(ended);
+    }
+    return ended;
+}
+
+bool Device::quit()
+{
+    endRequests();
     // What a pass brought last may still be on its way to the calendar.
     bool calendarIsSettled = false;
     DispatchQueue::main().async([&] { m_delegate->alarmEngine().whenIdle([&] { calendarIsSettled = true; }); });
     DispatchQueue::runMain([&] { return calendarIsSettled; });
     m_delegate->applicationDidEnterBackground();
-    m_delegate->applicationWillTerminate();
+    if (!m_delegate->applicationWillTerminate())
+        return false;
     if (m_calendarAccounts)
         waitForCalendarServers();
+    return true;
 }
 
 /// What was changed goes out ahead of the end, unless a server keeps silent: then it waits for the next time.

@@ -30,8 +30,12 @@ public:
         Write ///< it waits until it is the only one
     };
 
+    /// Shows why nothing happens yet. Called ahead of the waiting, during which the event loop runs.
+    using Waiting = std::function<void(const QString& reason)>;
+
     /// `wantsNetwork`: the command may fetch. Starts the sample region when there is no guide of the user's own.
-    Device(const CommandLine& line, Access access, bool wantsNetwork);
+    /// `waiting`: told, beside standard error, when another process has to end first.
+    Device(const CommandLine& line, Access access, bool wantsNetwork, const Waiting& waiting = {});
     ~Device();
 
     VidoraAppDelegate& delegate() { return *m_delegate; }
@@ -52,8 +56,16 @@ public:
     bool isEnding() const { return m_endSignal != 0; }
     /// Called on the main thread at the first such signal. May be empty.
     std::function<void()> endRequested;
-    /// Commits what is pending and ends everything that runs.
-    void quit();
+    /// Makes every request to providers fail and every pause end at once; the running pass takes no further document,
+    /// and no other one begins. Any thread.
+    void endRequests();
+    /// Commits what is pending and what has come, and ends everything that runs. False when something outlasts the
+    /// grace period, such as a provider's document that is read for minutes: everything is on the disk then, but to
+    /// destroy this object would take longer still.
+    bool quit();
+    /// Quits, and gives the status with which the process is to end. Doesn't return where something outlasts the grace
+    /// period: the process ends then and there.
+    int end(int status);
 
     /// Where the application's own files lie: beside the program where it is installed, else in the source tree.
     static QString resources();
@@ -69,7 +81,7 @@ public:
     static constexpr QLatin1String scheme{"vidora"};
 
 private:
-    void lockHome(Access access);
+    void lockHome(Access access, const Waiting& waiting);
     void openCalendars(Access access);
     void waitForCalendarServers();
     void watchSystem();
@@ -79,7 +91,7 @@ private:
     StandardFolders m_folders;
     std::unique_ptr<Clock> m_clock;
     SystemRandom m_random;
-    SystemSleeper m_sleeper;
+    SystemSleeper m_sleeper, m_calendarSleeper;
     Connectivity m_connectivity;
     NetworkURLSession m_network;
     NetworkURLSession m_calendarNetwork;

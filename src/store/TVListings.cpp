@@ -84,10 +84,12 @@ void TVListings::changeDictionary(const Change& change)
 void TVListings::saveAllShowsWithUpdatePopular(bool updatePopular)
 {
     changeDictionary([&](ListingsDictionary& dictionary) { dictionary.merge(m_surroundings.clock.now()); });
+    if (!updatePopular)
+        return;
     const auto lists = dictionary();
     for (const auto& [channel, list] : lists->lists())
         list->forgetReleased();
-    if (updatePopular && m_popularRefresh)
+    if (m_popularRefresh)
         m_popularRefresh(lists);
 }
 

@@ -1,14 +1,18 @@
 #include "WindowFixture.h"
 #include "app/window/SingleInstance.h"
+#include "app/window/WaitingNote.h"
 #include "content/TVEntry.h"
+#include "platform/HomeLock.h"
 #include "platform/Timer.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QProcess>
 #include <QQuickItem>
 #include <QSignalSpy>
+#include <QTcpServer>
 
 namespace vidora {
 namespace {
@@ -124,6 +128,9 @@ TEST_F(WindowTest, RefreshesAChannelWhileAPassRuns)
     screen().select(0);
     DispatchQueue::runMain([&] { return !screen().isRoot(); });
     test::turn();
+    const int rows = screen().rows()->rowCount();
+    const ObjectId channel = m_device.delegate().channels().selected().front();
+    ASSERT_GT(m_device.delegate().channelData().at(channel).sources().size(), 1U);
     m_device.delegate().checkAndUpdateAllChannels();
     QTest::keyClick(window(), Qt::Key_F5);
     EXPECT_TRUE(screen().refreshing());
@@ -131,8 +138,7 @@ TEST_F(WindowTest, RefreshesAChannelWhileAPassRuns)
     DispatchQueue::runMain([&] { return progress.isRunning(); });
     EXPECT_GE(progress.wanted(), 1);
     DispatchQueue::runMain([&] { return !screen().refreshing() && !progress.isRunning(); });
-    EXPECT_GE(rowOfKind(utf8("show")), 0)
-        << "which of its sources answers last decides the number, never that there are none";
+    EXPECT_EQ(screen().rows()->rowCount(), rows);
     m_device.quit();
 }
 
@@ -241,6 +247,75 @@ TEST_F(WindowTest, SaysAMessageOnceAndListsChannelsInAPopover)
     EXPECT_FALSE(m_model.popover());
     DispatchQueue::runMain([&] { return !screen().isRoot(); });
     m_device.quit();
+}
+
+/// Takes what is sent and never answers.
+class SilentProvider
+{
+public:
+    SilentProvider()
+    {
+        m_server.listen(QHostAddress::LocalHost);
+        QObject::connect(&m_server, &QTcpServer::newConnection, [this] { ++m_requests; });
+    }
+    QString host() const { return utf8("127.0.0.1:%1").arg(m_server.serverPort()); }
+    int requests() const { return m_requests; }
+
+private:
+    QTcpServer m_server;
+    int m_requests = 0;
+};
+
+TEST(WindowEnd, WaitsForNoProviderInTheMidstOfAPass)
+{
+    constexpr Milliseconds timeOutOfARequest{20'000};
+    const SilentProvider provider;
+    const QTemporaryDir folder;
+    CommandLine line = test::lineOn(folder);
+    QDir(folder.path()).mkpath(utf8("settings"));
+    QFile endpoints(folder.filePath(utf8("settings/endpoints.json")));
+    ASSERT_TRUE(endpoints.open(QIODevice::WriteOnly));
+    endpoints.write(utf8(R"({"n": {"scheme": "http", "host": "%1"}})").arg(provider.host()).toUtf8());
+    endpoints.close();
+    QElapsedTimer sinceClose;
+    {
+        Device device(line, Device::Access::Write, false);
+        test::turn();
+        ChannelIds fromThere;
+        for (const auto& [id, channel] : device.delegate().channelData()) {
+            if (channel.sources().front().startsWith(utf8("n.")))
+                fromThere.push_back(id);
+        }
+        ASSERT_FALSE(fromThere.empty());
+        device.delegate().channels().setSelected(fromThere);
+        device.delegate().applicationDidBecomeActive();
+        device.delegate().checkAndUpdateAllChannels();
+        DispatchQueue::runMain([&] { return provider.requests() > 0; });
+        sinceClose.start();
+        EXPECT_TRUE(device.quit());
+    }
+    EXPECT_LT(sinceClose.elapsed(), timeOutOfARequest.count());
+    EXPECT_EQ(provider.requests(), 1);
+}
+
+TEST(WindowStart, ShowsANoteWhileAnotherProcessHasTheHome)
+{
+    const QTemporaryDir folder;
+    const CommandLine line = test::lineOn(folder);
+    const StandardFolders folders = StandardFolders::under(folder.path());
+    folders.make();
+    auto other = std::make_unique<HomeLock>(folders.documents);
+    std::optional<WaitingNote> note;
+    Device device(line, Device::Access::Write, false, [&](const QString& reason) {
+        EXPECT_THAT(reason.toStdString(), ::testing::HasSubstr("waiting for it"));
+        note.emplace(reason);
+        const auto windows = QGuiApplication::topLevelWindows();
+        EXPECT_TRUE(
+            std::any_of(windows.begin(), windows.end(), [](const QWindow* shown) { return shown->isVisible(); }));
+        DispatchQueue::main().async([&] { other.reset(); });
+    });
+    EXPECT_TRUE(note);
+    device.quit();
 }
 
 TEST(MinuteTicks, ComeAtTheStartOfEachMinute)

@@ -8,6 +8,7 @@
 #include "app/window/LauncherBadge.h"
 #include "app/window/ShowPictureLoader.h"
 #include "app/window/SingleInstance.h"
+#include "app/window/WaitingNote.h"
 #include "app/window/WindowImages.h"
 #include "app/window/WindowLife.h"
 #include "app/window/WindowModel.h"
@@ -24,6 +25,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <optional>
 
 namespace vidora {
 
@@ -168,10 +170,12 @@ int runWindow(const CommandLine& line)
     SingleInstance instance(homeOf(line));
     if (instance.handOver(address))
         return 0;
-    Device device(line, Device::Access::Write, true);
+    std::optional<WaitingNote> note;
+    Device device(line, Device::Access::Write, true, [&](const QString& reason) { note.emplace(reason); });
     int status = 1;
     {
         OpenWindow window(device);
+        note.reset();
         if (window.isOpen()) {
             instance.listen([&](const QString& message) { window.receive(message); });
             DispatchQueue::main().async([&] { device.delegate().applicationDidBecomeActive(); });
@@ -179,10 +183,10 @@ int runWindow(const CommandLine& line)
                 DispatchQueue::main().async([&] { window.receive(address); });
             status = QCoreApplication::exec();
             instance.close(); // from here on a second start waits for the home instead
+            device.endRequests();
         }
     }
-    device.quit();
-    return device.isEnding() ? ExitStatus::endedBySignal + device.endSignal() : status;
+    return device.end(status);
 }
 
 int testWindow()
