@@ -86,6 +86,7 @@ void TVListings::saveAllShowsWithUpdatePopular(bool updatePopular)
     changeDictionary([&](ListingsDictionary& dictionary) { dictionary.merge(m_surroundings.clock.now()); });
     if (!updatePopular)
         return;
+    // At the end of a pass, not for each of its documents: all lists are looked through.
     const auto lists = dictionary();
     for (const auto& [channel, list] : lists->lists())
         list->forgetReleased();

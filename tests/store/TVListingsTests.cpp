@@ -116,9 +116,9 @@ TEST_F(TVListingsTest, CommitsListsThatAreOnTheirWay)
     }
 }
 
-// A pass over many channels announces each of them. By processor time within one run, where each merge of its own would
-// cost more than a hundred times as much.
-TEST_F(TVListingsTest, MergesNothingThatNobodyLooksAt)
+// A pass over many channels announces each of them. By processor time within one run, where to look through all lists
+// at each would cost thirty times as much.
+TEST_F(TVListingsTest, AnnouncesEachOfManyListsForNextToNothing)
 {
     constexpr int channels = 500;
     std::vector<SharedShowList> lists;
