@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>kam ještě smí heslo</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 přijímá: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[KLÍČ [HODNOTA]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>nastavení, nebo jedno změnit; „default“ ho vrátí</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>po kolika sekundách se seznam znovu stáhne</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>kolik pořadů kanálu ukazuje přehled toho, co právě běží</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>barvy pro to, co právě běží, a pro oblíbené</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>obrázky pořadů</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>obrázky za stránkou pořadu</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>barvy okna; „desktop“ se řídí nastavením plochy</translation>
     </message>
 </context>
 </TS>

@@ -959,6 +959,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>wohin das Passwort noch darf</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 nimmt an: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[SCHLÜSSEL [WERT]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>die Einstellungen, oder eine ändern; „default“ setzt sie zurück</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>nach wie vielen Sekunden eine Liste neu geholt wird</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>wie viele Sendungen eines Senders bei „jetzt“ stehen</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>Farben für Laufendes und für Favoriten</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>Bilder der Sendungen</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>Bilder hinter der Seite einer Sendung</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>die Farben des Fensters; „desktop“ folgt dem, was dort eingestellt ist</translation>
     </message>
 </context>
 </TS>

@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>kamo još smije lozinka</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 prima: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[KLJUČ [VRIJEDNOST]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>postavke, ili promijeni jednu; &quot;default&quot; je vraća</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>nakon koliko sekundi se popis ponovno dohvaća</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>koliko emisija kanala stoji u pregledu onoga što je sada</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>boje za ono što je u eteru i za omiljene</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>slike emisija</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>slike iza stranice emisije</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>boje prozora; &quot;desktop&quot; slijedi što je ondje postavljeno</translation>
     </message>
 </context>
 </TS>

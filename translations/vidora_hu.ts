@@ -948,6 +948,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>hová mehet még a jelszó</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 ezt fogadja el: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[KULCS [ÉRTÉK]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>a beállítások, vagy egy módosítása; a „default” visszaállítja</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>hány másodperc után töltődik le újra egy lista</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>hány műsort mutat egy csatornáról a most futók listája</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>színek az éppen futókhoz és a kedvencekhez</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>a műsorok képei</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>képek a műsor oldala mögött</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>az ablak színei; a „desktop” az ottani beállítást követi</translation>
     </message>
 </context>
 </TS>

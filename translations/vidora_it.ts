@@ -959,6 +959,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>dove altro può andare la password</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 accetta: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[CHIAVE [VALORE]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>le impostazioni, o cambiarne una; &quot;default&quot; la ripristina</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>dopo quanti secondi un elenco viene scaricato di nuovo</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>quanti programmi di un canale stanno in ciò che va in onda ora</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>colori per ciò che è in onda e per i preferiti</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>immagini dei programmi</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>immagini dietro la pagina di un programma</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>i colori della finestra; &quot;desktop&quot; segue ciò che è impostato lì</translation>
     </message>
 </context>
 </TS>

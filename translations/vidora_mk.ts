@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>каде уште смее лозинката</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 прима: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[КЛУЧ [ВРЕДНОСТ]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>поставките, или измени една; „default“ ја враќа</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>по колку секунди листата повторно се презема</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>колку емисии од канал стојат во она што е сега</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>бои за она што е во етер и за омилените</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>слики од емисиите</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>слики зад страницата на емисија</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>боите на прозорецот; „desktop“ го следи она што е поставено таму</translation>
     </message>
 </context>
 </TS>

@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>unde mai poate ajunge parola</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 acceptă: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[CHEIE [VALOARE]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>setările, sau schimbă una; „default” o readuce</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>după câte secunde o listă este adusă din nou</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>câte emisiuni ale unui canal apar la ce este acum</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>culori pentru ce este în emisie și pentru favorite</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>imagini ale emisiunilor</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>imagini în spatele paginii unei emisiuni</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>culorile ferestrei; „desktop” urmează ce este setat acolo</translation>
     </message>
 </context>
 </TS>

@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>kam ešte smie heslo</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 prijíma: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[KĽÚČ [HODNOTA]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>nastavenia, alebo jedno zmeniť; „default“ ho vráti</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>po koľkých sekundách sa zoznam znova stiahne</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>koľko relácií kanála ukazuje prehľad toho, čo práve beží</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>farby pre to, čo práve beží, a pre obľúbené</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>obrázky relácií</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>obrázky za stránkou relácie</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>farby okna; „desktop“ sa riadi nastavením plochy</translation>
     </message>
 </context>
 </TS>

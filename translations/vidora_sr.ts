@@ -970,6 +970,52 @@
     <message>
         <source>where else the password may go</source>
         <translation>где још сме лозинка</translation>
+        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where else the password may go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes: %2.</source>
+        <translation>%1 прима: %2.</translation>
+    </message>
+    <message>
+        <source>[KEY [VALUE]]</source>
+        <translation>[КЉУЧ [ВРЕДНОСТ]]</translation>
+    </message>
+    <message>
+        <source>the settings, or change one; &quot;default&quot; sets it back</source>
+        <translation>подешавања, или промени једно; &quot;default&quot; га враћа</translation>
+    </message>
+    <message>
+        <source>after how many seconds a list is fetched again</source>
+        <translation>после колико секунди се листа поново преузима</translation>
+    </message>
+    <message>
+        <source>how many shows of a channel stand in what is on now</source>
+        <translation>колико емисија канала стоји у прегледу онога што је сада</translation>
+    </message>
+    <message>
+        <source>colours for what is on air and for favourites</source>
+        <translation>боје за оно што је у етру и за омиљене</translation>
+    </message>
+    <message>
+        <source>pictures of shows</source>
+        <translation>слике емисија</translation>
+    </message>
+    <message>
+        <source>pictures behind the page of a show</source>
+        <translation>слике иза странице емисије</translation>
+    </message>
+    <message>
+        <source>the window&apos;s colours; &quot;desktop&quot; follows what is set there</source>
+        <translation>боје прозора; &quot;desktop&quot; следи што је тамо подешено</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 #include "alarms/SelectedCalendar.h"
 #include "platform/BlockOwner.h"
 #include "platform/DispatchQueue.h"
+#include "platform/Settings.h"
 #include "store/TVListings.h"
 
 #include <mutex>
@@ -33,7 +34,7 @@ public:
     };
 
     /// In the key-value store: the lead time of the event that was written last.
-    static constexpr QLatin1String lastAlarmMinutesKey{"lastAlarmMinutes"};
+    static constexpr QLatin1String lastAlarmMinutesKey{setting::lastAlarmMinutes.key};
 
     explicit AlarmEngine(AlarmSurroundings surroundings);
     /// On the main thread, after the store of shows is gone. Waits for the work on the calendar.

@@ -2,7 +2,7 @@
 
 #include "calendar/EventStore.h"
 #include "platform/KeyValueStore.h"
-#include "platform/UserDefaults.h"
+#include "platform/Settings.h"
 
 namespace vidora {
 
@@ -40,9 +40,9 @@ public:
     /// Title, source and the four components of the colour, each 0.5 where the calendar names none.
     static QString colorStringForCalendar(const Calendar& calendar);
 
-    static constexpr QLatin1String key{"selectedCalendar"};
-    static constexpr QLatin1String placeKey{"selectedCalendarPlace"};
-    static constexpr QLatin1String lostKey{"lostCalendar"};
+    static constexpr QLatin1String key{setting::selectedCalendar.key};
+    static constexpr QLatin1String placeKey{setting::selectedCalendarPlace.key};
+    static constexpr QLatin1String lostKey{setting::lostCalendar.key};
 
 private:
     std::optional<Calendar> remembered(const QString& looks, const QString& place) const;

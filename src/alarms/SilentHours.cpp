@@ -8,10 +8,6 @@ namespace vidora {
 
 namespace {
 
-const QString enabledKey = QStringLiteral("noAlarmsSchedule");
-const QString fromKey = QStringLiteral("noAlarmsSchedule.0");
-const QString toKey = QStringLiteral("noAlarmsSchedule.1");
-
 int minutesOf(QTime time)
 {
     return time.hour() * 60 + time.minute();
@@ -35,40 +31,40 @@ bool SilentPeriod::mayBeAlarmedAt(Instant date) const
 
 bool SilentHours::enabled() const
 {
-    return m_keyValueStore.boolForKey(enabledKey);
+    return m_keyValueStore.boolForKey(setting::silentHours.name());
 }
 
 void SilentHours::setEnabled(bool enabled)
 {
-    m_keyValueStore.setObject(enabled, enabledKey);
+    m_keyValueStore.setObject(enabled, setting::silentHours.name());
 }
 
 Instant SilentHours::fromTimestamp() const
 {
-    return timestamp(fromKey, QTime(0, 0));
+    return timestamp(setting::silentHoursFrom);
 }
 
 void SilentHours::setFromTimestamp(Instant date)
 {
-    m_keyValueStore.setObject(dateValue(date), fromKey);
+    m_keyValueStore.setObject(dateValue(date), setting::silentHoursFrom.name());
 }
 
 Instant SilentHours::toTimestamp() const
 {
-    return timestamp(toKey, QTime(7, 0));
+    return timestamp(setting::silentHoursTo);
 }
 
 void SilentHours::setToTimestamp(Instant date)
 {
-    m_keyValueStore.setObject(dateValue(date), toKey);
+    m_keyValueStore.setObject(dateValue(date), setting::silentHoursTo.name());
 }
 
-Instant SilentHours::timestamp(const QString& key, QTime unset) const
+Instant SilentHours::timestamp(const Setting& setting) const
 {
-    const auto value = m_keyValueStore.objectForKey(key);
+    const auto value = m_keyValueStore.objectForKey(setting.name());
     const QDateTime date = value ? value->toDateTime() : QDateTime();
     return date.isValid() ? instantFromUnixMilliseconds(date.toMSecsSinceEpoch())
-                          : timestampOf(unset, DeviceSettings::timeZone());
+                          : timestampOf(QTime::fromString(setting.usualText()), DeviceSettings::timeZone());
 }
 
 SilentPeriod SilentHours::period() const

@@ -2,6 +2,7 @@
 
 #include "platform/Instant.h"
 #include "platform/KeyValueStore.h"
+#include "platform/Settings.h"
 
 #include <QTime>
 #include <QTimeZone>
@@ -51,7 +52,7 @@ public:
     static QTime timeOf(Instant date, const QTimeZone& zone);
 
 private:
-    Instant timestamp(const QString& key, QTime unset) const;
+    Instant timestamp(const Setting& setting) const;
 
     KeyValueStore& m_keyValueStore;
 };

@@ -74,7 +74,7 @@ const CommandFamily& channelCommands()
          .least = 1,
          .most = Command::any,
          .kind = ValueKind::Channel,
-         .changes = Touches::Everything,
+         .changesWith = 0,
          .run = select},
         {.name = "unselect",
          .arguments = "X...",
@@ -82,7 +82,7 @@ const CommandFamily& channelCommands()
          .least = 1,
          .most = Command::any,
          .kind = ValueKind::Channel,
-         .changes = Touches::Everything,
+         .changesWith = 0,
          .run = unselect},
     };
     return family;

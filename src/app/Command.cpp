@@ -38,8 +38,8 @@ QString Command::usage() const
 
 std::vector<const CommandFamily*> commandFamilies()
 {
-    return {&showCommands(),      &channelCommands(), &guideCommands(),
-            &favouriteCommands(), &alarmCommands(),   &calendarCommands()};
+    return {&showCommands(),  &channelCommands(),  &guideCommands(),  &favouriteCommands(),
+            &alarmCommands(), &calendarCommands(), &settingCommands()};
 }
 
 const Command* commandNamed(const QString& name)

@@ -32,14 +32,6 @@ struct CommandOption
     bool isRequired = false;
 };
 
-/// What a command does to the home. One that writes waits until no other process uses it.
-enum class Touches
-{
-    Nothing,
-    WhatArgumentsName, ///< shows what there is without an argument, and changes it with one
-    Everything
-};
-
 /// A command of the command line: all that reading it, its help, completion, manual page and run need. Adding one is
 /// an entry in the table of its family, and a function.
 struct Command
@@ -52,7 +44,8 @@ struct Command
     qsizetype most = 0;
     ValueKind kind = ValueKind::Text; ///< of its arguments
     std::vector<CommandOption> options = {};
-    Touches changes = Touches::Nothing;
+    /// With how many arguments it changes something in the home, and so waits until no other process uses it.
+    qsizetype changesWith = never;
     bool fetches = false; ///< uses the providers, and goes on where nothing can be kept
     bool asksPassword = false;
     /// What options and arguments must fulfil together. Throws UsageError. May be null.
@@ -61,6 +54,7 @@ struct Command
     void (*run)(CommandSession& session) = nullptr;
 
     static constexpr qsizetype any = 1'000'000; ///< arguments
+    static constexpr qsizetype never = any + 1;
 
     QString usage() const; ///< "vidora alarm X --at TIME [--on CHANNEL]", in the user's language
 };
@@ -74,6 +68,7 @@ const CommandFamily& guideCommands();
 const CommandFamily& favouriteCommands();
 const CommandFamily& alarmCommands();
 const CommandFamily& calendarCommands();
+const CommandFamily& settingCommands();
 
 /// All of them, in the order of the help.
 std::vector<const CommandFamily*> commandFamilies();

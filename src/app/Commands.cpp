@@ -10,12 +10,6 @@ namespace vidora {
 
 namespace {
 
-bool changesHome(const Command& command, const CommandLine& line)
-{
-    return command.changes == Touches::Everything ||
-           (command.changes == Touches::WhatArgumentsName && !line.arguments.isEmpty());
-}
-
 int runToEnd(const Command& command, CommandSession& session)
 {
     try {
@@ -55,7 +49,7 @@ int runCommand(const CommandLine& line)
         }
         password = *given;
     }
-    const bool changes = changesHome(command, line);
+    const bool changes = line.arguments.size() >= command.changesWith;
     Device device(line, changes ? Device::Access::Write : Device::Access::Read, command.fetches);
     int status = ExitStatus::notDone;
     if (!changes || command.fetches || device.keepsChanges()) {

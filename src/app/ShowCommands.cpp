@@ -138,7 +138,7 @@ const CommandFamily& showCommands()
          .meaning = QT_TRANSLATE_NOOP(
              "vidora",
              "Without a command: the window; without a display, what is on now, after an update where one is due."),
-         .changes = Touches::Everything,
+         .changesWith = 0,
          .fetches = true,
          .run = tonight},
         {.name = "now",

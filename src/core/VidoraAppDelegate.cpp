@@ -3,6 +3,7 @@
 #include "content/TVEntry.h"
 #include "core/Tabs.h"
 #include "platform/Log.h"
+#include "platform/Settings.h"
 
 #include <QCoreApplication>
 
@@ -14,8 +15,6 @@ namespace vidora {
 
 namespace {
 
-constexpr double defaultUpdateInterval = 86'400;
-constexpr std::uint8_t defaultShowCount = 4;
 constexpr Milliseconds delayOfPlaying{100}; // the system pauses players as it puts the application away
 constexpr Milliseconds delayOfSettings{300};
 const QString filteredCatalogue = QStringLiteral("5b65e9d23afbe36684bdfe2c.plist");
@@ -23,8 +22,8 @@ const QString filteredCatalogue = QStringLiteral("5b65e9d23afbe36684bdfe2c.plist
 Milliseconds intervalForCache(double seconds)
 {
     constexpr double bound = 1e9;
-    return Milliseconds(static_cast<std::int64_t>(std::isfinite(seconds) ? std::clamp(seconds, 0.0, bound) * 1000
-                                                                         : defaultUpdateInterval * 1000));
+    const double usable = std::isfinite(seconds) ? seconds : setting::updateInterval.usualText().toDouble();
+    return Milliseconds(static_cast<std::int64_t>(std::clamp(usable, 0.0, bound) * 1000));
 }
 
 } // namespace
@@ -190,7 +189,7 @@ void VidoraAppDelegate::changeSelection(const ChannelIds& selection)
 
 void VidoraAppDelegate::setup()
 {
-    m_colorizedShows = m_defaults.boolForKey(QStringLiteral("colorizedShows"));
+    m_colorizedShows = setting::colorizedShows.flag(m_defaults);
     if (m_isPad)
         m_tabBarController.setEnabled(tabIndex(TabKind::AllShows, m_isPad), true);
     if (m_channels->selected().empty()) {
@@ -203,13 +202,10 @@ void VidoraAppDelegate::setup()
 
 void VidoraAppDelegate::readSettings()
 {
-    const auto flag = [this](const QString& key) {
-        return !m_defaults.objectForKey(key) || m_defaults.boolForKey(key);
-    };
-    m_imagesEnabled = flag(QStringLiteral("show_img"));
-    m_showBgImages = flag(QStringLiteral("bg_img"));
-    const auto count = static_cast<std::uint8_t>(m_defaults.integerForKey(QStringLiteral("currently_show_count")));
-    m_showCount = count == 0 ? defaultShowCount : count;
+    m_imagesEnabled = setting::pictures.flag(m_defaults);
+    m_showBgImages = setting::backgroundPictures.flag(m_defaults);
+    const auto count = static_cast<std::uint8_t>(m_defaults.integerForKey(setting::showCount.name()));
+    m_showCount = count == 0 ? static_cast<std::uint8_t>(setting::showCount.usualText().toInt()) : count;
 }
 
 void VidoraAppDelegate::applicationDidBecomeActive()
@@ -350,8 +346,7 @@ void VidoraAppDelegate::notificationsSynched()
 
 double VidoraAppDelegate::automaticUpdateInterval() const
 {
-    const QString key = QStringLiteral("data_update");
-    return m_defaults.objectForKey(key) ? m_defaults.doubleForKey(key) : defaultUpdateInterval;
+    return setting::updateInterval.number(m_defaults);
 }
 
 void VidoraAppDelegate::passStarted(std::size_t channels)

@@ -1,13 +1,14 @@
 #include "screens/StoreKitHelper.h"
 
 #include "platform/Log.h"
+#include "platform/Settings.h"
 
 namespace vidora {
 
 void StoreKitHelper::displayStoreKit(UserDefaults& defaults, const QString& version,
                                      const std::function<void()>& requestReview)
 {
-    const QString savedVersion = QStringLiteral("savedVersion"), times = QStringLiteral("numberOfTimesLaunched");
+    const QString savedVersion = setting::reviewedVersion.name(), times = setting::launchCount.name();
     constexpr std::int64_t enough = 10;
     if (defaults.stringForKey(savedVersion) != version) {
         defaults.setInteger(1, times);

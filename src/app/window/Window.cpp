@@ -14,6 +14,7 @@
 #include "app/window/WindowModel.h"
 #include "platform/Log.h"
 #include "platform/MemoryWarnings.h"
+#include "platform/Settings.h"
 
 #include <QDirIterator>
 #include <QGuiApplication>
@@ -103,7 +104,7 @@ private:
     /// What the user set by hand, whatever the desktop says.
     std::optional<bool> chosenAppearance()
     {
-        const std::optional<QString> chosen = delegate().defaults().stringForKey(QStringLiteral("appearance"));
+        const QString chosen = setting::appearance.text(delegate().defaults());
         if (chosen == QLatin1String("dark"))
             return true;
         return chosen == QLatin1String("light") ? std::optional(false) : std::nullopt;

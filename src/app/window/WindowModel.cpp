@@ -1,6 +1,7 @@
 #include "app/window/WindowModel.h"
 
 #include "content/BroadcastTime.h"
+#include "platform/Settings.h"
 
 #include <QFontInfo>
 #include <QGuiApplication>
@@ -11,8 +12,13 @@ namespace vidora {
 
 namespace {
 
-const QString widthKey = QStringLiteral("window.width");
-const QString heightKey = QStringLiteral("window.height");
+/// A size that no screen has is not taken for one.
+int kept(const Setting& side, const UserDefaults& defaults)
+{
+    const double value = side.number(defaults);
+    const bool fits = value >= static_cast<double>(side.least) && value <= static_cast<double>(side.most);
+    return fits ? static_cast<int>(value) : side.usualText().toInt();
+}
 
 } // namespace
 
@@ -59,18 +65,14 @@ QString WindowModel::timeSample() const
 
 QSize WindowModel::windowSize() const
 {
-    constexpr int least = 320, most = 10'000, width = 1024, height = 768;
-    const auto kept = [this](const QString& key, int usual) {
-        const auto value = static_cast<int>(m_delegate.defaults().integerForKey(key));
-        return value < least || value > most ? usual : value;
-    };
-    return {kept(widthKey, width), kept(heightKey, height)};
+    const UserDefaults& defaults = m_delegate.defaults();
+    return {kept(setting::windowWidth, defaults), kept(setting::windowHeight, defaults)};
 }
 
 void WindowModel::keepWindowSize(int width, int height)
 {
-    m_delegate.defaults().setInteger(width, widthKey);
-    m_delegate.defaults().setInteger(height, heightKey);
+    m_delegate.defaults().setInteger(width, setting::windowWidth.name());
+    m_delegate.defaults().setInteger(height, setting::windowHeight.name());
 }
 
 void WindowModel::setDark(bool dark)
