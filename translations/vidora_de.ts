@@ -958,17 +958,7 @@
     </message>
     <message>
         <source>where else the password may go</source>
-        <translation>wohin das Passwort noch darf</translation>
-        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>where else the password may go</source>
-        <translation type="unfinished"></translation>
+        <translation>wohin das Passwort noch gehen darf</translation>
     </message>
     <message>
         <source>%1 takes: %2.</source>

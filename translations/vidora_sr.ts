@@ -969,17 +969,7 @@
     </message>
     <message>
         <source>where else the password may go</source>
-        <translation>где још сме лозинка</translation>
-        <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server does not take the change of &quot;%1&quot; in %2: %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>where else the password may go</source>
-        <translation type="unfinished"></translation>
+        <translation>куда још сме да иде лозинка</translation>
     </message>
     <message>
         <source>%1 takes: %2.</source>
