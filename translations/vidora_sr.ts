@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
-        <translation>Календара „%1“ са вашим алармима више нема. Нови настају у „%2“; „vidora цалендарс НАЗИВ“ бира други.</translation>
+        <translation>Календара „%1“ са вашим алармима више нема. Нови настају у „%2“; &quot;vidora calendars НАЗИВ&quot; бира други.</translation>
     </message>
     <message>
         <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>

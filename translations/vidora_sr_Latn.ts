@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>The calendar &quot;%1&quot; of your alarms is gone. New ones are made in &quot;%2&quot;; &quot;vidora calendars NAME&quot; chooses another.</source>
-        <translation>Kalendara „%1“ sa vašim alarmima više nema. Novi nastaju u „%2“; „vidora calendars NAZIV“ bira drugi.</translation>
+        <translation>Kalendara „%1“ sa vašim alarmima više nema. Novi nastaju u „%2“; &quot;vidora calendars NAZIV&quot; bira drugi.</translation>
     </message>
     <message>
         <source>The calendars of this account lie at %1. To let the password go there: --also %1</source>

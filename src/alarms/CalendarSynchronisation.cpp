@@ -102,12 +102,15 @@ std::vector<Event> CalendarSynchronisation::cleanUp(const std::vector<Event>& ev
         if (isOurs(event, m_surroundings.scheme) && !isOwn(event, m_surroundings) && event.hasAlarms())
             others.emplace(placeOf(event), &event);
     }
-    // Two devices may make the same event at the same time. Each removes none but its own.
+    // Two devices may make the same event at the same time. Each removes none but its own. An event of a favourite's
+    // alarm may ring at another time than the other's, since one of them could not be changed; one is enough all the
+    // same.
     const auto isAnothersToo = [&](const Event& event) {
+        const bool isOfFavorite = m_surroundings.shows.scheduleTimeForFavoriteNamed(event.title).value_or(-1) >= 0;
         const auto [first, last] = others.equal_range(placeOf(event));
         return std::any_of(first, last, [&](const auto& other) {
             return other.second->device < m_surroundings.deviceMark && event.device == m_surroundings.deviceMark &&
-                   other.second->tellingAlarm() == event.tellingAlarm();
+                   (isOfFavorite || other.second->tellingAlarm() == event.tellingAlarm());
         });
     };
     bool duplicateFound = false;
