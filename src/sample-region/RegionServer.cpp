@@ -188,9 +188,9 @@ void RegionServer::answer(const Provider& provider, const std::string& origin, c
     for (const Fault& fault : faults)
         spoil(wanted, fault);
     wanted.now += wanted.dayShift * dayStep;
-    std::optional<Document> document = provider.document(wanted);
+    std::optional<Document> document = media(request.path);
     if (!document)
-        document = media(request.path);
+        document = provider.document(wanted);
     response.status = document ? 200 : 404;
     if (!document)
         document = Document{"<html><body><h1>404</h1></body></html>\n", "text/html; charset=utf-8"};

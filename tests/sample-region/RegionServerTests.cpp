@@ -92,6 +92,16 @@ TEST(RegionServer, FaultsReachTheClient)
     EXPECT_THAT(region.sleeper.slept(), ElementsAre(Milliseconds(1500)));
 }
 
+TEST(RegionServer, EverySiteHasItsPictures)
+{
+    SampleRegion region;
+    for (const Provider& provider : providers()) {
+        const auto picture = get(region.server.origin(provider.name) + "/images/4-2cce490f.png");
+        EXPECT_EQ(picture->status, 200) << provider.name;
+        EXPECT_EQ(picture->get_header_value("Content-Type"), "image/png") << provider.name;
+    }
+}
+
 TEST(RegionServer, WrongDaysAreServed)
 {
     SampleRegion region;
