@@ -86,8 +86,10 @@ void AlarmEngine::ensureSelectedCalendarIsSet()
 void AlarmEngine::runFirstStages(const std::shared_ptr<Run>& run)
 {
     ensureSelectedCalendarIsSet();
-    if (!run->anyChannelIsSelected || !run->favorites || run->favorites->empty())
+    if (!run->anyChannelIsSelected || !run->favorites || run->favorites->empty()) {
+        commitOnQueue(); // what waits for a server goes out all the same
         return;
+    }
     if (!m_surroundings.readOnly) {
         run->alarmSyncTask = m_surroundings.application.beginBackgroundTask({});
         Favorites unique;

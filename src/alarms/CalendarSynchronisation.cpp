@@ -247,7 +247,7 @@ void CalendarSynchronisation::createMissing(const FavoriteSchedule& schedule, co
 {
     std::unordered_set<URL> present;
     for (const Event& event : events) {
-        if (event.url)
+        if (event.url && event.hasAlarms())
             present.insert(*event.url);
     }
     const ShowsByTitle showsByTitle = byTitle(*schedule.shows);

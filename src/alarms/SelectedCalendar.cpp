@@ -65,7 +65,7 @@ std::optional<Calendar> SelectedCalendar::remembered(const QString& looks, const
     };
     const std::vector<Calendar> calendars = m_eventStore.calendarsForEntityType(EntityType::Event);
     for (const Calendar& calendar : calendars) {
-        if (!place.isEmpty() && calendar.allowsContentModifications && memoryOf(calendar).place == place)
+        if (!place.isEmpty() && memoryOf(calendar).place == place) // one that is read-only for now stays the chosen one
             return calendar;
     }
     for (const Fits fits : walks) {

@@ -182,7 +182,8 @@ bool CalDAVEventStore::takeCalendars(const std::vector<CalDAVClient::RemoteCalen
             writeAttribute(attribute("/.address"), address);
             writeAttribute(folderOf(calendar) + readOnlyMark, remote.writable ? QString() : QStringLiteral("1"));
             mirror(calendar).address = address;
-            mirror(calendar).missingSince.reset();
+            if (std::exchange(mirror(calendar).missingSince, std::nullopt) && !mirror(calendar).write())
+                return false;
         }
     }
     for (const QString& calendar : mirrored()) {
@@ -375,7 +376,7 @@ DAVResult CalDAVEventStore::sendOnce(CalDAVMirror& mirror, const QString& name, 
     }
     lock.unlock();
     QString tag = known.value_or(QString());
-    if (!isRemoval && known && tag.isEmpty())
+    if (tag.isEmpty() && (isRemoval || known)) // nothing goes that was not looked at
         return settle(mirror, name, order, done(), isSettled);
     const DAVResult result = isRemoval ? m_client.remove(address, tag) : m_client.put(address, *document, tag);
     if (result.outcome == Outcome::Conflict || (!isRemoval && known && result.outcome == Outcome::Missing))
@@ -397,7 +398,7 @@ DAVResult CalDAVEventStore::sendOnce(CalDAVMirror& mirror, const QString& name, 
     const DAVResult read = readVersion(QUrl(mirror.address), address, {}, remote);
     lock.lock();
     if (read.isDone())
-        noteChange(mirror.take(remote, m_clock.now()));
+        std::ignore = mirror.take(remote, m_clock.now()); // our own change is no news for the alarms
     return read.outcome == Outcome::Missing ? done() : read;
 }
 
@@ -412,7 +413,7 @@ DAVResult CalDAVEventStore::settle(CalDAVMirror& mirror, const QString& name, co
     CalDAVClient::RemoteEvent remote;
     DAVResult result = readVersion(calendar, address, known.value_or(QString()), remote);
     lock.lock();
-    if (result.outcome == Outcome::Missing && known) {
+    if (result.outcome == Outcome::Missing && (known || order.change == CalDAVMirror::Change::Remove)) {
         mirror.noteRemoved(name, order);
         mirror.token.clear(); // as above
         m_hasChanged = true;

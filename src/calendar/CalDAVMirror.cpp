@@ -131,7 +131,8 @@ CalDAVMirror::CalDAVMirror(QString folder, FileLayer& layer)
         QString tag = item.value().toArray().at(1).toString();
         if (!isPlainName(item.key()) || !isPath(href))
             continue;
-        if (QFileInfo(fileOf(item.key())).size() == 0 && !m_outbox.contains(item.key())) {
+        if (QFileInfo(fileOf(item.key())).size() == 0 && !m_outbox.contains(item.key()) &&
+            !m_refusals.contains(item.key())) {
             tag.clear();
             token.clear();
         }
@@ -244,9 +245,10 @@ void CalDAVMirror::order(const QString& name, Change change, std::uint64_t numbe
     m_refusals.erase(name);
     const auto earlier = m_outbox.find(name);
     Order order{change, number};
-    if (earlier != m_outbox.end()) {
+    if (earlier != m_outbox.end())
         order.base = earlier->second.base;
-    } else if (m_items.contains(name)) {
+    // What was never sent may meet an event of that name that another device has made.
+    if (!order.base && (change == Change::Remove || (earlier == m_outbox.end() && m_items.contains(name)))) {
         const auto copy = copyOf(name);
         const auto present = copy ? ICalendarEvent::read(*copy) : std::nullopt;
         if (present)
@@ -263,7 +265,7 @@ bool CalDAVMirror::isWanted(const CalDAVClient::RemoteEvent& event) const
     if (!name || event.tag.isEmpty() || m_items.at(*name).tag != event.tag)
         return true;
     // A copy that was lost here is no reason to lose the event there; one that we removed is not lost.
-    return !m_outbox.contains(*name) && !QFile::exists(fileOf(*name));
+    return !m_outbox.contains(*name) && !m_refusals.contains(*name) && !QFile::exists(fileOf(*name));
 }
 
 bool CalDAVMirror::take(const CalDAVClient::RemoteEvent& event, Instant now)
@@ -291,7 +293,9 @@ bool CalDAVMirror::putOnTop(const QString& name, const CalDAVClient::RemoteEvent
     const auto there = ICalendarEvent::read(theirs.document);
     const bool isOthers =
         !there || !there->single || // it has become something that is not ours to change
-        (ours && !order.base && !there->event.device.isEmpty() && there->event.device != ours->event.device);
+        (ours && !order.base && !there->event.device.isEmpty() && there->event.device != ours->event.device) ||
+        (order.change == Change::Remove && order.base && !there->event.device.isEmpty() &&
+         there->event.device != order.base->device);
     if (order.change == Change::Remove && !isOthers) {
         order.base = there->event;
         keep(name, theirs.address, theirs.tag);

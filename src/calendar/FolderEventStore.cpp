@@ -249,7 +249,8 @@ void FolderEventStore::add(Event& event)
         if (!present && !isTaken(place))
             return add(event, place, uid);
         if (!present || !present->single ||
-            present->event.url != event.url) // a broadcast that has moved keeps its name
+            (present->event.url &&
+             present->event.url != event.url)) // one that moved keeps its name; a server may drop it
             continue;
         if (!present->event.device.isEmpty() && present->event.device != event.device)
             break;
