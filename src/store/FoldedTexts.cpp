@@ -25,7 +25,8 @@ std::optional<std::string_view> FoldedTexts::all(QByteArray& scratch)
     if (bytes && bytes->size() >= m_endsSize) {
         if (!m_isKnown) {
             m_ends.resize(m_table.end());
-            std::memcpy(m_ends.data(), bytes->data(), m_endsSize);
+            if (!m_ends.empty())
+                std::memcpy(m_ends.data(), bytes->data(), m_endsSize);
             m_isKnown = ListFile::areEnds(m_ends, bytes->size() - m_endsSize);
         }
         if (m_isKnown)

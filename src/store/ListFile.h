@@ -81,7 +81,8 @@ public:
         if (!content)
             return false;
         column.resize(m_summary.shows);
-        std::memcpy(column.data(), content->data(), content->size());
+        if (!column.empty()) // an empty one has no place to copy to
+            std::memcpy(column.data(), content->data(), content->size());
         return true;
     }
     /// Whether numbers are the ends of pieces that lie one behind the other in so many bytes.
