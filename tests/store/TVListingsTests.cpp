@@ -269,6 +269,10 @@ TEST_F(TVListingsTest, DropsAListThatTurnsOutToBeDamaged)
     EXPECT_TRUE(device.unloaded.empty());
     QFile::resize(file(one), QFile(file(one)).size() / 2);
     EXPECT_LT(all().size(), 1000);
+    // It goes behind the query that noticed, whose answer may be here first.
+    constexpr int mostLooks = 1000;
+    for (int look = 0; look < mostLooks && all() != QStringList("whole"_s); ++look)
+        continue;
     EXPECT_EQ(all(), QStringList("whole"_s));
     EXPECT_EQ(device.unloaded, std::set<ObjectId>{one});
     EXPECT_TRUE(cached(one)->empty());
